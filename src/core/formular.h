@@ -1,0 +1,42 @@
+#pragma once
+#include <initializer_list>
+#include <string>
+
+#include "core/programm.h"
+#include "form/controls.h"
+#include "form/form.h"
+
+namespace core {
+
+/// What all forms of the program have in common: captions from the words, help, and the common
+/// error path.
+class Formular : public form::Form {
+  public:
+    Formular(Programm& programm, std::string name)
+        : Form(programm.forms, std::move(name)), p(programm), z(programm.zustand) {}
+
+    /// F1 opens the help page of the form.
+    bool key(form::Key key) override;
+
+  protected:
+    /// A caption and the number of its word.
+    struct Beschriftung {
+        form::Control& control;
+        int wort;
+    };
+    void beschriften(std::initializer_list<Beschriftung> beschriftungen);
+    const std::string& Wort(int id) { return p.Wort(id); }
+    void HilfeZeigen();
+
+    /// The common error path: the host's log, a warning of four lines, then `nachFehler`.
+    void failed(const std::string& prozedur, const std::exception& fehler) final;
+    /// How the log names a procedure of this form.
+    virtual std::string logText(const std::string& prozedur) const { return name() + prozedur; }
+    /// What the form does after the warning.
+    virtual void nachFehler(const std::string& prozedur) { (void)prozedur; }
+
+    Programm& p;
+    Zustand& z;
+};
+
+}  // namespace core

@@ -1,0 +1,92 @@
+#include "core/grd_einst.h"
+
+namespace core {
+
+GrdEinst::GrdEinst(Programm& programm) : Formular(programm, "grd_einst") {
+    setCaption("Grundeinstellung:  Skalen");
+    Theoriewahl(0).caption = "Gehörbildung";
+    Theoriewahl(1).caption = "Musiklehre";
+    grdeinst_lb.caption = "Übungsart";
+    ueb_typ(1).caption = "bestimmen";
+    ueb_typ(2).caption = "bilden";
+    ueb_typ(3).caption = "spielen";
+    ueb_typ(4).caption = "schreiben";
+    Kontrolle.caption = "kontrolle: nicht entfernen!!";
+    Kontrolle.visible = ueb_typ(2).visible = ueb_typ(3).visible = false;
+
+    for (form::Option& option : Theoriewahl)
+        option.onClick = {"Theoriewahl_click.", [this, &option] { Theoriewahl_click(option.index()); }};
+    for (form::Option& option : ueb_typ)
+        option.onClick = {"ueb_typ_click.", [this, &option] { z.ueb_typ = option.index(); }};
+    cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
+    cmdEnde.onClick = {"cmdEnde_click.", [this] { cmdEnde_click(); }};
+    cmdHilfe.onClick = {"cmdHilfe_click.", [this] { HilfeZeigen(); }};
+    start.onTick = {"start_timer.", [this] { start_timer(); }};
+    testtimer.onTick = {"cmdOK_click.", [this] {
+                            testtimer.stop();
+                            cmdOK_click();
+                        }};
+}
+
+void GrdEinst::load() {
+    p.host.HostVerbinden(Host::programm);
+    start.start();
+}
+
+void GrdEinst::start_timer() {
+    start.stop();
+    p.worte.SprachenLaden();
+    p.worte.SpracheSetzen(p.host.HostSprache());
+    p.katalog.KatalogInit(p.worte);
+    beschriften({{Theoriewahl(0), 724},
+                 {Theoriewahl(1), 725},
+                 {grdeinst_lb, 586},
+                 {ueb_typ(1), 154},
+                 {ueb_typ(4), 690},
+                 {cmdOK, 432},
+                 {cmdEnde, 223},
+                 {cmdHilfe, 816}});
+    z.angemeldet = p.host.HostBenutzer().at(0).text() != "unbekannt";
+    setCaption(p.katalog.titelWort + Wort(700) + p.katalog.bereich_name[0]);
+    copyright.caption = Wort(6) + " " + Wort(699) + " " + versionText();
+    Theoriewahl(0).choose();
+    z.theoriewahl = 0;
+    z.ueb_typ = 1;
+    ueb_typ(1).choose();
+    for (int i = 0; i < z.tempo_dauer.size(); ++i)
+        z.tempo_dauer[i] = katalog::tempo_dauer[static_cast<std::size_t>(i)];
+    Theoriewahl(1).enabled = forms().knows("einstellung1b");
+    ueb_typ(4).enabled = forms().knows("arbeitsblatt4");
+    forms().show(name());
+    p.host.HostMeldung(std::string(Host::programm) + "; uebungs_typ=" + std::to_string(z.ueb_typ));
+    KommandozeileLesen();
+}
+
+/// The list behind "/P=" is walked through without any effect: old starters still send it.
+void GrdEinst::KommandozeileLesen() const {
+    const std::string& zeile = p.aufruf.kommandozeile;
+    for (auto at = zeile.find("/P="); at != std::string::npos; at = zeile.find(';', at + 1)) continue;
+}
+
+void GrdEinst::Theoriewahl_click(int index) {
+    z.theoriewahl = index;
+    ueb_typ(1).choose();
+}
+
+void GrdEinst::cmdOK_click() {
+    forms().hide(name());
+    forms().load(z.theoriewahl == 0 ? "einstellung1" : "einstellung1b");
+}
+
+void GrdEinst::cmdEnde_click() {
+    p.host.HostUebergabe(forms(), "MENUE");
+}
+
+bool GrdEinst::key(form::Key key) {
+    using enum form::Key::Kind;
+    if (key.kind == Enter) cmdOK.click();
+    if (key.kind == Escape) cmdEnde.click();
+    return key.kind == Enter || key.kind == Escape || Formular::key(key);
+}
+
+}  // namespace core

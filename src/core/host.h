@@ -1,0 +1,73 @@
+#pragma once
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "core/host_port.h"
+#include "form/ports.h"
+
+namespace form {
+class Forms;
+}
+
+namespace core {
+
+struct Zustand;
+
+/// Ends the program at once; thrown only before its first form is shown.
+struct ProgrammEnde {
+    int status;
+};
+
+/// The module's link to the suite's host: everything that it asks and tells.
+class Host {
+  public:
+    /// Makes the host object; nullptr when there is no host.
+    using Factory = std::function<std::unique_ptr<HostPort>()>;
+    static constexpr const char* programm = "zepha9";
+    static constexpr int keinGeraet = -9;
+
+    Host(Factory factory, form::Dialogs& dialogs, Zustand& zustand)
+        : factory_(std::move(factory)), dialogs_(dialogs), zustand_(zustand) {}
+
+    /// Opens the link. @throws ProgrammEnde when there is no host or it did not start this module.
+    void HostVerbinden(const std::optional<std::string>& modulName = {});
+    /// Unloads all forms, last first, and hands over to the host.
+    void HostUebergabe(form::Forms& forms, const std::string& key);
+    /// Stores a record; when the host is gone `verlust` is raised, once.
+    void HostSichern(const std::string& key, const Value& wert);
+    /// Element 0 the user key or "unbekannt", then the user's data.
+    Value HostBenutzer();
+    std::string HostSprache();
+    void HostMeldung(const std::string& text);
+    /// Logs a fault, and warns the user when the host says so.
+    void HostFehler(const std::string& text, const std::exception& fehler);
+    /// Reads a record into `gelesen_a`. @return false, and nothing changed, when there is none.
+    bool LeseAbbruch(const std::string& key);
+    /// Reads a record into `gelesen_e`, likewise.
+    bool LeseEinstellung(const std::string& key);
+
+    /// MIDI device number given by the host, `keinGeraet` when it gave none.
+    int midiGeraet() const { return midiGeraet_; }
+
+    /// Something could not be stored, since the host is gone.
+    std::function<void()> verlust;
+
+  private:
+    std::optional<Value> HostLesen(const std::string& key);
+    /// A request whose failure as a call counts as the answer false.
+    bool frage(const std::string& key, const Value& argument, Value& ergebnis);
+
+    Factory factory_;
+    form::Dialogs& dialogs_;
+    Zustand& zustand_;
+    std::unique_ptr<HostPort> hostObjekt_;
+    int midiGeraet_ = keinGeraet;
+    bool verlustGemeldet_ = false;
+};
+
+/// "1.0.0000": major and minor version and the revision in four digits.
+std::string versionText();
+
+}  // namespace core

@@ -1,0 +1,52 @@
+#pragma once
+#include <string>
+
+#include "base/rnd.h"
+#include "core/host.h"
+#include "core/katalog.h"
+#include "core/worte.h"
+#include "core/zustand.h"
+#include "form/forms.h"
+#include "form/message_loop.h"
+#include "form/ports.h"
+
+namespace core {
+
+/// Everything outside that the program works with. The owner outlives the program.
+struct Ports {
+    form::MessageLoop& loop;
+    form::Dialogs& dialogs;
+    form::Printer& printer;
+    form::Help& help;
+    Host::Factory host;
+    SprachListe* sprachen = nullptr;
+};
+
+/// What the shell gave at the start.
+struct Aufruf {
+    std::string kommandozeile;
+    std::string tempOrdner;   ///< folder of the result record, without a slash at its end
+    std::string rechnername;  ///< the computer's name
+};
+
+/// The program as one value: state, catalogue, words, host, chance and forms. Forms keep a
+/// reference to it.
+class Programm {
+  public:
+    Programm(Ports ports, Aufruf aufruf, std::int64_t seed);
+
+    const std::string& Wort(int id) { return worte.Wort(id); }
+    /// Shows the small message form with a longer text.
+    void Melden(const std::string& titel, const std::string& text);
+
+    Ports ports;
+    Aufruf aufruf;
+    Zustand zustand;
+    Katalog katalog;
+    Worte worte;
+    Host host;
+    base::Rnd rnd;
+    form::Forms forms;
+};
+
+}  // namespace core

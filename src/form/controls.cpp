@@ -1,0 +1,136 @@
+#include "form/controls.h"
+
+#include <algorithm>
+
+#include "base/runtime_error.h"
+#include "form/form.h"
+#include "form/message_loop.h"
+
+namespace form {
+
+void Button::click() {
+    if (usable()) raise(onClick);
+}
+
+void Picture::click() {
+    if (usable()) raise(onClick);
+}
+
+void Panel::click() {
+    if (usable()) raise(onClick);
+}
+
+void Option::take() {
+    for (Control* c : form().controls()) {
+        auto* other = c->kind() == Kind::Option && c->name() == name() ? static_cast<Option*>(c) : nullptr;
+        if (!other || other == this || !other->value_) continue;
+        other->value_ = false;
+        other->tell(Aspect::Value);
+    }
+    if (value_) return;
+    value_ = true;
+    tell(Aspect::Value);
+}
+
+void Option::choose() {
+    if (value_) return;
+    take();
+    raise(onClick);
+}
+
+void Option::click() {
+    if (!usable()) return;
+    take();
+    raise(onClick);
+}
+
+void ItemList::check(int i) const {
+    if (i < 0 || i >= count()) base::throwSubscript();
+}
+
+const ItemList::Item& ItemList::item(int i) const {
+    check(i);
+    return items_[static_cast<std::size_t>(i)];
+}
+
+void ItemList::add(std::string text, int data) { insert(count(), std::move(text), data); }
+
+void ItemList::insert(int i, std::string text, int data) {
+    if (i < 0 || i > count()) base::throwSubscript();
+    items_.insert(items_.begin() + i, Item{std::move(text), data});
+    if (listIndex_ >= i) ++listIndex_;
+    tell(Aspect::Items);
+}
+
+void ItemList::remove(int i) {
+    check(i);
+    items_.erase(items_.begin() + i);
+    if (listIndex_ == i) listIndex_ = -1;
+    if (listIndex_ > i) --listIndex_;
+    tell(Aspect::Items);
+}
+
+void ItemList::setText(int i, std::string text) {
+    check(i);
+    auto& item = items_[static_cast<std::size_t>(i)];
+    if (item.text == text) return;
+    item.text = std::move(text);
+    tell(Aspect::Items);
+}
+
+void ItemList::clear() {
+    listIndex_ = -1;
+    if (items_.empty()) return;
+    items_.clear();
+    tell(Aspect::Items);
+}
+
+void Combo::setListIndex(int i) {
+    if (i != -1) check(i);
+    const bool moved = i != listIndex_;
+    listIndex_ = i;
+    if (moved) tell(Aspect::Value);
+    raise(onSelect);
+}
+
+std::string Combo::text() const { return listIndex_ < 0 ? std::string() : item(listIndex_).text; }
+
+void ListBox::click(int i) {
+    check(i);
+    listIndex_ = i;
+    raise(onClick);
+}
+
+void Slider::setValue(int value) {
+    const int inside = std::clamp(value, minimum_, maximum_);
+    const bool moved = inside != value_;
+    value_ = inside;
+    if (moved) tell(Aspect::Value);
+    raise(onChange);
+}
+
+Timer::Timer(Form& form, Place place, int interval)
+    : Control(form, Kind::Timer, std::move(place)), loop_(form.loop()), interval_(interval) {}
+
+Timer::~Timer() { stop(); }
+
+void Timer::setInterval(int milliseconds) {
+    interval_ = milliseconds;
+    if (!running_) return;
+    stop();
+    start();
+}
+
+void Timer::start() {
+    if (running_) return;
+    running_ = true;
+    loop_.arm(*this, interval_);
+}
+
+void Timer::stop() {
+    if (!running_) return;
+    running_ = false;
+    loop_.disarm(*this);
+}
+
+}  // namespace form

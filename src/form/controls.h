@@ -1,0 +1,206 @@
+#pragma once
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/runtime_error.h"
+#include "form/control.h"
+
+namespace form {
+
+class MessageLoop;
+
+class Label : public Control {
+  public:
+    Label(Form& form, Place place) : Control(form, Kind::Label, std::move(place)) {}
+};
+
+/// A frame that holds other controls; disabling or hiding it does so to them.
+class Group : public Control {
+  public:
+    Group(Form& form, Place place) : Control(form, Kind::Group, std::move(place)) {}
+};
+
+class Button : public Control {
+  public:
+    Button(Form& form, Place place) : Control(form, Kind::Button, std::move(place)) {}
+    /// A user's press; ignored while the button cannot be reached.
+    void click();
+    Handler onClick;
+};
+
+/// A picture or area; a click may have a meaning. `picture` is a number that the views know how to
+/// draw, 0 for nothing.
+class Picture : public Control {
+  public:
+    Picture(Form& form, Place place) : Control(form, Kind::Picture, std::move(place)) {}
+    void click();
+    Property<int> picture{*this, Aspect::Picture, 0};
+    Handler onClick;
+};
+
+/// A panel; with `floodPercent` a bar, with a handler a button.
+class Panel : public Control {
+  public:
+    Panel(Form& form, Place place) : Control(form, Kind::Panel, std::move(place)) {}
+    void click();
+    /// 0..100.
+    Property<int> floodPercent{*this, Aspect::Value, 0};
+    Handler onClick;
+};
+
+/// One of a group: choosing it unchooses the options of the same name. Its handler runs when it
+/// becomes chosen, and at every click of the user.
+class Option : public Control {
+  public:
+    Option(Form& form, Place place) : Control(form, Kind::Option, std::move(place)) {}
+    bool value() const { return value_; }
+    /// From code: runs the handler unless it is chosen already.
+    void choose();
+    /// From the user: always runs the handler.
+    void click();
+    Handler onClick;
+
+  private:
+    void take();
+    bool value_ = false;
+};
+
+/// A list of texts, each with a number of its own.
+class ItemList : public Control {
+  public:
+    struct Item {
+        std::string text;
+        int data = 0;
+    };
+
+    int count() const { return static_cast<int>(items_.size()); }
+    /// @throws run-time error 9 outside 0..count()-1.
+    const Item& item(int i) const;
+    const std::vector<Item>& items() const { return items_; }
+    void add(std::string text, int data = 0);
+    void insert(int i, std::string text, int data = 0);
+    void remove(int i);
+    void setText(int i, std::string text);
+    void clear();
+
+  protected:
+    using Control::Control;
+    void check(int i) const;
+
+    std::vector<Item> items_;
+    int listIndex_ = -1;
+};
+
+/// Choosing an item, from code or by the user, runs the handler, also when it was chosen already.
+class Combo : public ItemList {
+  public:
+    Combo(Form& form, Place place) : ItemList(form, Kind::Combo, std::move(place)) {}
+    /// -1 while nothing is chosen.
+    int listIndex() const { return listIndex_; }
+    /// @throws run-time error 9 outside -1..count()-1.
+    void setListIndex(int i);
+    /// The text of the chosen item, "" without one.
+    std::string text() const;
+    Handler onSelect;
+};
+
+/// A click on an item, from code or by the user, runs the handler, which finds it in `clicked`.
+class ListBox : public ItemList {
+  public:
+    ListBox(Form& form, Place place) : ItemList(form, Kind::ListBox, std::move(place)) {}
+    void click(int i);
+    int clicked() const { return listIndex_; }
+    Handler onClick;
+};
+
+/// Setting the value, from code or by the user, runs the handler.
+class Slider : public Control {
+  public:
+    Slider(Form& form, Place place, int minimum, int maximum)
+        : Control(form, Kind::Slider, std::move(place)), minimum_(minimum), maximum_(maximum) {}
+    int minimum() const { return minimum_; }
+    int maximum() const { return maximum_; }
+    int value() const { return value_; }
+    /// Clamped to the slider's range.
+    void setValue(int value);
+    Handler onChange;
+
+  private:
+    int minimum_, maximum_, value_ = 0;
+};
+
+class TextBox : public Control {
+  public:
+    TextBox(Form& form, Place place) : Control(form, Kind::TextBox, std::move(place)) {}
+    Property<std::string> text{*this, Aspect::Value, {}};
+};
+
+/// Runs its handler every `interval` milliseconds while it is enabled; a handler that disables it
+/// first makes it one-shot.
+class Timer : public Control {
+  public:
+    Timer(Form& form, Place place, int interval);
+    ~Timer() override;
+    int interval() const { return interval_; }
+    /// Milliseconds, above 0. A running timer starts anew.
+    void setInterval(int milliseconds);
+    void start();
+    void stop();
+    bool running() const { return running_; }
+    /// Called by the message loop when the interval has passed.
+    void tick() { raise(onTick); }
+    Handler onTick;
+
+  private:
+    MessageLoop& loop_;
+    int interval_;
+    bool running_ = false;
+};
+
+/// An array of like controls with one name and any indices.
+template <class C>
+class ControlArray {
+  public:
+    template <class... Args>
+    ControlArray(Form& form, const std::string& name, const std::vector<int>& indices,
+                 Control* container = nullptr, Args&&... args) {
+        for (const int i : indices) add(form, name, i, container, args...);
+    }
+    /// Indices 0..count-1.
+    template <class... Args>
+    ControlArray(Form& form, const std::string& name, int count, Control* container = nullptr,
+                 Args&&... args) {
+        for (int i = 0; i < count; ++i) add(form, name, i, container, args...);
+    }
+    /// @throws run-time error 9 for an index that the array has not.
+    C& operator()(int index) const {
+        if (index < 0 || index >= static_cast<int>(at_.size()) || !at_[static_cast<std::size_t>(index)])
+            base::throwSubscript();
+        return *at_[static_cast<std::size_t>(index)];
+    }
+    auto begin() const { return Iterator{held_.begin()}; }
+    auto end() const { return Iterator{held_.end()}; }
+
+  private:
+    struct Iterator {
+        typename std::vector<std::unique_ptr<C>>::const_iterator at;
+        C& operator*() const { return **at; }
+        Iterator& operator++() {
+            ++at;
+            return *this;
+        }
+        bool operator!=(const Iterator& o) const { return at != o.at; }
+    };
+    template <class... Args>
+    void add(Form& form, const std::string& name, int index, Control* container, Args&&... args) {
+        held_.push_back(std::make_unique<C>(form, Place{name, index, container}, args...));
+        const auto i = static_cast<std::size_t>(index);
+        if (at_.size() <= i) at_.resize(i + 1);
+        at_[i] = held_.back().get();
+    }
+    std::vector<std::unique_ptr<C>> held_;
+    std::vector<C*> at_;
+};
+
+}  // namespace form

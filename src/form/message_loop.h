@@ -1,0 +1,35 @@
+#pragma once
+#include <functional>
+
+#include "base/moment.h"
+
+namespace form {
+
+class Timer;
+
+/// Time and the flow of events. It exists so that a ten-minute exam can run in milliseconds: one
+/// implementation is the toolkit's event loop, another a clock that is advanced by hand.
+class MessageLoop {
+  public:
+    virtual ~MessageLoop() = default;
+
+    /// The local date and time.
+    virtual base::Moment now() const = 0;
+    /// Seconds since local midnight, as a 32-bit float.
+    float clock() const { return now().sinceMidnight(); }
+
+    /// Ticks the timer every `milliseconds` until it is disarmed.
+    virtual void arm(Timer& timer, int milliseconds) = 0;
+    virtual void disarm(Timer& timer) = 0;
+
+    /// Lets everything that is due happen, and returns.
+    virtual void doEvents() = 0;
+    /// Lets events happen for `milliseconds`, or until `abort` is true.
+    virtual void wait(double milliseconds, const bool& abort) = 0;
+    /// Lets events happen until `done` answers true; it is asked after every event.
+    virtual void runUntil(const std::function<bool()>& done) = 0;
+    /// Has the call made by the loop, soon. May be called from any thread.
+    virtual void post(std::function<void()> call) = 0;
+};
+
+}  // namespace form

@@ -1,0 +1,35 @@
+#pragma once
+#include <string>
+
+namespace form {
+
+class Form;
+
+enum class Icon { Exclamation, Stop, Question };
+
+/// Message boxes. They return when the user has answered.
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    virtual void message(Icon icon, const std::string& title, const std::string& text) = 0;
+    virtual bool askYesNo(const std::string& title, const std::string& text) = 0;
+};
+
+/// Puts the picture of a form on paper.
+class Printer {
+  public:
+    virtual ~Printer() = default;
+    /// On the default printer, in landscape; asks nothing. @throws std::runtime_error with what
+    /// failed and what to do.
+    virtual void print(Form& form) = 0;
+};
+
+/// The program's help.
+class Help {
+  public:
+    virtual ~Help() = default;
+    /// Opens the page of a form in a language; `language` is its suffix, for example "de".
+    virtual void open(const std::string& page, const std::string& language) = 0;
+};
+
+}  // namespace form

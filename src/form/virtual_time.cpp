@@ -1,0 +1,72 @@
+#include "form/virtual_time.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+#include "form/controls.h"
+
+namespace form {
+
+base::Moment VirtualTime::now() const {
+    constexpr std::int64_t day = 24LL * 60 * 60 * 1000;
+    const std::int64_t total = ((start_.hour * 60LL + start_.minute) * 60 + start_.second) * 1000 +
+                               start_.millisecond + elapsed_;
+    const auto inDay = static_cast<int>(total % day);
+    base::Moment moment = start_;
+    moment.day += static_cast<int>(total / day);
+    moment.hour = inDay / 3600000;
+    moment.minute = inDay / 60000 % 60;
+    moment.second = inDay / 1000 % 60;
+    moment.millisecond = inDay % 1000;
+    return moment;
+}
+
+void VirtualTime::arm(Timer& timer, int milliseconds) {
+    const int interval = std::max(1, milliseconds);
+    armed_.push_back({&timer, interval, elapsed_ + interval});
+}
+
+void VirtualTime::disarm(Timer& timer) {
+    std::erase_if(armed_, [&](const Armed& a) { return a.timer == &timer; });
+}
+
+bool VirtualTime::step(std::int64_t limit) {
+    if (!posted_.empty()) {
+        const auto call = std::move(posted_.front());
+        posted_.pop_front();
+        call();
+        return true;
+    }
+    const auto next = std::ranges::min_element(armed_, {}, &Armed::due);
+    if (next == armed_.end() || next->due > limit) return false;
+    elapsed_ = std::max(elapsed_, next->due);
+    next->due = elapsed_ + next->interval;
+    // Behind the others, so that timers due together take turns.
+    std::rotate(next, next + 1, armed_.end());
+    armed_.back().timer->tick();
+    return true;
+}
+
+void VirtualTime::advance(std::int64_t milliseconds) {
+    const std::int64_t end = elapsed_ + milliseconds;
+    while (step(end)) {
+    }
+    elapsed_ = std::max(elapsed_, end);
+}
+
+void VirtualTime::wait(double milliseconds, const bool& abort) {
+    const std::int64_t end = elapsed_ + static_cast<std::int64_t>(std::ceil(milliseconds));
+    while (!abort && step(end)) {
+    }
+    if (!abort) elapsed_ = std::max(elapsed_, end);
+}
+
+void VirtualTime::runUntil(const std::function<bool()>& done) {
+    while (!done())
+        if (!step(std::numeric_limits<std::int64_t>::max()))
+            throw std::logic_error("nothing is left that could happen");
+}
+
+}  // namespace form

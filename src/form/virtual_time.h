@@ -1,0 +1,46 @@
+#pragma once
+#include <cstdint>
+#include <deque>
+#include <vector>
+
+#include "form/message_loop.h"
+
+namespace form {
+
+/// A message loop whose clock stands still but for waits: waiting advances it from one due timer to
+/// the next and fires them in order, so the same run twice happens the same way twice.
+class VirtualTime final : public MessageLoop {
+  public:
+    /// @param start the moment at which the clock begins.
+    explicit VirtualTime(base::Moment start = {2026, 1, 2, 10, 0, 0, 0}) : start_(start) {}
+
+    base::Moment now() const override;
+    void arm(Timer& timer, int milliseconds) override;
+    void disarm(Timer& timer) override;
+    void doEvents() override { advance(0); }
+    void wait(double milliseconds, const bool& abort) override;
+    /// @throws std::logic_error when nothing is left that could happen.
+    void runUntil(const std::function<bool()>& done) override;
+    void post(std::function<void()> call) override { posted_.push_back(std::move(call)); }
+
+    /// Lets `milliseconds` pass and everything due in them happen.
+    void advance(std::int64_t milliseconds);
+    /// Milliseconds since the start.
+    std::int64_t elapsed() const { return elapsed_; }
+
+  private:
+    struct Armed {
+        Timer* timer;
+        int interval;
+        std::int64_t due;
+    };
+    /// Lets the next thing due up to `limit` happen. @return false when there is none.
+    bool step(std::int64_t limit);
+
+    base::Moment start_;
+    std::int64_t elapsed_ = 0;
+    std::vector<Armed> armed_;
+    std::deque<std::function<void()>> posted_;
+};
+
+}  // namespace form
