@@ -1,0 +1,69 @@
+#!/usr/bin/env python3
+"""The word check finds each fault it is there to find, and nothing in a sound tree."""
+import pathlib
+import sys
+import tempfile
+import unittest
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+import check_words  # noqa: E402
+
+SOUND = {"name": "x", "354s": "modes", "394s": "min ", "461s": "left: ", "489s": "scale ",
+         "547s": "tempo ", "700s": ": ", "817s": "%1 of 15"}
+
+
+def word_file(texts):
+    lines = [f'<message id="{key}"><translation>{text}</translation></message>'
+             for key, text in texts.items()]
+    return "<TS><context><name></name>" + "\n".join(lines) + "</context></TS>"
+
+
+class CheckWords(unittest.TestCase):
+    def complaints(self, first, second, code=""):
+        with tempfile.TemporaryDirectory() as folder:
+            root = pathlib.Path(folder)
+            (root / "i18n").mkdir()
+            (root / "src").mkdir()
+            (root / "i18n/melvoralang.de.ts").write_text(word_file(first), encoding="utf-8")
+            (root / "i18n/melvoralang.en.ts").write_text(word_file(second), encoding="utf-8")
+            (root / "src/form.cpp").write_text(code, encoding="utf-8")
+            return check_words.check(root)[0]
+
+    def test_each_fault_is_named(self):
+        def but(key, text):
+            texts = {k: v for k, v in SOUND.items() if k != key}
+            if text is not None:
+                texts[key] = text
+            return dict(sorted(texts.items(), key=lambda item: check_words.rank(item[0])))
+
+        rows = [
+            ("nothing wrong", SOUND, "", None),
+            ("one language lacks a word", but("354s", None), "", "en: 354s is missing"),
+            ("an empty text", but("354s", ""), "", "en: 354s has no finished text"),
+            ("another placeholder", but("817s", "%2 of 15"), "", "817s: the placeholders differ"),
+            ("a lost blank", but("461s", "left:"), "", "en: 461s has lost its last blank"),
+            ("a stray blank", but("354s", "modes "), "", "en: 354s ends in a blank"),
+            ("no name of the language", but("name", None), "", "en: name is missing"),
+            ("order", dict(reversed(SOUND.items())), "", "en: the messages are not sorted"),
+            ("a call", SOUND, "x = Wort(354) + Wort( 355 );", "form.cpp:1: word 355 is missing"),
+            ("a choice", SOUND, "Wort(f(x) ? 354 : 419);", "word 419 is missing in de"),
+            ("an offset is no word", SOUND, "Wort(354 + 2 * i);", None),
+            ("a comment is no call", SOUND, "// Wort(999)", None),
+            ("a table", SOUND, "constexpr std::array<int, 3> t{354, 0, 12}; // words",
+             "form.cpp:1: word 12 is missing"),
+            ("a long table", SOUND, "int t[2] = { // words\n354,\n13};\nint n = 14;",
+             "form.cpp:3: word 13 is missing"),
+            ("what follows a table", SOUND, "int t[1] = { // words\n354};\nint n = 14;", None),
+        ]
+        for name, second, code, fault in rows:
+            with self.subTest(name):
+                found = self.complaints(SOUND, second, code)
+                if fault is None:
+                    self.assertEqual(found, [])
+                else:
+                    self.assertTrue(any(fault in text for text in found), found)
+
+
+if __name__ == "__main__":
+    unittest.main()
