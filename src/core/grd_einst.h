@@ -14,10 +14,6 @@ class GrdEinst final : public Formular {
     void closeBox() override { cmdEnde_click(); }
     bool key(form::Key key) override;
 
-    /// The chosen type's caption, for result form and record.
-    std::string uebungsart(int ueb_typ) const { return this->ueb_typ(ueb_typ).caption(); }
-    std::string zweig(int theoriewahl) const { return Theoriewahl(theoriewahl).caption(); }
-
   protected:
     void nachFehler(const std::string&) override { forms().show(name()); }
 

@@ -36,6 +36,9 @@ class Programm {
     Programm(Ports ports, Aufruf aufruf, std::int64_t seed);
 
     const std::string& Wort(int id) { return worte.Wort(id); }
+    /// The branch and the exercise type in force, as the start form captions them.
+    const std::string& zweig() { return Wort(zustand.theoriewahl == 0 ? 724 : 725); }
+    const std::string& uebungsart() { return Wort(zustand.ueb_typ == uebung::bestimmen ? 154 : 690); }
     /// Shows the small message form with a longer text.
     void Melden(const std::string& titel, const std::string& text);
 

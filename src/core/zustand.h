@@ -81,8 +81,8 @@ struct Zustand {
 
 /// Slot under which a signed scale code is scored: |code|, for a descending one `skal_anz` + 1 more.
 constexpr i16 skalaSlot(i16 code, i16 skal_anz) {
-    const int size = code < 0 ? -code : int(code);
-    return size + (1 - base::sgn(code)) * (skal_anz + 1) / 2;
+    const int size = code < 0 ? -int(code) : int(code);
+    return size + (1 - base::sgn(code)) * (int(skal_anz) + 1) / 2;
 }
 
 }  // namespace core
