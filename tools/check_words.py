@@ -1,10 +1,13 @@
 #!/usr/bin/env python3
 """Checks the word files of all languages against each other and against the code.
 
-A word is asked for by its number, as `Wort(354)`, `Wort(671 + i)` or `Wort(a ? 419 : 420)`, or
-stands in a table: every whole number on a line that ends in the comment `// words`, from its first
-brace on, and, when that brace closes further down, every whole number up to there. 0 stands for no
-word. All .h and .cpp files below src are read.
+A word is asked for by its number in one of these ways:
+  Wort(354), Wort(671 + i), Wort(a ? 419 : 420)
+  beschriften({{control, 354}, ...})
+  constexpr int titelWort = 491;
+  a table with the comment `// words`, behind its opening brace or alone on a line within it, or
+  behind a row: every number from 78 on. Smaller numbers in a table are indices or semitones.
+All .h and .cpp files below src are read.
 
 Usage: check_words.py ROOT        ROOT holds src/ and i18n/. Exit status 1 if anything is wrong.
 """
@@ -18,10 +21,16 @@ ENDING_IN_BLANK = {"394s", "461s", "489s", "547s", "700s"}
 # Texts that the host and the program need although no number asks for them.
 ALWAYS = {"name"}
 
+SMALLEST_IN_TABLES = 78
+MARK = "\x01"  # stands for the comment `// words`
+
 CALL = re.compile(r"\b[Ww]ort\s*\(([^()]*(?:\([^()]*\)[^()]*)*)\)")
 CALL_NUMBER = re.compile(r"(?:^|[?:])\s*(\d+)")
-NUMBER = re.compile(r"(?<![\w.\"])(\d+)(?![\w.\"])")
-TEXT_OR_COMMENT = re.compile(r'"(?:[^"\\]|\\.)*"|//.*$')
+CAPTIONS = re.compile(r"\bbeschriften\s*\(\s*\{")
+CAPTION_NUMBER = re.compile(r",\s*(\d+)\s*\}")
+CONSTANT = re.compile(r"\bconstexpr\s+(?:std::)?\w+\s+\w*[Ww]ort\s*(?:=|\{)\s*(\d+)")
+NUMBER = re.compile(r"(?<![\w.])(\d+)(?![\w.])")
+TEXT_OR_COMMENT = re.compile(r'"(?:[^"\\\n]|\\.)*"|//[^\n]*')
 PLACEHOLDER = re.compile(r"%(?:n|L?\d+)")
 
 
@@ -55,21 +64,56 @@ def rank(key):
     return (int(digits.group()) if digits else -1, key)
 
 
+def block_end(code, start):
+    """The place of the brace that closes the block around start."""
+    depth = 1
+    for place in range(start, len(code)):
+        depth += {"{": 1, "}": -1}.get(code[place], 0)
+        if depth == 0:
+            return place
+    return len(code)
+
+
+def table_at(code, mark):
+    """The part of the code that a mark speaks of, as (start, end)."""
+    start = code.rfind("\n", 0, mark) + 1
+    line = code[start:mark]
+    if not line.strip():
+        return mark, block_end(code, mark)
+    if line.count("{") > line.count("}"):
+        return mark, block_end(code, mark)
+    return start + max(0, line.find("{")), mark
+
+
 def numbers_asked_for(text):
-    """Yields (line number, word number) for every word that a source text asks for."""
-    depth = 0
-    for line_number, line in enumerate(text.splitlines(), 1):
-        code = TEXT_OR_COMMENT.sub(lambda m: '""' if m.group()[0] == '"' else "", line)
-        for call in CALL.finditer(code):
-            for match in CALL_NUMBER.finditer(call.group(1)):
-                yield line_number, int(match.group(1))
-        if depth == 0 and not re.search(r"//\s*words\s*$", line):
-            continue
-        values = code[code.find("{") + 1 :] if depth == 0 else code
-        for match in NUMBER.finditer(values):
-            if int(match.group(1)) != 0:
-                yield line_number, int(match.group(1))
-        depth = max(0, depth + code.count("{") - code.count("}"))
+    """Returns the (line number, word number) of every word that a source text asks for."""
+
+    def replaced(match):
+        if match.group()[0] == '"':
+            return '""'
+        return MARK if re.fullmatch(r"//\s*words\s*", match.group()) else ""
+
+    code = TEXT_OR_COMMENT.sub(replaced, text)
+    found = set()
+
+    def note(match, offset=0):
+        found.add((code.count("\n", 0, offset + match.start(1)) + 1, int(match.group(1))))
+
+    for call in CALL.finditer(code):
+        for match in CALL_NUMBER.finditer(call.group(1)):
+            note(match, call.start(1))
+    for match in CONSTANT.finditer(code):
+        note(match)
+    for call in CAPTIONS.finditer(code):
+        end = block_end(code, call.end())
+        for match in CAPTION_NUMBER.finditer(code[call.end() : end]):
+            note(match, call.end())
+    for mark in re.finditer(MARK, code):
+        start, end = table_at(code, mark.start())
+        for match in NUMBER.finditer(code[start:end]):
+            if int(match.group(1)) >= SMALLEST_IN_TABLES:
+                note(match, start)
+    return sorted(found)
 
 
 def compare(languages):

@@ -50,11 +50,17 @@ class CheckWords(unittest.TestCase):
             ("a choice", SOUND, "Wort(f(x) ? 354 : 419);", "word 419 is missing in de"),
             ("an offset is no word", SOUND, "Wort(354 + 2 * i);", None),
             ("a comment is no call", SOUND, "// Wort(999)", None),
-            ("a table", SOUND, "constexpr std::array<int, 3> t{354, 0, 12}; // words",
-             "form.cpp:1: word 12 is missing"),
-            ("a long table", SOUND, "int t[2] = { // words\n354,\n13};\nint n = 14;",
-             "form.cpp:3: word 13 is missing"),
-            ("what follows a table", SOUND, "int t[1] = { // words\n354};\nint n = 14;", None),
+            ("captions", SOUND, 'beschriften({{a(2), 354},\n {b, 12}});',
+             "form.cpp:2: word 12 is missing"),
+            ("a constant", SOUND, "constexpr int nummerWort = 426;", "word 426 is missing in de"),
+            ("a table", SOUND, "constexpr std::array<int, 90> t{354, 0, 99}; // words",
+             "form.cpp:1: word 99 is missing"),
+            ("a long table", SOUND, "int t[2] = { // words\n{1, 354},\n{2, 98}};\nint n = 97;",
+             "form.cpp:3: word 98 is missing"),
+            ("a mark within a table", SOUND, "int t[2] = {\n// words\n{1, 354},\n{2, 98}};",
+             "form.cpp:4: word 98 is missing"),
+            ("indices in a table", SOUND, "int t[2] = { // words\n{1, 354, {0, 12}}};", None),
+            ("what follows a table", SOUND, "int t[1] = { // words\n354};\nint n = 98;", None),
         ]
         for name, second, code, fault in rows:
             with self.subTest(name):
