@@ -1,9 +1,9 @@
 #pragma once
+#include "base/runtime_error.h"
+
 #include <array>
 #include <cstddef>
 #include <vector>
-
-#include "base/runtime_error.h"
 
 namespace base {
 

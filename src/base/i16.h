@@ -1,9 +1,9 @@
 #pragma once
+#include "base/runtime_error.h"
+
 #include <concepts>
 #include <cstdint>
 #include <limits>
-
-#include "base/runtime_error.h"
 
 namespace base {
 
@@ -29,11 +29,15 @@ class i16 {
     friend constexpr i16 operator/(i16 a, i16 b) { return {int(a.v_) / nonZero(b)}; }
     friend constexpr i16 operator%(i16 a, i16 b) { return {int(a.v_) % nonZero(b)}; }
 
-#define MELVORA_MIXED(op)                                                                    \
-    template <std::integral T>                                                               \
-    friend constexpr i16 operator op(i16 a, T b) { return a op i16(b); }                     \
-    template <std::integral T>                                                               \
-    friend constexpr i16 operator op(T a, i16 b) { return i16(a) op b; }
+#define MELVORA_MIXED(op)                          \
+    template <std::integral T>                     \
+    friend constexpr i16 operator op(i16 a, T b) { \
+        return a op i16(b);                        \
+    }                                              \
+    template <std::integral T>                     \
+    friend constexpr i16 operator op(T a, i16 b) { \
+        return i16(a) op b;                        \
+    }
     MELVORA_MIXED(+)
     MELVORA_MIXED(-)
     MELVORA_MIXED(*)

@@ -1,7 +1,7 @@
 #pragma once
-#include <string_view>
-
 #include "base/i16.h"
+
+#include <string_view>
 
 namespace base {
 

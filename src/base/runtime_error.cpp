@@ -9,9 +9,7 @@ void throwOverflow() { throw RuntimeError(ErrorNumber::Overflow, "overflow"); }
 
 void throwSubscript() { throw RuntimeError(ErrorNumber::Subscript, "subscript out of range"); }
 
-void throwDivisionByZero() {
-    throw RuntimeError(ErrorNumber::DivisionByZero, "division by zero");
-}
+void throwDivisionByZero() { throw RuntimeError(ErrorNumber::DivisionByZero, "division by zero"); }
 
 void throwTypeMismatch(const std::string& text) {
     throw RuntimeError(ErrorNumber::TypeMismatch, "not a number: \"" + text + "\"");

@@ -18,8 +18,7 @@ enum class ErrorNumber {
 /// A fault inside the drill: what the log wants to know of it.
 class RuntimeError : public std::runtime_error {
   public:
-    RuntimeError(ErrorNumber number, const std::string& description,
-                 std::string source = "zepha9");
+    RuntimeError(ErrorNumber number, const std::string& description, std::string source = "zepha9");
     int number() const { return static_cast<int>(number_); }
     const std::string& source() const { return source_; }
 

@@ -16,9 +16,8 @@ void Formular::beschriften(std::initializer_list<Beschriftung> beschriftungen) {
 
 void Formular::failed(const std::string& prozedur, const std::exception& fehler) {
     p.host.HostFehler(logText(prozedur), fehler);
-    p.ports.dialogs.message(
-        form::Icon::Exclamation, "Melvora 2000",
-        Wort(720) + "\n" + Wort(721) + "\n" + Wort(722) + "\n" + Wort(723));
+    p.ports.dialogs.message(form::Icon::Exclamation, "Melvora 2000",
+                            Wort(720) + "\n" + Wort(721) + "\n" + Wort(722) + "\n" + Wort(723));
     nachFehler(prozedur);
 }
 

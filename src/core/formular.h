@@ -1,10 +1,10 @@
 #pragma once
-#include <initializer_list>
-#include <string>
-
 #include "core/programm.h"
 #include "form/controls.h"
 #include "form/form.h"
+
+#include <initializer_list>
+#include <string>
 
 namespace core {
 

@@ -12,10 +12,13 @@ GrdEinst::GrdEinst(Programm& programm) : Formular(programm, "grd_einst") {
     ueb_typ(3).caption = "spielen";
     ueb_typ(4).caption = "schreiben";
     Kontrolle.caption = "kontrolle: nicht entfernen!!";
-    Kontrolle.visible = ueb_typ(2).visible = ueb_typ(3).visible = false;
+    for (form::Control* nie :
+         std::initializer_list<form::Control*>{&Kontrolle, &ueb_typ(2), &ueb_typ(3)})
+        nie->visible = false;
 
     for (form::Option& option : Theoriewahl)
-        option.onClick = {"Theoriewahl_click.", [this, &option] { Theoriewahl_click(option.index()); }};
+        option.onClick = {"Theoriewahl_click.",
+                          [this, &option] { Theoriewahl_click(option.index()); }};
     for (form::Option& option : ueb_typ)
         option.onClick = {"ueb_typ_click.", [this, &option] { z.ueb_typ = option.index(); }};
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
@@ -65,7 +68,8 @@ void GrdEinst::start_timer() {
 /// The list behind "/P=" is walked through without any effect: old starters still send it.
 void GrdEinst::KommandozeileLesen() const {
     const std::string& zeile = p.aufruf.kommandozeile;
-    for (auto at = zeile.find("/P="); at != std::string::npos; at = zeile.find(';', at + 1)) continue;
+    for (auto at = zeile.find("/P="); at != std::string::npos; at = zeile.find(';', at + 1))
+        continue;
 }
 
 void GrdEinst::Theoriewahl_click(int index) {
@@ -78,9 +82,7 @@ void GrdEinst::cmdOK_click() {
     forms().load(z.theoriewahl == 0 ? "einstellung1" : "einstellung1b");
 }
 
-void GrdEinst::cmdEnde_click() {
-    p.host.HostUebergabe(forms(), "MENUE");
-}
+void GrdEinst::cmdEnde_click() { p.host.HostUebergabe(forms(), "MENUE"); }
 
 bool GrdEinst::key(form::Key key) {
     using enum form::Key::Kind;

@@ -1,13 +1,13 @@
 #include "core/host.h"
 
-#include <algorithm>
-#include <cctype>
-#include <cstdio>
-
 #include "base/rounding.h"
 #include "base/runtime_error.h"
 #include "core/zustand.h"
 #include "form/forms.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
 
 namespace core {
 

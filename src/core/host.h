@@ -1,11 +1,11 @@
 #pragma once
+#include "core/host_port.h"
+#include "form/ports.h"
+
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-
-#include "core/host_port.h"
-#include "form/ports.h"
 
 namespace form {
 class Forms;

@@ -1,8 +1,8 @@
 #pragma once
+#include "core/value.h"
+
 #include <stdexcept>
 #include <string>
-
-#include "core/value.h"
 
 namespace core {
 

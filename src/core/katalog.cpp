@@ -34,8 +34,8 @@ constexpr std::array tetraModi{
     TetraModi{6, 0, 377, 0},   TetraModi{6, 1, 375, 0},
 };
 
-constexpr std::array bereichWorte{287, 221, 224};            // words
-constexpr std::array modusWorte{136, 564, 565, 550, 438};    // words
+constexpr std::array bereichWorte{287, 221, 224};          // words
+constexpr std::array modusWorte{136, 564, 565, 550, 438};  // words
 
 }  // namespace
 
@@ -48,7 +48,8 @@ void Katalog::KatalogInit(Worte& worte) {
             skal_name[typ][nr] = Wort(nummerWort) + " " + std::to_string(nr + 1);
     }
     for (const auto& [typ, namen] : rotierendeNamen)
-        for (int nr = 0; nr < 7; ++nr) skal_name[typ][nr] = Wort(namen[static_cast<std::size_t>(nr)]);
+        for (int nr = 0; nr < 7; ++nr)
+            skal_name[typ][nr] = Wort(namen[static_cast<std::size_t>(nr)]);
     for (const auto& skala : katalog::eigeneMuster)
         if (skala.wort) skal_name[skala.skal_typ][skala.skala_nr] = Wort(skala.wort);
     for (const auto& modi : tetraModi) {

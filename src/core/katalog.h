@@ -1,11 +1,11 @@
 #pragma once
+#include "base/array.h"
+#include "base/i16.h"
+
 #include <algorithm>
 #include <array>
 #include <span>
 #include <string>
-
-#include "base/array.h"
-#include "base/i16.h"
 
 namespace core {
 
@@ -24,7 +24,7 @@ struct Kategorie {
     int skal_max;  ///< highest scale number
     int tonAnz;    ///< tones of a scale, the closing octave included where there is one
     std::array<int, 2> bild_basis;  ///< first picture: same final, same key signature
-    bool rotiert;  ///< its scales are one pattern read from different degrees
+    bool rotiert;                   ///< its scales are one pattern read from different degrees
 };
 
 inline constexpr std::array<Kategorie, kategorienAnz> kategorien{{
@@ -38,7 +38,9 @@ inline constexpr std::array<Kategorie, kategorienAnz> kategorien{{
     {553, 9, 4, {70, 70}, false},  // tetrachords
 }};
 
-constexpr bool rotiert(int skal_typ) { return kategorien[static_cast<std::size_t>(skal_typ)].rotiert; }
+constexpr bool rotiert(int skal_typ) {
+    return kategorien[static_cast<std::size_t>(skal_typ)].rotiert;
+}
 
 inline constexpr std::array diatonisch{0, 2, 4, 5, 7, 9, 11};
 inline constexpr std::array melodischMoll{0, 2, 3, 5, 7, 9, 11};
@@ -48,10 +50,14 @@ inline constexpr std::array pentatonisch{0, 2, 4, 7, 9, 12};
 /// scale n is the pattern read from degree n. Empty for the others.
 constexpr std::span<const int> grundmuster(int skal_typ) {
     switch (skal_typ) {
-        case 0: return diatonisch;
-        case 1: return melodischMoll;
-        case 4: return pentatonisch;
-        default: return {};
+        case 0:
+            return diatonisch;
+        case 1:
+            return melodischMoll;
+        case 4:
+            return pentatonisch;
+        default:
+            return {};
     }
 }
 
@@ -66,32 +72,32 @@ struct Skala {
 
 inline constexpr std::array eigeneMuster{
     // words
-    Skala{2, 0, 460, {0, 2, 3, 5, 7, 8, 10, 12}},     // natural minor
-    Skala{2, 1, 314, {0, 2, 3, 5, 7, 8, 11, 12}},     // harmonic minor
-    Skala{2, 2, 315, {0, 1, 4, 5, 7, 8, 10, 12}},     // fifth mode of harmonic minor
-    Skala{2, 3, 313, {0, 2, 4, 5, 7, 8, 11, 12}},     // harmonic major
-    Skala{2, 4, 386, {0, 2, 3, 5, 7, 9, 11, 12}},     // melodic minor
-    Skala{2, 5, 406, {0, 1, 3, 5, 7, 8, 10, 12}},     // Phrygian form of minor
-    Skala{2, 6, 637, {0, 2, 3, 6, 7, 8, 11, 12}},     // minor with raised fourth
-    Skala{2, 7, 636, {0, 1, 4, 5, 7, 8, 11, 12}},     // double harmonic
-    Skala{3, 0, 241, {0, 1, 3, 4, 5, 7, 8, 10, 12}},  // flamenco
-    Skala{3, 1, 242, {0, 1, 3, 4, 6, 8, 9, 11, 12}},  // flamenco
-    Skala{3, 2, 264, {0, 2, 3, 5, 6, 8, 9, 11, 12}},  // whole-half octatonic
-    Skala{3, 3, 309, {0, 1, 3, 4, 6, 7, 9, 10, 12}},  // half-whole octatonic
-    Skala{3, 4, 147, {0, 2, 4, 5, 7, 9, 10, 11, 12}}, // bebop dominant
-    Skala{3, 5, 148, {0, 2, 4, 5, 7, 8, 9, 11, 12}},  // bebop major
-    Skala{3, 6, 387, {0, 1, 2, 5, 6, 7, 8, 11, 12}},  // fourth mode of limited transposition
-    Skala{3, 7, 389, {0, 2, 4, 5, 6, 8, 10, 11, 12}}, // sixth mode of limited transposition
-    Skala{5, 0, 163, {0, 3, 5, 6, 7, 10, 12}},        // blues
-    Skala{5, 1, 266, {0, 2, 4, 6, 8, 10, 12}},        // whole-tone
-    Skala{5, 2, 388, {0, 1, 5, 6, 7, 11, 12}},        // fifth mode of limited transposition
-    Skala{5, 3, 441, {0, 1, 3, 5, 8, 10, 12}},        // fourths
+    Skala{2, 0, 460, {0, 2, 3, 5, 7, 8, 10, 12}},      // natural minor
+    Skala{2, 1, 314, {0, 2, 3, 5, 7, 8, 11, 12}},      // harmonic minor
+    Skala{2, 2, 315, {0, 1, 4, 5, 7, 8, 10, 12}},      // fifth mode of harmonic minor
+    Skala{2, 3, 313, {0, 2, 4, 5, 7, 8, 11, 12}},      // harmonic major
+    Skala{2, 4, 386, {0, 2, 3, 5, 7, 9, 11, 12}},      // melodic minor
+    Skala{2, 5, 406, {0, 1, 3, 5, 7, 8, 10, 12}},      // Phrygian form of minor
+    Skala{2, 6, 637, {0, 2, 3, 6, 7, 8, 11, 12}},      // minor with raised fourth
+    Skala{2, 7, 636, {0, 1, 4, 5, 7, 8, 11, 12}},      // double harmonic
+    Skala{3, 0, 241, {0, 1, 3, 4, 5, 7, 8, 10, 12}},   // flamenco
+    Skala{3, 1, 242, {0, 1, 3, 4, 6, 8, 9, 11, 12}},   // flamenco
+    Skala{3, 2, 264, {0, 2, 3, 5, 6, 8, 9, 11, 12}},   // whole-half octatonic
+    Skala{3, 3, 309, {0, 1, 3, 4, 6, 7, 9, 10, 12}},   // half-whole octatonic
+    Skala{3, 4, 147, {0, 2, 4, 5, 7, 9, 10, 11, 12}},  // bebop dominant
+    Skala{3, 5, 148, {0, 2, 4, 5, 7, 8, 9, 11, 12}},   // bebop major
+    Skala{3, 6, 387, {0, 1, 2, 5, 6, 7, 8, 11, 12}},   // fourth mode of limited transposition
+    Skala{3, 7, 389, {0, 2, 4, 5, 6, 8, 10, 11, 12}},  // sixth mode of limited transposition
+    Skala{5, 0, 163, {0, 3, 5, 6, 7, 10, 12}},         // blues
+    Skala{5, 1, 266, {0, 2, 4, 6, 8, 10, 12}},         // whole-tone
+    Skala{5, 2, 388, {0, 1, 5, 6, 7, 11, 12}},         // fifth mode of limited transposition
+    Skala{5, 3, 441, {0, 1, 3, 5, 8, 10, 12}},         // fourths
     Skala{5, 4, 444, {0, 3, 5, 7, 8, 10, 12}},
     Skala{5, 5, 442, {0, 2, 3, 5, 7, 10, 12}},
     Skala{5, 6, 440, {0, 2, 5, 7, 9, 10, 12}},
-    Skala{5, 7, 443, {0, 2, 4, 5, 9, 9, 12}},         // two equal degrees, kept
+    Skala{5, 7, 443, {0, 2, 4, 5, 9, 9, 12}},  // two equal degrees, kept
     Skala{5, 8, 445, {0, 2, 4, 7, 9, 11, 12}},
-    Skala{6, 0, 0, {0, 2, 4, 5}},                     // tetrachords
+    Skala{6, 0, 0, {0, 2, 4, 5}},  // tetrachords
     Skala{6, 1, 0, {0, 1, 4, 5}},
     Skala{6, 2, 0, {0, 1, 3, 5}},
     Skala{6, 3, 0, {0, 1, 2, 5}},
@@ -111,8 +117,8 @@ constexpr const Skala* eigenesMuster(int skal_typ, int skala_nr) {
     return it == eigeneMuster.end() ? nullptr : it;
 }
 
-/// Tuning corrections per diatonic degree for Pythagorean tuning, in steps of the pitch bend's upper
-/// byte (3.125 cents at a bend range of two semitones).
+/// Tuning corrections per diatonic degree for Pythagorean tuning, in steps of the pitch bend's
+/// upper byte (3.125 cents at a bend range of two semitones).
 inline constexpr std::array<int, 7> stufenStimm(int skal_typ) {
     return {-2, -1, skal_typ == 1 ? 4 : 1, -3, -1, 0, 1};
 }
@@ -123,7 +129,8 @@ inline constexpr std::array<int, 12> mittelTab{5, 2, 6, 3, 1, 4, 2, 6, 9, 0, 4, 
 // Laws of the tables: every scale that should close on the octave does, none falls, and every
 // category has as many scales as it says.
 static_assert(std::ranges::all_of(eigeneMuster, [](const Skala& s) {
-    const auto n = static_cast<std::size_t>(kategorien[static_cast<std::size_t>(s.skal_typ)].tonAnz);
+    const auto n =
+        static_cast<std::size_t>(kategorien[static_cast<std::size_t>(s.skal_typ)].tonAnz);
     return (s.skal_typ == 6 || s.stufe[n - 1] == 12) && s.stufe[0] == 0 &&
            std::is_sorted(s.stufe.begin(), s.stufe.begin() + static_cast<std::ptrdiff_t>(n));
 }));
@@ -152,7 +159,8 @@ inline constexpr std::array<const char*, 10> tempo_name{
 struct Katalog {
     base::FixedArray<std::string, 7> skal_typ_name;
     base::FixedArray<base::FixedArray<std::string, 11>, 7> skal_name;  ///< [skal_typ][skala_nr]
-    base::FixedArray<base::FixedArray<std::string, 2>, 10> tetra_name;  ///< [skala_nr][0 up, 1 down]
+    base::FixedArray<base::FixedArray<std::string, 2>, 10>
+        tetra_name;  ///< [skala_nr][0 up, 1 down]
     std::string titelWort;
     base::FixedArray<std::string, 3> bereich_name;  ///< start form, set-up form, result form
     base::FixedArray<std::string, 5> typ_name;      ///< by ueb_typ; only 1 and 4 are set

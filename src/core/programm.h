@@ -1,6 +1,4 @@
 #pragma once
-#include <string>
-
 #include "base/rnd.h"
 #include "core/host.h"
 #include "core/katalog.h"
@@ -9,6 +7,8 @@
 #include "form/forms.h"
 #include "form/message_loop.h"
 #include "form/ports.h"
+
+#include <string>
 
 namespace core {
 
@@ -38,7 +38,9 @@ class Programm {
     const std::string& Wort(int id) { return worte.Wort(id); }
     /// The branch and the exercise type in force, as the start form captions them.
     const std::string& zweig() { return Wort(zustand.theoriewahl == 0 ? 724 : 725); }
-    const std::string& uebungsart() { return Wort(zustand.ueb_typ == uebung::bestimmen ? 154 : 690); }
+    const std::string& uebungsart() {
+        return Wort(zustand.ueb_typ == uebung::bestimmen ? 154 : 690);
+    }
     /// Shows the small message form with a longer text.
     void Melden(const std::string& titel, const std::string& text);
 

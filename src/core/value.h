@@ -28,7 +28,8 @@ class Value {
     const Array& items() const;
     /// Element `i` of an array; the empty value when it is no array or has no such element.
     const Value& at(std::size_t i) const;
-    /// The value as text: numbers in plain decimal, truths as "True"/"False", "" for nothing and arrays.
+    /// The value as text: numbers in plain decimal, truths as "True"/"False", "" for nothing and
+    /// arrays.
     std::string text() const;
 
     template <class Visitor>

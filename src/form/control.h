@@ -1,16 +1,28 @@
 #pragma once
-#include <functional>
-#include <string>
-
 #include "base/colour.h"
 #include "form/signal.h"
+
+#include <functional>
+#include <string>
 
 namespace form {
 
 class Form;
 class Control;
 
-enum class Kind { Button, Option, Combo, ListBox, Label, Panel, Picture, Slider, TextBox, Group, Timer };
+enum class Kind {
+    Button,
+    Option,
+    Combo,
+    ListBox,
+    Label,
+    Panel,
+    Picture,
+    Slider,
+    TextBox,
+    Group,
+    Timer
+};
 
 /// What of a control has changed.
 enum class Aspect { Caption, Visible, Enabled, Colour, Value, Items, Picture };

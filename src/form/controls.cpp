@@ -1,10 +1,10 @@
 #include "form/controls.h"
 
-#include <algorithm>
-
 #include "base/runtime_error.h"
 #include "form/form.h"
 #include "form/message_loop.h"
+
+#include <algorithm>
 
 namespace form {
 
@@ -22,7 +22,8 @@ void Panel::click() {
 
 void Option::take() {
     for (Control* c : form().controls()) {
-        auto* other = c->kind() == Kind::Option && c->name() == name() ? static_cast<Option*>(c) : nullptr;
+        auto* other =
+            c->kind() == Kind::Option && c->name() == name() ? static_cast<Option*>(c) : nullptr;
         if (!other || other == this || !other->value_) continue;
         other->value_ = false;
         other->tell(Aspect::Value);

@@ -1,10 +1,10 @@
 #pragma once
+#include "base/runtime_error.h"
+#include "form/control.h"
+
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "base/runtime_error.h"
-#include "form/control.h"
 
 namespace form {
 
@@ -175,7 +175,8 @@ class ControlArray {
     }
     /// @throws run-time error 9 for an index that the array has not.
     C& operator()(int index) const {
-        if (index < 0 || index >= static_cast<int>(at_.size()) || !at_[static_cast<std::size_t>(index)])
+        if (index < 0 || index >= static_cast<int>(at_.size()) ||
+            !at_[static_cast<std::size_t>(index)])
             base::throwSubscript();
         return *at_[static_cast<std::size_t>(index)];
     }

@@ -1,8 +1,8 @@
 #include "form/form.h"
 
-#include <algorithm>
-
 #include "form/forms.h"
+
+#include <algorithm>
 
 namespace form {
 
@@ -13,9 +13,8 @@ Form::~Form() = default;
 MessageLoop& Form::loop() const { return forms_.loop(); }
 
 Control* Form::find(const std::string& name, int index) const {
-    const auto it = std::ranges::find_if(controls_, [&](const Control* c) {
-        return c->name() == name && c->index() == index;
-    });
+    const auto it = std::ranges::find_if(
+        controls_, [&](const Control* c) { return c->name() == name && c->index() == index; });
     return it == controls_.end() ? nullptr : *it;
 }
 

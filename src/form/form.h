@@ -1,11 +1,11 @@
 #pragma once
+#include "form/control.h"
+#include "form/signal.h"
+
 #include <exception>
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "form/control.h"
-#include "form/signal.h"
 
 namespace form {
 

@@ -1,9 +1,9 @@
 #include "form/forms.h"
 
-#include <algorithm>
-
 #include "form/controls.h"
 #include "form/message_loop.h"
+
+#include <algorithm>
 
 namespace form {
 

@@ -1,12 +1,12 @@
 #pragma once
+#include "form/form.h"
+#include "form/signal.h"
+
 #include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "form/form.h"
-#include "form/signal.h"
 
 namespace form {
 
@@ -21,7 +21,9 @@ class Forms {
     explicit Forms(MessageLoop& loop) : loop_(loop) {}
     ~Forms();
 
-    void add(std::string name, Factory factory) { factories_[std::move(name)] = std::move(factory); }
+    void add(std::string name, Factory factory) {
+        factories_[std::move(name)] = std::move(factory);
+    }
     bool knows(const std::string& name) const { return factories_.contains(name); }
     MessageLoop& loop() const { return loop_; }
 

@@ -1,7 +1,7 @@
 #pragma once
-#include <functional>
-
 #include "base/moment.h"
+
+#include <functional>
 
 namespace form {
 

@@ -1,11 +1,11 @@
 #include "form/virtual_time.h"
 
+#include "form/controls.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
-
-#include "form/controls.h"
 
 namespace form {
 

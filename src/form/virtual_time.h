@@ -1,9 +1,9 @@
 #pragma once
+#include "form/message_loop.h"
+
 #include <cstdint>
 #include <deque>
 #include <vector>
-
-#include "form/message_loop.h"
 
 namespace form {
 
