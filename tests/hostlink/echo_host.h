@@ -1,0 +1,63 @@
+#pragma once
+#include "hostlink/host_address.h"
+
+#include <QDBusConnection>
+#include <QDBusServer>
+#include <QDBusVariant>
+#include <QList>
+#include <QObject>
+#include <QThread>
+
+#include <memory>
+
+namespace hostlink {
+
+/// A host on a thread of its own that answers by the key: "ECHO" true and the argument, "DEFAULT"
+/// false and the default, "SLEEP" true after as many milliseconds as the argument says,
+/// "PATH" true and a type that is no value.
+class EchoHost : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.melvora.Host1")
+  public:
+    explicit EchoHost(const QString& address) {
+        moveToThread(&thread_);
+        thread_.start();
+        QMetaObject::invokeMethod(
+            this, [&] { listen(address); }, Qt::BlockingQueuedConnection);
+    }
+    ~EchoHost() override {
+        QMetaObject::invokeMethod(
+            this, [this] { leave(); }, Qt::BlockingQueuedConnection);
+        thread_.quit();
+        thread_.wait();
+    }
+
+  public slots:
+    bool Request(const QString& key, const QDBusVariant& argument, const QDBusVariant& standard,
+                 QDBusVariant& result) {
+        result = key == "ECHO" ? argument : standard;
+        if (key == "SLEEP") QThread::msleep(argument.variant().toULongLong());
+        if (key == "PATH") result = QDBusVariant(QVariant::fromValue(QDBusObjectPath("/a")));
+        return key != "DEFAULT";
+    }
+
+  private:
+    void listen(const QString& address) {
+        server_ = std::make_unique<QDBusServer>(address);
+        connect(server_.get(), &QDBusServer::newConnection, this, [this](QDBusConnection caller) {
+            caller.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
+            callers_.append(caller.name());
+        });
+    }
+    void leave() {
+        server_.reset();
+        for (const QString& name : callers_) QDBusConnection::disconnectFromPeer(name);
+        callers_.clear();
+    }
+
+    QThread thread_;
+    std::unique_ptr<QDBusServer> server_;
+    QStringList callers_;
+};
+
+}  // namespace hostlink
