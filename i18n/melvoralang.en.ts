@@ -199,7 +199,7 @@
 <message id="903s"><translation>Users</translation></message>
 <message id="904s"><translation>Programs for practising music</translation></message>
 <message id="905s"><translation>Practise &amp;scales</translation></message>
-<message id="906s"><translation>Ear training and music theory: determine and write scales</translation></message>
+<message id="906s"><translation>Ear training and music theory: identify and write scales</translation></message>
 <message id="907s"><translation>&amp;Logged in:</translation></message>
 <message id="908s"><translation>nobody</translation></message>
 <message id="909s"><translation>Lan&amp;guage:</translation></message>
@@ -208,9 +208,9 @@
 <message id="912s"><translation>%1 (not connected)</translation></message>
 <message id="913s"><translation>&amp;Log in</translation></message>
 <message id="914s"><translation>&amp;Log out</translation></message>
-<message id="915s"><translation>&amp;New …</translation></message>
-<message id="916s"><translation>&amp;Edit …</translation></message>
-<message id="917s"><translation>&amp;Delete …</translation></message>
+<message id="915s"><translation>&amp;New…</translation></message>
+<message id="916s"><translation>&amp;Edit…</translation></message>
+<message id="917s"><translation>&amp;Delete…</translation></message>
 <message id="918s"><translation>Surname</translation></message>
 <message id="919s"><translation>First name</translation></message>
 <message id="920s"><translation>Student no.</translation></message>
@@ -249,7 +249,7 @@
 <message id="953s"><translation>Duration</translation></message>
 <message id="954s"><translation>Scale</translation></message>
 <message id="955s"><translation>This key is not allowed.</translation></message>
-<message id="956s"><translation>Manage &amp;users …</translation></message>
+<message id="956s"><translation>Manage &amp;users…</translation></message>
 <message id="957s"><translation>Delete</translation></message>
 <message id="958s"><translation>No entries yet</translation></message>
 <message id="959s"><translation>User</translation></message>

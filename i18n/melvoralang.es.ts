@@ -208,9 +208,9 @@
 <message id="912s"><translation>%1 (no conectado)</translation></message>
 <message id="913s"><translation>&amp;Iniciar sesión</translation></message>
 <message id="914s"><translation>&amp;Cerrar sesión</translation></message>
-<message id="915s"><translation>&amp;Nuevo …</translation></message>
-<message id="916s"><translation>&amp;Editar …</translation></message>
-<message id="917s"><translation>&amp;Eliminar …</translation></message>
+<message id="915s"><translation>&amp;Nuevo…</translation></message>
+<message id="916s"><translation>&amp;Editar…</translation></message>
+<message id="917s"><translation>&amp;Eliminar…</translation></message>
 <message id="918s"><translation>Apellidos</translation></message>
 <message id="919s"><translation>Nombre</translation></message>
 <message id="920s"><translation>N.º de matrícula</translation></message>
@@ -240,7 +240,7 @@
 <message id="944s"><translation>Este archivo de resultados no se puede leer y se conserva: %1</translation></message>
 <message id="945s"><translation>Error al guardar: %1</translation></message>
 <message id="946s"><translation>Ajustes</translation></message>
-<message id="947s"><translation>Ejercicios</translation></message>
+<message id="947s"><translation>Tareas</translation></message>
 <message id="948s"><translation>Respuestas</translation></message>
 <message id="949s"><translation>Elija arriba un resultado para verlo.</translation></message>
 <message id="950s"><translation>correcto</translation></message>
@@ -249,7 +249,7 @@
 <message id="953s"><translation>Duración</translation></message>
 <message id="954s"><translation>Escala</translation></message>
 <message id="955s"><translation>Esta clave no está permitida.</translation></message>
-<message id="956s"><translation>Gestionar &amp;usuarios …</translation></message>
+<message id="956s"><translation>Gestionar &amp;usuarios…</translation></message>
 <message id="957s"><translation>Eliminar</translation></message>
 <message id="958s"><translation>Aún no hay entradas</translation></message>
 <message id="959s"><translation>Usuario</translation></message>
