@@ -193,6 +193,7 @@
 <message id="829s"><translation>Einlesen Test</translation></message>
 <message id="830s"><translation>Einstellungen Speichern</translation></message>
 <message id="831s"><translation>Drucken fehlgeschlagen: %1</translation></message>
+<message id="832s"><translation>Wiederholungen</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Ergebnisse</translation></message>
 <message id="902s"><translation>Protokoll</translation></message>

@@ -193,6 +193,7 @@
 <message id="829s"><translation>Read settings</translation></message>
 <message id="830s"><translation>Save settings</translation></message>
 <message id="831s"><translation>Printing failed: %1</translation></message>
+<message id="832s"><translation>Repeats</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Results</translation></message>
 <message id="902s"><translation>Log</translation></message>

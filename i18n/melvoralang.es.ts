@@ -193,6 +193,7 @@
 <message id="829s"><translation>Leer ajustes</translation></message>
 <message id="830s"><translation>Guardar ajustes</translation></message>
 <message id="831s"><translation>Error al imprimir: %1</translation></message>
+<message id="832s"><translation>Repeticiones</translation></message>
 <message id="900s"><translation>Inicio</translation></message>
 <message id="901s"><translation>Resultados</translation></message>
 <message id="902s"><translation>Registro</translation></message>

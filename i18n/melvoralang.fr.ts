@@ -193,6 +193,7 @@
 <message id="829s"><translation>Lire les réglages</translation></message>
 <message id="830s"><translation>Enregistrer les réglages</translation></message>
 <message id="831s"><translation>Échec de l’impression : %1</translation></message>
+<message id="832s"><translation>Répétitions</translation></message>
 <message id="900s"><translation>Accueil</translation></message>
 <message id="901s"><translation>Résultats</translation></message>
 <message id="902s"><translation>Journal</translation></message>
