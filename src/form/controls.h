@@ -30,12 +30,12 @@ class Button : public Control {
 };
 
 /// A picture or area; a click may have a meaning. `picture` is a number that the views know how to
-/// draw, 0 for nothing.
+/// draw, -1 for nothing.
 class Picture : public Control {
   public:
     Picture(Form& form, Place place) : Control(form, Kind::Picture, std::move(place)) {}
     void click();
-    Property<int> picture{*this, Aspect::Picture, 0};
+    Property<int> picture{*this, Aspect::Picture, -1};
     Handler onClick;
 };
 

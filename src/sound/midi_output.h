@@ -5,8 +5,8 @@
 
 namespace sound {
 
-/// One MIDI message of a queue. `time` is milliseconds from the queue's start (0 when sent at once),
-/// `tag` a number carried with the event.
+/// One MIDI message of a queue. `time` is milliseconds from the queue's start (0 when sent at
+/// once), `tag` a number carried with the event.
 struct MidiEvent {
     int status = 0;
     int data1 = 0;

@@ -1,0 +1,111 @@
+// The end of a run: the exam clock, leaving, and what is kept.
+#include "engine/arbeitsblatt.h"
+
+namespace engine {
+
+namespace colours = base::colours;
+
+void FortsetzungAnbieten(core::Programm& p, const std::string& formular, bool vorhanden,
+                         int modus) {
+    const form::Form* einstellung = p.forms.loaded(formular);
+    auto* combo =
+        einstellung ? static_cast<form::Combo*>(einstellung->find("training_Combo")) : nullptr;
+    if (!combo || combo->count() <= core::modus::fortsetzung) return;
+    combo->setText(core::modus::fortsetzung, vorhanden ? p.Wort(565) : keineFortsetzung);
+    combo->setListIndex(modus);
+}
+
+std::string Arbeitsblatt::einstellungsform() const {
+    return z.theoriewahl == 0 ? "einstellung1" : "einstellung1b";
+}
+
+/// The way out becomes the way on.
+void Arbeitsblatt::WeiterAnbieten() {
+    zurueck.backColour = colours::yellow;
+    zurueck.caption = Wort(625);
+    zurueck.foreColour = colours::red;
+}
+
+/// A training that has ended leaves nothing to continue.
+void Arbeitsblatt::TrainingsstandLoeschen() {
+    setPointer(form::Pointer::Hourglass);
+    p.host.HostSichern("A" + satz(), core::Value::Array{"False"});
+    FortsetzungAnbieten(p, einstellungsform(), false, core::modus::training);
+    setPointer(form::Pointer::Arrow);
+}
+
+void Arbeitsblatt::Uhrzeit_timer() {
+    Uhr.caption = p.ports.loop.now().timeOfDay();
+    if (z.uebungsmodus > core::modus::fortsetzung) ZeitAbzaehlen();
+}
+
+void Arbeitsblatt::ZeitAbzaehlen() {
+    restZeit_ -= 10;
+    PruefungAnzeigen();
+    ereignis(Ereignis::Uhr);
+    if (restZeit_ > 0 || verlassen_) return;
+    verlassen_ = true;
+    Stilllegen();
+    ereignis(Ereignis::LaufEnde);
+    SatzSichern();
+    ErgebnisZeigen();
+    Heimkehren();
+}
+
+/// From here on nothing goes on by itself.
+void Arbeitsblatt::Stilllegen() {
+    zurueck.enabled = false;
+    abbruch_ = true;
+    for (form::Timer* timer : {&Uhrzeit, &WahlAutomat, &start}) timer->stop();
+    CmdNextAufg.enabled = false;
+    AntwortenSchliessen();
+    vorfuehrung().Verlassen();
+}
+
+void Arbeitsblatt::zurueck_click() {
+    if (verlassen_) return;
+    verlassen_ = true;
+    Stilllegen();
+    if (aufgZustand_ == AufgZustand::TrainingBeendet ||
+        aufgZustand_ == AufgZustand::PruefungBeendet) {
+        zurueck.backColour = colours::magenta;
+        zurueck.caption = Wort(640);
+        zurueck.foreColour = colours::black;
+        ErgebnisZeigen();
+    } else {
+        ereignis(Ereignis::LaufEnde);
+    }
+    SatzSichern();
+    Heimkehren();
+}
+
+void Arbeitsblatt::ErgebnisZeigen() {
+    forms().hide(name());
+    midi_.Delay(300);
+    forms().showModal("testergebnis");
+}
+
+/// A record that cannot be written must not keep the learner here: the fault is told, the way goes
+/// on.
+void Arbeitsblatt::SatzSichern() {
+    guard("SkalaXmlSichern.", [this] {
+        setEnabled(false);
+        WaitMeldung.visible = true;
+        p.ports.loop.doEvents();
+        wertung_.xml.SkalaXmlSichern(z.einst_liste);
+    });
+    WaitMeldung.visible = false;
+}
+
+void Arbeitsblatt::Heimkehren() {
+    if (forms().loaded(einstellungsform())) forms().show(einstellungsform());
+    forms().unload("testergebnis");
+    forms().unload(name());
+}
+
+void Arbeitsblatt::nachFehler(const std::string&) {
+    zurueck.tag = "ERROR";
+    zurueck_click();
+}
+
+}  // namespace engine

@@ -1,0 +1,32 @@
+#pragma once
+#include "notation/flaeche.h"
+#include "notation/tonhoehe.h"
+
+#include <vector>
+
+namespace notation {
+
+/// Size of every scale picture, in logical pixels.
+inline constexpr int bildBreite = 270;
+inline constexpr int bildHoehe = 86;
+/// Pictures are numbered 0 to `bilderAnz` - 1; some numbers no scale reaches.
+inline constexpr int bilderAnz = 80;
+
+/// A scale as the picture store numbers it.
+struct Bild {
+    int skal_typ;
+    int skala_nr;
+    bool gleicheFinalis;  ///< modes all from C; otherwise all with one key signature
+};
+
+/// @return false for a number that no scale reaches.
+bool bildVon(int nummer, Bild& bild);
+
+/// The notes of a scale in its picture, ascending from C4 (or the degree of the mode), spelled:
+/// each letter once where it has seven tones, a tetrachord on four letters.
+std::vector<Ton> bildToene(const Bild& bild);
+
+/// Draws a picture: five lines, clef, heads, accidentals. A number without a scale draws nothing.
+void BildMalen(Flaeche& flaeche, int nummer);
+
+}  // namespace notation

@@ -1,0 +1,100 @@
+#include "results/skalaxml.h"
+
+#include "base/runtime_error.h"
+
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <sstream>
+
+namespace results {
+
+namespace {
+
+/// The shortest decimal that reads back as the same float.
+std::string alsText(float v) {
+    char text[32];
+    return {text, std::to_chars(text, text + sizeof text, v).ptr};
+}
+
+[[noreturn]] void nichtGeschrieben(const std::string& datei, const std::string& grund) {
+    throw base::RuntimeError(base::ErrorNumber::PathAccess, datei + ": " + grund);
+}
+
+}  // namespace
+
+void Skalaxml::SkalaXmlNeu() {
+    dokument_.reset();
+    auto erklaerung = dokument_.append_child(pugi::node_declaration);
+    erklaerung.append_attribute("version") = "1.0";
+    erklaerung.append_attribute("encoding") = "UTF-8";
+    auto wurzel = dokument_.append_child("exercise");
+    datei_ = p.aufruf.tempOrdner + "/RSX" + p.ports.loop.now().stamp() + ".xml";
+    auto eigenschaften = wurzel.append_child("properties");
+    eigenschaften.append_attribute("programm") = "ZEPHA9";
+    eigenschaften.append_attribute("ukey") = p.host.HostBenutzer().at(0).text().c_str();
+    wurzel.append_child("settings");
+    lektionen_ = wurzel.append_child("lessons");
+    lektion_ = {};
+}
+
+void Skalaxml::LektionNeu(const std::string& tonskala) {
+    lektion_ = lektionen_.append_child("lesson");
+    AntwortEigenschaft(lektion_.append_child("properties"), "Tonskala", tonskala);
+    lektion_.append_child("answers");
+}
+
+pugi::xml_node Skalaxml::AntwortNeu(pugi::xml_node lektion, i16 lfd) {
+    auto antwort = lektion.child("answers").append_child("answer");
+    antwort.append_attribute("lfd") = int(lfd);
+    return antwort;
+}
+
+pugi::xml_node Skalaxml::AntwortSchluss() {
+    const auto node = antwort();
+    AntwortEigenschaft(node, "Dauer Antwort", alsText(p.zustand.AntwDau));
+    AntwortEigenschaft(node, "Anz Whlg", std::to_string(p.zustand.whlg_anz));
+    return node;
+}
+
+void Skalaxml::AntwortEigenschaft(pugi::xml_node node, const char* key, const std::string& value) {
+    auto property = node.append_child("property");
+    property.append_attribute("key") = key;
+    property.append_attribute("value") = value.c_str();
+}
+
+void Skalaxml::EinstellungenSchreiben(const std::vector<std::string>& liste) {
+    auto settings = dokument_.child("exercise").child("settings");
+    for (std::size_t i = 1; i + 1 < liste.size(); i += 2) {
+        auto setting = settings.append_child("setting");
+        setting.append_attribute("key") = liste[i].c_str();
+        setting.append_attribute("value") = liste[i + 1].c_str();
+    }
+}
+
+void Skalaxml::SkalaXmlSichern(const std::vector<std::string>& liste) {
+    auto eigenschaften = dokument_.child("exercise").child("properties");
+    eigenschaften.append_attribute("exercise") = p.uebungsart().c_str();
+    eigenschaften.append_attribute("timestamp") = p.ports.loop.now().dateAndTime().c_str();
+    eigenschaften.append_attribute("description") =
+        ("Untersuchung: " + p.katalog.typ_name[p.zustand.ueb_typ]).c_str();
+    EinstellungenSchreiben(liste);
+
+    const std::string daneben = datei_ + ".part";
+    if (!dokument_.save_file(daneben.c_str(), "\t", pugi::format_default, pugi::encoding_utf8)) {
+        const std::string grund = std::strerror(errno);
+        std::remove(daneben.c_str());
+        nichtGeschrieben(datei_, grund);
+    }
+    if (std::rename(daneben.c_str(), datei_.c_str()) != 0)
+        nichtGeschrieben(datei_, std::strerror(errno));
+}
+
+std::string Skalaxml::text() const {
+    std::ostringstream strom;
+    dokument_.save(strom, "\t", pugi::format_default, pugi::encoding_utf8);
+    return strom.str();
+}
+
+}  // namespace results

@@ -1,0 +1,140 @@
+#include "results/testergebnis.h"
+
+namespace results {
+
+namespace colours = base::colours;
+
+Testergebnis::Testergebnis(core::Programm& programm, Wertung& wertung)
+    : Formular(programm, "testergebnis"), wertung_(wertung) {
+    start.onTick = {"start_timer.", [this] { start_timer(); }};
+    cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
+    cmdPrint.onClick = {"cmdPrint_click.", [this] { cmdPrint_click(); }};
+    cmdHilfe.onClick = {"cmdHilfe_click.", [this] { HilfeZeigen(); }};
+}
+
+void Testergebnis::start_timer() {
+    start.stop();
+    Beschriften();
+    ZeilenZeigen();
+    EinstellungenZeigen();
+    guard("LbGrdEinst.", [this] { LbGrdEinst(); });
+    forms().show(name());
+}
+
+void Testergebnis::Beschriften() {
+    setCaption(p.katalog.typ_name[z.ueb_typ] + Wort(700) + p.katalog.bereich_name[2]);
+    beschriften({{erg_head, 803},
+                 {einst_head, 820},
+                 {grd_einst_head, 821},
+                 {Lab_gesamt, 805},
+                 {cmdOK, 625},
+                 {cmdPrint, 804},
+                 {cmdHilfe, 816}});
+    const bool ab = z.richtung == 1;
+    Lab_richtung(0).caption = Wort(ab ? 83 : 132);
+    Lab_richtung(1).caption = Wort(83);
+    Lab_richtung(1).visible = z.richtung == 2;
+}
+
+/// Ascending rows first; a run of both directions has a second row for each scale.
+void Testergebnis::ZeilenZeigen() {
+    const int skalen = z.skal_anz + 1;
+    const int anzahl = z.richtung == 2 ? 2 * skalen : skalen;
+    const int versatz = z.richtung == 1 ? skalen : 0;
+    for (int i = 0; i < maxZeilen; ++i) {
+        const bool da = i < anzahl;
+        for (form::Control* c :
+             std::initializer_list<form::Control*>{&Lab_ergeb(i), &ergebnis(i), &balken(i)})
+            c->visible = da;
+        if (da) ErgebnisZeile(i, i + 1 + versatz, p.katalog.skal_name[z.skal_typ][i % skalen]);
+    }
+    gesamt.caption =
+        gezaehlt_ == 0 ? nichtGezaehlt : prozentText(summe_ / static_cast<float>(gezaehlt_));
+}
+
+void Testergebnis::ErgebnisZeile(int i, int slot, const std::string& name) {
+    Lab_ergeb(i).caption = name;
+    const results::ErgebnisZeile zeile = ergebnisZeile(wertung_.auswertung, z, slot);
+    ergebnis(i).caption = zeile.zaehlt ? prozentText(zeile.anteil) : nichtGezaehlt;
+    balken(i).floodPercent = base::rounded(static_cast<double>(zeile.anteil) * 100);
+    balken(i).accessibleName = name;
+    balken(i).enabled = zeile.zaehlt;
+    if (!zeile.zaehlt) return;
+    summe_ += zeile.anteil;
+    ++gezaehlt_;
+}
+
+void Testergebnis::EinstellungenZeigen() {
+    const auto& liste = z.einst_liste;
+    for (int i = 0; i < maxEinst; ++i) {
+        const auto k = static_cast<std::size_t>(2 * i + 1);
+        const bool da = k + 1 < liste.size();
+        einst_lab(i).visible = da;
+        einst_Inh(i).visible = da;
+        if (!da) continue;
+        einst_lab(i).caption = liste[k];
+        einst_Inh(i).caption = liste[k + 1];
+    }
+}
+
+/// When, what, where, and who.
+void Testergebnis::LbGrdEinst() {
+    int zeile = 0;
+    const auto zeigen = [&](const std::string& lab, const std::string& inh) {
+        g_einst_lab(zeile).caption = lab;
+        g_einst_inh(zeile).caption = inh;
+        ++zeile;
+    };
+    zeigen(Wort(189) + Wort(700) + " ", p.ports.loop.now().date() + " ");
+    zeigen(p.zweig() + Wort(700), p.katalog.titelWort + " " + p.uebungsart());
+    zeigen(Wort(109) + Wort(700) + " ", p.aufruf.rechnername + " ");
+    if (z.angemeldet) {
+        const core::Value benutzer = p.host.HostBenutzer();
+        zeigen(Wort(806), benutzer.at(1).text());
+        zeigen(Wort(807), benutzer.at(2).text());
+        zeigen(Wort(808), benutzer.at(3).text());
+    }
+    for (int i = 0; i < 6; ++i) {
+        g_einst_lab(i).visible = i < zeile;
+        g_einst_inh(i).visible = i < zeile;
+    }
+}
+
+void Testergebnis::cmdOK_click() {
+    const std::string einstellung = z.theoriewahl == 0 ? "einstellung1" : "einstellung1b";
+    if (forms().loaded(einstellung)) forms().show(einstellung);
+    forms().hide(name());
+}
+
+/// The print has no coloured areas, and the form keeps this look afterwards.
+void Testergebnis::cmdPrint_click() {
+    PicSchalt.visible = false;
+    cmdPrint.enabled = false;
+    cmdHilfe.enabled = false;
+    whiten();
+    for (const auto* labels : {&g_einst_lab, &einst_lab, &Lab_richtung, &Lab_ergeb, &ergebnis})
+        for (form::Label& label : *labels) label.backColour = colours::white;
+    try {
+        p.ports.printer.print(*this);
+    } catch (const std::runtime_error& fehler) {
+        p.Melden("Melvora 2000", core::eingesetzt(Wort(831), fehler.what()));
+    }
+    PicSchalt.backColour = colours::white;
+    PicSchalt.visible = true;
+}
+
+bool Testergebnis::key(form::Key key) {
+    if (key.kind != form::Key::Kind::Enter && key.kind != form::Key::Kind::Escape)
+        return Formular::key(key);
+    cmdOK.click();
+    return true;
+}
+
+std::vector<Testergebnis::Zeile> Testergebnis::zeilen() const {
+    std::vector<Zeile> alle;
+    for (int i = 0; i < maxZeilen; ++i)
+        if (Lab_ergeb(i).visible()) alle.push_back({Lab_ergeb(i).caption(), ergebnis(i).caption()});
+    return alle;
+}
+
+}  // namespace results

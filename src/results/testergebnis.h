@@ -1,0 +1,64 @@
+#pragma once
+#include "core/formular.h"
+#include "results/wertung.h"
+
+namespace results {
+
+/// The result of a run: the share of the score per scale, the total, the settings, and who it was.
+class Testergebnis final : public core::Formular {
+  public:
+    Testergebnis(core::Programm& programm, Wertung& wertung);
+
+    void load() override { start.start(); }
+    void closeBox() override { cmdOK_click(); }
+    bool key(form::Key key) override;
+
+    struct Zeile {
+        std::string name, prozent;
+    };
+    /// The rows as they stand on the form.
+    std::vector<Zeile> zeilen() const;
+    const std::string& gesamtText() const { return gesamt.caption(); }
+
+  private:
+    static constexpr int maxZeilen = 21;
+    static constexpr int maxEinst = 33;
+
+    void start_timer();
+    void Beschriften();
+    void ZeilenZeigen();
+    void ErgebnisZeile(int i, int slot, const std::string& name);
+    void EinstellungenZeigen();
+    void LbGrdEinst();
+    void cmdOK_click();
+    void cmdPrint_click();
+
+    Wertung& wertung_;
+    float summe_ = 0;
+    int gezaehlt_ = 0;
+
+    form::Label erg_head{*this, {"erg_head"}};
+    form::Group erg_cont{*this, {"erg_cont"}};
+    form::ControlArray<form::Label> Lab_richtung{*this, "Lab_richtung", 2, &erg_cont};
+    form::ControlArray<form::Label> Lab_ergeb{*this, "Lab_ergeb", maxZeilen, &erg_cont};
+    form::ControlArray<form::Panel> balken{*this, "balken", maxZeilen, &erg_cont};
+    form::ControlArray<form::Label> ergebnis{*this, "ergebnis", maxZeilen, &erg_cont};
+    form::Label Lab_gesamt{*this, {"Lab_gesamt", form::Place::noIndex, &erg_cont}};
+    form::Label gesamt{*this, {"gesamt", form::Place::noIndex, &erg_cont}};
+    form::Label einst_head{*this, {"einst_head"}};
+    form::Group einst_cont{*this, {"einst_cont"}};
+    form::ControlArray<form::Label> einst_lab{*this, "einst_lab", maxEinst, &einst_cont};
+    form::ControlArray<form::Label> einst_Inh{*this, "einst_Inh", maxEinst, &einst_cont};
+    form::Label grd_einst_head{*this, {"grd_einst_head"}};
+    form::Group gr_einst{*this, {"gr_einst"}};
+    form::ControlArray<form::Label> g_einst_lab{*this, "g_einst_lab", 6, &gr_einst};
+    form::ControlArray<form::Label> g_einst_inh{*this, "g_einst_inh", 6, &gr_einst};
+    form::Picture PicSchalt{*this, {"PicSchalt"}};
+    form::Button cmdHilfe{*this, {"cmdHilfe"}};
+    form::Button cmdPrint{*this, {"cmdPrint"}};
+    form::Button cmdOK{*this, {"cmdOK"}};
+    form::Timer start{*this, {"start"}, 1};
+    form::Timer testtimer{*this, {"testtimer"}, 5000};
+};
+
+}  // namespace results

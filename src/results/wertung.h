@@ -1,0 +1,40 @@
+#pragma once
+#include "core/programm.h"
+#include "results/auswertung.h"
+#include "results/skalaxml.h"
+
+#include <string>
+
+namespace results {
+
+/// What a run is scored with: the tables and the record. One instance lives as long as the process.
+struct Wertung {
+    explicit Wertung(core::Programm& programm) : p(programm), xml(programm) {}
+
+    /// Sizes the tables for every category and both directions.
+    void vorbereiten();
+    /// Books an evaluated task. @param i slot. @param wert its points: lower is better.
+    void ErgebnisBuchen(i16 i, float wert);
+
+    core::Programm& p;
+    Auswertung auswertung;
+    ergebnis ergebnis_best;
+    Skalaxml xml;
+};
+
+/// One row of the result form.
+struct ErgebnisZeile {
+    bool zaehlt = false;
+    /// 1 for nothing but right first answers, 0 for the worst.
+    float anteil = 0;
+};
+
+/// The share that a slot reached in the run in hand.
+ErgebnisZeile ergebnisZeile(const Auswertung& auswertung, const core::Zustand& z, i16 slot);
+
+/// "87.5%": one digit behind a point in every language, never a minus zero.
+std::string prozentText(float anteil);
+/// What stands where nothing was counted.
+inline constexpr const char* nichtGezaehlt = "0.0 %";
+
+}  // namespace results

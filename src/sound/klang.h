@@ -1,0 +1,17 @@
+#pragma once
+#include "form/controls.h"
+
+#include <array>
+
+namespace sound {
+
+/// Channels that a task uses: 0 for equal temperament, 1..8 one per degree for the other tunings.
+constexpr int kanaele = 9;
+
+/// Names of the General MIDI programs 0..127.
+extern const std::array<const char*, 128> klangNamen;
+
+/// Adds the 128 instruments to a combo: its list index is the program number.
+void Klangliste(form::Combo& combo);
+
+}  // namespace sound
