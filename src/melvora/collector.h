@@ -1,0 +1,37 @@
+#pragma once
+#include "melvora/results.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+namespace melvora {
+
+/// Takes the result records that a module has left in the spool folder into the store.
+class Collector {
+  public:
+    struct Harvest {
+        int taken = 0;           ///< new results
+        QStringList unreadable;  ///< paths not told of before; the files stay where they are
+    };
+
+    /// Makes the folder when it is missing.
+    Collector(QString folder, Results& results);
+
+    /// Reads all `RSX*.xml` of the folder. A file goes only when its content is safely in the
+    /// store.
+    /// @throws StoreError when the store cannot be written; the file is still there then.
+    Harvest collect();
+
+    const QString& folder() const { return folder_; }
+
+  private:
+    bool take(const QString& path);
+
+    QString folder_;
+    Results& results_;
+    int taken_ = 0;
+    QSet<QString> told_;
+};
+
+}  // namespace melvora

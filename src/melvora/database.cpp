@@ -1,0 +1,105 @@
+#include "melvora/database.h"
+
+#include <QDir>
+#include <QSqlError>
+#include <QUuid>
+
+namespace melvora {
+
+namespace {
+
+constexpr const char* tables[] = {
+    "CREATE TABLE IF NOT EXISTS settings (setting_key TEXT PRIMARY KEY, content TEXT NOT NULL)",
+    "CREATE TABLE IF NOT EXISTS users (user_key TEXT PRIMARY KEY, surname TEXT NOT NULL,"
+    " first_name TEXT NOT NULL, matriculation TEXT NOT NULL)",
+    "CREATE TABLE IF NOT EXISTS records (user_key TEXT NOT NULL, executable TEXT NOT NULL,"
+    " record_key TEXT NOT NULL, content TEXT NOT NULL,"
+    " PRIMARY KEY (user_key, executable, record_key))",
+    "CREATE TABLE IF NOT EXISTS log (id INTEGER PRIMARY KEY, logged_at TEXT NOT NULL,"
+    " user_key TEXT NOT NULL, kind TEXT NOT NULL, content TEXT NOT NULL)",
+    "CREATE TABLE IF NOT EXISTS results (id INTEGER PRIMARY KEY, started_at TEXT NOT NULL,"
+    " user_key TEXT NOT NULL, exercise TEXT NOT NULL, right_first INTEGER NOT NULL,"
+    " answered INTEGER NOT NULL, file_name TEXT NOT NULL, digest TEXT NOT NULL,"
+    " content TEXT NOT NULL, UNIQUE (file_name, digest))",
+};
+
+}  // namespace
+
+Database::Database(const QString& folder)
+    : path_(QDir(folder).absoluteFilePath("melvora.sqlite")),
+      name_(QUuid::createUuid().toString(QUuid::WithoutBraces)) {
+    if (!QDir().mkpath(folder)) fail("the folder cannot be made");
+    try {
+        open();
+        makeTables();
+    } catch (...) {
+        statements_.clear();
+        QSqlDatabase::removeDatabase(name_);
+        throw;
+    }
+}
+
+Database::~Database() {
+    statements_.clear();
+    QSqlDatabase::removeDatabase(name_);
+}
+
+void Database::open() {
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", name_);
+    database.setDatabaseName(path_);
+    database.setConnectOptions("QSQLITE_BUSY_TIMEOUT=5000");
+    if (!database.open()) fail(database.lastError().databaseText());
+    for (const char* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL"}) {
+        QSqlQuery query(database);
+        if (!query.exec(pragma)) fail(query.lastError().databaseText());
+    }
+}
+
+void Database::makeTables() {
+    for (const char* table : tables) {
+        QSqlQuery query(QSqlDatabase::database(name_));
+        if (!query.exec(table)) fail(query.lastError().databaseText());
+    }
+}
+
+int Database::run(const QString& sql, const QVariantList& values, const Row& row) {
+    auto found = statements_.find(sql);
+    if (found == statements_.end()) {
+        QSqlQuery fresh(QSqlDatabase::database(name_));
+        fresh.setForwardOnly(true);
+        if (!fresh.prepare(sql)) fail(fresh.lastError().databaseText());
+        found = statements_.emplace(sql, std::move(fresh)).first;
+    }
+    QSqlQuery& query = found->second;
+    for (qsizetype i = 0; i < values.size(); ++i) query.bindValue(static_cast<int>(i), values[i]);
+    if (!query.exec()) {
+        const QString cause = query.lastError().databaseText();
+        query.finish();
+        fail(cause);
+    }
+    while (row && query.next()) row(query);
+    const int changed = query.numRowsAffected();
+    query.finish();
+    return changed;
+}
+
+void Database::fail(const QString& cause) const {
+    throw StoreError((path_ + ": " + cause).toStdString());
+}
+
+Transaction::Transaction(Database& database) : database_(database) {
+    auto connection = QSqlDatabase::database(database.name_);
+    if (!connection.transaction()) database.fail(connection.lastError().databaseText());
+}
+
+Transaction::~Transaction() {
+    if (open_) QSqlDatabase::database(database_.name_).rollback();
+}
+
+void Transaction::commit() {
+    auto connection = QSqlDatabase::database(database_.name_);
+    if (!connection.commit()) database_.fail(connection.lastError().databaseText());
+    open_ = false;
+}
+
+}  // namespace melvora

@@ -1,0 +1,69 @@
+#pragma once
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariantList>
+
+#include <functional>
+#include <map>
+#include <stdexcept>
+
+namespace melvora {
+
+/// The store cannot be read or written; the text names the file and the cause.
+class StoreError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// One connection to the store's database. A statement is prepared at its first use and kept.
+/// What a statement outside a Transaction has written is on the disk when it returns.
+class Database {
+  public:
+    using Row = std::function<void(const QSqlQuery&)>;
+
+    /// Opens the SQLite file in `folder`, makes both when they are missing, and the tables with
+    /// them.
+    /// @throws StoreError
+    explicit Database(const QString& folder);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    /// Runs a statement with its values in place of the question marks and hands each row to `row`.
+    /// @return number of rows changed
+    /// @throws StoreError
+    int run(const QString& sql, const QVariantList& values = {}, const Row& row = {});
+
+    const QString& path() const { return path_; }
+
+  private:
+    friend class Transaction;
+
+    void open();
+    void makeTables();
+    [[noreturn]] void fail(const QString& cause) const;
+
+    QString path_;
+    QString name_;
+    std::map<QString, QSqlQuery> statements_;
+};
+
+/// All or nothing: what is run on the database during its life is undone unless it is committed.
+class Transaction {
+  public:
+    /// @throws StoreError
+    explicit Transaction(Database& database);
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    /// @throws StoreError
+    void commit();
+
+  private:
+    Database& database_;
+    bool open_ = true;
+};
+
+}  // namespace melvora

@@ -1,0 +1,136 @@
+#include "melvora/host.h"
+
+#include "melvora/midi_ports.h"
+
+#include <QDir>
+
+namespace melvora {
+
+Host::Host(Place place, Words& words)
+    : place_(std::move(place)),
+      words_(words),
+      store_(place_.data),
+      collector_(QDir(place_.data).absoluteFilePath("spool"), store_.results) {
+    user_ = store_.users.find(store_.settings.get("user"));
+    midiDevice_ = store_.settings.get("midi");
+    words_.choose(store_.settings.get("language"));
+
+    connect(&module_, &ModuleProcess::started, this, &Host::moduleStarted);
+    connect(&module_, &ModuleProcess::ended, this, &Host::onModuleEnded);
+    connect(&module_, &ModuleProcess::failed, this, [this](const QString& cause) {
+        const QString text = words_.wort(941).arg(module_.name(), cause);
+        log(LogKind::Error, text);
+        emit noticed(text);
+        emit moduleEnded();
+        emit menuWanted();
+    });
+    spoolWatcher_.addPath(collector_.folder());
+    connect(&spoolWatcher_, &QFileSystemWatcher::directoryChanged, this, &Host::collect);
+}
+
+QString Host::userKey() const { return user_ ? user_->key : QString(nobody); }
+
+bool Host::logIn(const QString& key) {
+    const bool out = key.isEmpty() || key == nobody;
+    bool known = out;
+    guarded([&] {
+        const auto user = out ? std::nullopt : store_.users.find(key);
+        known = out || user;
+        if (!known || user == user_) return;
+        store_.settings.set("user", user ? user->key : QString());
+        user_ = user;
+        emit usersChanged();
+    });
+    return known;
+}
+
+void Host::putUser(const User& user) {
+    guarded([&] {
+        store_.users.put(user);
+        if (userKey() == user.key) user_ = user;
+        emit usersChanged();
+    });
+}
+
+void Host::removeUser(const QString& key) {
+    guarded([&] {
+        store_.users.remove(key);
+        if (userKey() == key) user_.reset();
+        emit usersChanged();
+    });
+}
+
+bool Host::chooseLanguage(const QString& language) {
+    if (!words_.languages().contains(language)) return false;
+    guarded([&] { store_.settings.set("language", language); });
+    words_.choose(language);
+    emit languageChanged();
+    return true;
+}
+
+void Host::chooseMidiDevice(const QString& name) {
+    guarded([&] { store_.settings.set("midi", name); });
+    midiDevice_ = name;
+    emit midiDeviceChanged();
+}
+
+int Host::midiNumber() const {
+    return midiDevice_.isEmpty() ? builtInSynthesiser : deviceNumber(midiDevice_, midiPorts());
+}
+
+void Host::startModule(const QString& module) {
+    handedOver_ = false;
+    module_.start(module, place_.moduleArguments, {place_.address, collector_.folder()});
+}
+
+void Host::takeOver() {
+    handedOver_ = true;
+    collect();
+    emit menuWanted();
+}
+
+void Host::onModuleEnded(int status) {
+    collect();
+    if (status != 0) {
+        const QString text = words_.wort(942).arg(module_.name()).arg(status);
+        log(LogKind::Error, text);
+        emit noticed(text);
+    }
+    emit moduleEnded();
+    if (!handedOver_) emit menuWanted();
+}
+
+void Host::collect() {
+    guarded([this] {
+        const auto harvest = collector_.collect();
+        for (const QString& path : harvest.unreadable) {
+            const QString text = words_.wort(944).arg(path);
+            log(LogKind::Error, text);
+            emit noticed(text);
+        }
+        if (harvest.taken > 0) emit resultsChanged();
+    });
+}
+
+void Host::log(LogKind kind, const QString& text) {
+    guarded([&] {
+        store_.log.write(kind, userKey(), text);
+        emit logChanged();
+    });
+}
+
+bool Host::guarded(const std::function<void()>& operation) {
+    try {
+        operation();
+        return true;
+    } catch (const StoreError& error) {
+        tell(error);
+        return false;
+    }
+}
+
+void Host::tell(const StoreError& error) {
+    emit noticed(words_.wort(945).arg(QString::fromUtf8(error.what())));
+}
+
+}  // namespace melvora

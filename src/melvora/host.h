@@ -1,0 +1,88 @@
+#pragma once
+#include "melvora/collector.h"
+#include "melvora/module_process.h"
+#include "melvora/store.h"
+#include "melvora/words.h"
+
+#include <QFileSystemWatcher>
+#include <QObject>
+
+#include <functional>
+#include <optional>
+
+namespace melvora {
+
+/// The resident host without its window: who is logged in, the choices, the module that runs, the
+/// collected results, the log. Where the store fails, an operation here tells so by noticed() and
+/// leaves things as they were.
+class Host : public QObject {
+    Q_OBJECT
+  public:
+    struct Place {
+        QString data;     ///< folder of the store and of the spool
+        QString address;  ///< where modules find the host
+        QStringList moduleArguments;
+    };
+
+    /// @throws StoreError when the store cannot be opened or read.
+    Host(Place place, Words& words);
+
+    Store& store() { return store_; }
+    const Words& words() const { return words_; }
+
+    const std::optional<User>& user() const { return user_; }
+    /// Key of who is logged in, or "unbekannt".
+    QString userKey() const;
+    /// "" or "unbekannt" logs out. @return false when there is no such user.
+    bool logIn(const QString& key);
+    void putUser(const User& user);
+    void removeUser(const QString& key);
+
+    /// @return false when the language is not installed.
+    bool chooseLanguage(const QString& language);
+
+    /// Steady name of the chosen MIDI port; "" for the built-in synthesiser.
+    const QString& midiDevice() const { return midiDevice_; }
+    void chooseMidiDevice(const QString& name);
+    /// Its number now; the built-in synthesiser's when the port is not there.
+    int midiNumber() const;
+
+    void startModule(const QString& module);
+    const ModuleProcess& module() const { return module_; }
+    /// The module hands over: results are taken in, the menu is wanted.
+    void takeOver();
+    /// Takes result records from the spool folder into the store.
+    void collect();
+
+    void log(LogKind kind, const QString& text);
+    /// Runs what writes to the store. @return false, after telling, when the store fails.
+    bool guarded(const std::function<void()>& operation);
+    void tell(const StoreError& error);
+
+  signals:
+    void usersChanged();  ///< the list, or who is logged in
+    void languageChanged();
+    void midiDeviceChanged();
+    void resultsChanged();
+    void logChanged();
+    void moduleStarted();
+    void moduleEnded();
+    void menuWanted();
+    void raiseWanted();
+    void noticed(const QString& text);
+
+  private:
+    void onModuleEnded(int status);
+
+    const Place place_;
+    Words& words_;
+    Store store_;
+    Collector collector_;
+    ModuleProcess module_;
+    QFileSystemWatcher spoolWatcher_;
+    std::optional<User> user_;
+    QString midiDevice_;
+    bool handedOver_ = false;
+};
+
+}  // namespace melvora

@@ -1,0 +1,46 @@
+#pragma once
+#include "melvora/database.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace melvora {
+
+enum class LogKind { Message, Error };
+
+struct LogLine {
+    QDateTime time;
+    QString user;
+    LogKind kind;
+    QString text;
+};
+
+/// The suite's log. All operations throw StoreError.
+class Log {
+  public:
+    /// A longer text is cut to this many characters, with its full length behind it.
+    static constexpr int longestText = 2000;
+    /// The oldest lines beyond this many are dropped by prune().
+    static constexpr int mostLines = 50'000;
+
+    struct Filter {
+        QString text;                 ///< part of the text or of the user key, in any case
+        std::optional<LogKind> kind;  ///< nothing: all kinds
+        int most = 1000;              ///< at most this many lines
+    };
+
+    explicit Log(Database& database) : database_(database) {}
+
+    void write(LogKind kind, const QString& user, const QString& text);
+    /// Newest first.
+    QList<LogLine> lines(const Filter& filter) const;
+    void prune();
+
+  private:
+    Database& database_;
+};
+
+}  // namespace melvora

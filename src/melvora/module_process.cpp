@@ -1,0 +1,48 @@
+#include "melvora/module_process.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace melvora {
+
+namespace {
+
+QString folderOfModules() {
+    const QString given = qEnvironmentVariable("MELVORA_MODULE_PATH");
+    return given.isEmpty() ? QCoreApplication::applicationDirPath() : given;
+}
+
+}  // namespace
+
+ModuleProcess::ModuleProcess(QObject* parent) : QObject(parent) {
+    process_.setProcessChannelMode(QProcess::ForwardedChannels);
+    process_.setInputChannelMode(QProcess::ForwardedInputChannel);
+    connect(&process_, &QProcess::started, this, &ModuleProcess::started);
+    connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            emit failed(process_.program() + ": " + process_.errorString());
+    });
+    connect(&process_, &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
+        emit ended(status == QProcess::CrashExit ? -code : code);
+    });
+}
+
+ModuleProcess::~ModuleProcess() {
+    process_.disconnect(this);
+    if (!runs()) return;
+    process_.terminate();
+    process_.waitForFinished(2000);
+}
+
+void ModuleProcess::start(const QString& module, const QStringList& arguments,
+                          const Surroundings& where) {
+    if (runs()) return;
+    name_ = module;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("temp", where.spool);
+    environment.insert("MELVORA_HOST_ADDRESS", where.address);
+    process_.setProcessEnvironment(environment);
+    process_.start(QDir(folderOfModules()).absoluteFilePath(module), arguments);
+}
+
+}  // namespace melvora

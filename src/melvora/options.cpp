@@ -1,0 +1,60 @@
+#include "melvora/options.h"
+
+#include "melvora/module_process.h"
+
+#include <QCommandLineParser>
+
+namespace melvora {
+
+bool Options::plain() const { return !teacher && !module && !user && !language && !data; }
+
+Options parseOptions(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.addOptions({{{"h", "help"}, ""},
+                       {{"v", "version"}, ""},
+                       {"start", "", "module"},
+                       {"user", "", "key"},
+                       {"language", "", "name"},
+                       {"data", "", "folder"},
+                       {"teacher", ""}});
+    if (!parser.parse(arguments)) throw UsageError(parser.errorText().toStdString());
+    if (!parser.positionalArguments().isEmpty())
+        throw UsageError("unknown argument: " + parser.positionalArguments().first().toStdString());
+    const auto value = [&](const QString& name) {
+        return parser.isSet(name) ? std::optional(parser.value(name)) : std::nullopt;
+    };
+    Options options{parser.isSet("help"), parser.isSet("version"), parser.isSet("teacher"),
+                    value("start"),       value("user"),           value("language"),
+                    value("data")};
+    if (options.module && !ModuleProcess::known().contains(*options.module))
+        throw UsageError("--start: unknown module " + options.module->toStdString() +
+                         "; known: " + ModuleProcess::known().join(", ").toStdString());
+    if (options.data && options.data->isEmpty()) throw UsageError("--data: the folder is missing");
+    return options;
+}
+
+QString helpText() {
+    return R"(melvora - the suite's host: users, language, MIDI device, results, log
+
+usage: melvora [options]
+
+  --start MODULE     start a module at once (zepha9: scales)
+  --user KEY         log the user in ("unbekannt" logs out)
+  --language NAME    choose the language by its own name, for example Deutsch
+  --data FOLDER      keep everything there instead of $XDG_DATA_HOME/melvora
+  --teacher          hand --teacher on to the modules
+  -h, --help         show this text
+  -v, --version      show the version
+
+Only one host runs per user. A second one raises the first one's window, hands its --start on and ends.
+
+environment:
+  MELVORA_HOST_ADDRESS   D-Bus address, unix:path=SOCKET
+  MELVORA_MODULE_PATH    folder of the modules
+  MELVORA_I18N           folder of the language files
+
+exit status: 0, or 2 when the command line, the data folder or the socket cannot be used
+)";
+}
+
+}  // namespace melvora

@@ -1,0 +1,59 @@
+#include "melvora/record_html.h"
+
+namespace melvora {
+
+namespace {
+
+QString cell(const QString& html) {
+    return "<td style='padding: 2px 16px 2px 0'>" + html + "</td>";
+}
+
+QString pair(const QString& name, const QString& text) {
+    return "<tr>" + cell(name.toHtmlEscaped()) + cell(text.toHtmlEscaped()) + "</tr>";
+}
+
+QString heading(const QString& text) { return "<h4>" + text.toHtmlEscaped() + "</h4>"; }
+
+QString answersOf(const Words& words, const ResultRecord::Lesson& lesson) {
+    QStringList texts;
+    for (const auto& answer : lesson.answers) {
+        const QString judgement = words.wort(answer.right ? 950 : 951);
+        texts.append(answer.scale.isEmpty() ? judgement
+                                            : QString("%1 (%2)").arg(answer.scale, judgement));
+    }
+    return texts.join(", ");
+}
+
+}  // namespace
+
+QString shareText(const Words& words, int right, int answered) {
+    if (answered == 0) return "–";
+    const int percent = (200 * right + answered) / (2 * answered);
+    return words.wort(932).arg(right).arg(answered).arg(percent);
+}
+
+QString recordHtml(const Words& words, const ResultRecord& record) {
+    QString html = "<table>" + pair(words.wort(930), record.exercise) +
+                   pair(words.wort(929), record.timestamp) + pair(words.wort(959), record.user) +
+                   pair(words.wort(931), shareText(words, record.rightFirst(), record.answered())) +
+                   "</table>";
+    if (!record.settings.isEmpty()) {
+        html += heading(words.wort(946)) + "<table>";
+        for (const auto& [key, value] : record.settings) html += pair(key, value);
+        html += "</table>";
+    }
+    if (record.lessons.isEmpty()) return html;
+    html += heading(words.wort(947)) + "<table><tr>";
+    for (const int number : {954, 948, 953})
+        html += cell("<b>" + words.wort(number).toHtmlEscaped() + "</b>");
+    html += "</tr>";
+    for (const auto& lesson : record.lessons) {
+        const QString seconds = lesson.answers.isEmpty() ? "" : lesson.answers.last().seconds;
+        html += "<tr>" + cell(lesson.scale.toHtmlEscaped()) +
+                cell(answersOf(words, lesson).toHtmlEscaped()) + cell(seconds.toHtmlEscaped()) +
+                "</tr>";
+    }
+    return html + "</table>";
+}
+
+}  // namespace melvora

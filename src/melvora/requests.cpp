@@ -1,0 +1,120 @@
+#include "melvora/requests.h"
+
+#include "hostlink/variant.h"
+
+#include <algorithm>
+
+namespace melvora {
+
+namespace {
+
+QString qt(const std::string& text) { return QString::fromStdString(text); }
+
+bool isText(const core::Value& value) {
+    return value.visit(
+        [](const auto& held) { return std::is_same_v<std::decay_t<decltype(held)>, std::string>; });
+}
+
+}  // namespace
+
+Requests::Handler Requests::handlerOf(const QString& key) {
+    struct Row {
+        const char* key;
+        Handler handler;
+    };
+    static constexpr Row rows[] = {
+        {"APP", &Requests::app},
+        {"MIDI", &Requests::midi},
+        {"LANG", &Requests::lang},
+        {"LOGIN", &Requests::login},
+        {"READ", &Requests::read},
+        {"STORE", &Requests::store},
+        {"LOGMESS", &Requests::logMessage},
+        {"LOGERR", &Requests::logError},
+        {"MENUE", &Requests::menue},
+        {"RAISE", &Requests::raise},
+    };
+    const auto row = std::ranges::find_if(rows, [&](const Row& r) { return key == r.key; });
+    return row == std::end(rows) ? nullptr : row->handler;
+}
+
+bool Requests::answer(const QString& key, const std::optional<core::Value>& argument,
+                      core::Value& result) {
+    try {
+        const Handler handler = handlerOf(key);
+        if (!handler) throw Refusal{"no such key"};
+        if (!argument) throw Refusal{"the argument is of an unknown type"};
+        (this->*handler)(*argument, result);
+        return true;
+    } catch (const Refusal& refusal) {
+        host_.log(LogKind::Error, "refused: " + key.left(40) + ": " + refusal.cause);
+    } catch (const StoreError& error) {
+        host_.tell(error);
+    }
+    return false;
+}
+
+void Requests::app(const core::Value&, core::Value& result) {
+    result = core::Value::Array{"melvora.exe", host_.module().executable().toStdString()};
+}
+
+void Requests::midi(const core::Value&, core::Value& result) {
+    result = std::to_string(host_.midiNumber());
+}
+
+void Requests::lang(const core::Value&, core::Value& result) {
+    result = host_.words().language().toStdString();
+}
+
+void Requests::login(const core::Value&, core::Value& result) {
+    core::Value::Array data{host_.userKey().toStdString()};
+    if (const auto& user = host_.user())
+        for (const QString& field : {user->surname, user->firstName, user->matriculation})
+            data.emplace_back(field.toStdString());
+    result = std::move(data);
+}
+
+Records::Address Requests::addressIn(const core::Value& argument) const {
+    for (std::size_t i : {0u, 1u})
+        if (!isText(argument.at(i)) || argument.at(i).text().empty())
+            throw Refusal{"executable and key must be texts"};
+    return {host_.userKey(), qt(argument.at(0).text()), qt(argument.at(1).text())};
+}
+
+void Requests::read(const core::Value& argument, core::Value& result) {
+    auto record = host_.store().records.read(addressIn(argument));
+    result = record ? std::move(*record) : core::Value(core::Value::Array{"", "NIL"});
+}
+
+void Requests::store(const core::Value& argument, core::Value&) {
+    const auto address = addressIn(argument);
+    const core::Value& record = argument.at(2);
+    if (!record.isArray()) throw Refusal{"a record must be an array"};
+    if (const auto size = hostlink::byteSize(argument); size > largestRecord)
+        throw Refusal{QString("the record is too big: %1 bytes").arg(size)};
+    host_.store().records.store(address, record);
+}
+
+void Requests::logMessage(const core::Value& argument, core::Value&) {
+    if (!isText(argument)) throw Refusal{"the message must be a text"};
+    host_.log(LogKind::Message, qt(argument.text()));
+}
+
+void Requests::logError(const core::Value& argument, core::Value&) {
+    if (argument.items().size() != 4) throw Refusal{"an error has four elements"};
+    host_.log(LogKind::Error, QString("%1: %2 (%3, %4)")
+                                  .arg(qt(argument.at(0).text()), qt(argument.at(2).text()),
+                                       qt(argument.at(1).text()), qt(argument.at(3).text())));
+}
+
+void Requests::menue(const core::Value&, core::Value&) { host_.takeOver(); }
+
+void Requests::raise(const core::Value& argument, core::Value&) {
+    const QString module = qt(argument.text());
+    if (!module.isEmpty() && !ModuleProcess::known().contains(module))
+        throw Refusal{"no such module"};
+    emit host_.raiseWanted();
+    if (!module.isEmpty()) host_.startModule(module);
+}
+
+}  // namespace melvora

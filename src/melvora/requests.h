@@ -1,0 +1,63 @@
+#pragma once
+#include "core/value.h"
+#include "melvora/host.h"
+
+#include <QString>
+
+#include <cstddef>
+#include <optional>
+
+namespace melvora {
+
+/// Answers the modules' requests.
+///
+/// | key     | argument                                  | result |
+/// |---------|-------------------------------------------|---------------------------------------------|
+/// | APP     |                                           | ("melvora.exe", started executable or
+/// "")   | | MIDI    |                                           | device number as text | | LANG
+/// |                                           | name of the language                        | |
+/// LOGIN   |                                           | (key, name, first name, matriculation) |
+/// | READ    | (executable, key)                         | the record, ("", "NIL") when there is
+/// none  | | STORE   | (executable, key, record)                 | | | LOGMESS | text | | | LOGERR
+/// | (procedure, number, description, source)  |                                             | |
+/// MENUE   |                                           | shows the menu | | RAISE   | name of a
+/// module to start, or nothing     | raises the window: a second host sends it   |
+class Requests {
+  public:
+    /// Most bytes of one record.
+    static constexpr std::size_t largestRecord = std::size_t{8} << 20;
+
+    explicit Requests(Host& host) : host_(host) {}
+
+    /// @param argument nothing when it was of a type that no value has
+    /// @param result in: what stands unless the request gives a result; out: the result
+    /// @return true when the request was carried out. One that cannot be is refused: false, with a
+    /// line in the log.
+    bool answer(const QString& key, const std::optional<core::Value>& argument,
+                core::Value& result);
+
+  private:
+    struct Refusal {
+        QString cause;
+    };
+    using Handler = void (Requests::*)(const core::Value& argument, core::Value& result);
+
+    static Handler handlerOf(const QString& key);
+
+    void app(const core::Value&, core::Value& result);
+    void midi(const core::Value&, core::Value& result);
+    void lang(const core::Value&, core::Value& result);
+    void login(const core::Value&, core::Value& result);
+    void read(const core::Value& argument, core::Value& result);
+    void store(const core::Value& argument, core::Value&);
+    void logMessage(const core::Value& argument, core::Value&);
+    void logError(const core::Value& argument, core::Value&);
+    void menue(const core::Value&, core::Value&);
+    void raise(const core::Value& argument, core::Value&);
+
+    Records::Address addressIn(const core::Value& argument) const;
+
+    Host& host_;
+};
+
+}  // namespace melvora

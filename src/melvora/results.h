@@ -1,0 +1,38 @@
+#pragma once
+#include "melvora/database.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+namespace melvora {
+
+/// What the list of results shows of one run.
+struct Result {
+    int id = 0;         ///< set by the store
+    QDateTime started;  ///< local time
+    QString user;       ///< user key, or "unbekannt"
+    QString exercise;
+    int rightFirst = 0;  ///< tasks whose first answer was right
+    int answered = 0;    ///< tasks with an answer
+};
+
+/// The collected results. All operations throw StoreError.
+class Results {
+  public:
+    explicit Results(Database& database) : database_(database) {}
+
+    /// Adds the result with the whole text of its file. The same text under the same file name is
+    /// kept once.
+    /// @return whether it was new
+    bool add(const Result& result, const QString& fileName, const QString& text);
+    /// Newest first.
+    QList<Result> all() const;
+    /// Text of the file that the result was read from; "" when there is no such result.
+    QString text(int id) const;
+
+  private:
+    Database& database_;
+};
+
+}  // namespace melvora

@@ -1,0 +1,61 @@
+#include "melvora/results_page.h"
+
+#include "melvora/record_html.h"
+
+#include <QLocale>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace melvora {
+
+ResultsPage::ResultsPage(Host& host, QWidget* parent)
+    : Page(parent), host_(host), table_(new TextTable(this)), record_(new QTextBrowser(this)) {
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->addWidget(table_);
+    splitter->addWidget(record_);
+    splitter->setChildrenCollapsible(false);
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 12, 12, 12);
+    layout->addWidget(splitter);
+    connect(table_, &TextTable::chosen, this, &ResultsPage::showRecord);
+    connect(&host_, &Host::resultsChanged, this, &ResultsPage::showResults);
+    retranslate();
+}
+
+void ResultsPage::retranslate() {
+    const Words& words = host_.words();
+    table_->setHeadings({words.wort(929), words.wort(959), words.wort(930), words.wort(931)});
+    table_->setEmptyText(words.wort(933));
+    table_->view()->setAccessibleName(words.wort(901));
+    record_->setAccessibleName(words.wort(930));
+    record_->setPlaceholderText(words.wort(949));
+    showResults();
+}
+
+void ResultsPage::showResults() {
+    host_.guarded([this] {
+        const Words& words = host_.words();
+        results_ = host_.store().results.all();
+        QList<QStringList> rows;
+        for (const Result& result : results_)
+            rows.append({QLocale::system().toString(result.started, QLocale::ShortFormat),
+                         result.user, result.exercise,
+                         shareText(words, result.rightFirst, result.answered)});
+        table_->setRows(rows);
+        record_->setVisible(!rows.isEmpty());
+    });
+}
+
+void ResultsPage::showRecord(int row) {
+    record_->clear();
+    if (row < 0) return;
+    host_.guarded([&] {
+        const QByteArray xml = host_.store().results.text(results_[row].id).toUtf8();
+        if (const auto record = parseResultRecord(xml))
+            record_->setHtml(recordHtml(host_.words(), *record));
+    });
+}
+
+}  // namespace melvora

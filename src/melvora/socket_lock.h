@@ -1,0 +1,25 @@
+#pragma once
+#include <string>
+
+namespace melvora {
+
+/// The right to serve a socket. The system gives it back when the process ends, however it ends, so
+/// a socket file that is left over blocks nobody.
+class SocketLock {
+  public:
+    /// Makes the socket's folder, open to this user only, when it is missing.
+    /// @throws std::runtime_error naming the path when the folder cannot be made or used.
+    explicit SocketLock(const std::string& socketPath);
+    ~SocketLock();
+    SocketLock(const SocketLock&) = delete;
+    SocketLock& operator=(const SocketLock&) = delete;
+
+    /// False when another process has the right.
+    bool held() const { return held_; }
+
+  private:
+    int file_ = -1;
+    bool held_ = false;
+};
+
+}  // namespace melvora

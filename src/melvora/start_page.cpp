@@ -1,0 +1,172 @@
+#include "melvora/start_page.h"
+
+#include "melvora/midi_ports.h"
+
+#include <QGridLayout>
+#include <QSignalBlocker>
+#include <QTimer>
+
+namespace melvora {
+
+namespace {
+
+constexpr int columnWidth = 600;
+
+/// A combo that asks for its entries before it unfolds.
+class FreshCombo final : public QComboBox {
+  public:
+    FreshCombo(QWidget* parent, std::function<void()> refresh)
+        : QComboBox(parent), refresh_(std::move(refresh)) {}
+    void showPopup() override {
+        refresh_();
+        QComboBox::showPopup();
+    }
+
+  private:
+    std::function<void()> refresh_;
+};
+
+QFont scaled(QFont font, double factor, QFont::Weight weight = QFont::Normal) {
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setWeight(weight);
+    return font;
+}
+
+void select(QComboBox* combo, const QString& data) {
+    combo->setCurrentIndex(std::max(0, combo->findData(data)));
+}
+
+}  // namespace
+
+StartPage::StartPage(Host& host, QWidget* parent)
+    : Page(parent),
+      host_(host),
+      title_(new QLabel("Melvora", this)),
+      subtitle_(new QLabel(this)),
+      userLabel_(new QLabel(this)),
+      user_(new QComboBox(this)),
+      manage_(new QPushButton(this)),
+      languageLabel_(new QLabel(this)),
+      language_(new QComboBox(this)),
+      midiLabel_(new QLabel(this)),
+      midi_(new FreshCombo(this, [this] { showMidiDevices(); })),
+      start_(new QPushButton(this)),
+      description_(new QLabel(this)) {
+    layOut();
+    for (const QString& name : host_.words().languages()) language_->addItem(name, name);
+    select(language_, host_.words().language());
+    retranslate();
+
+    connect(user_, &QComboBox::activated, this,
+            [this] { host_.logIn(user_->currentData().toString()); });
+    connect(language_, &QComboBox::activated, this,
+            [this] { host_.chooseLanguage(language_->currentData().toString()); });
+    connect(midi_, &QComboBox::activated, this,
+            [this] { host_.chooseMidiDevice(midi_->currentData().toString()); });
+    connect(manage_, &QPushButton::clicked, this, &StartPage::usersWanted);
+    connect(start_, &QPushButton::clicked, this,
+            [this] { host_.startModule(ModuleProcess::known().first()); });
+    connect(&host_, &Host::usersChanged, this, &StartPage::showUsers);
+    connect(&host_, &Host::moduleStarted, this, &StartPage::showModule);
+    connect(&host_, &Host::moduleEnded, this, &StartPage::showModule);
+    QTimer::singleShot(0, this, &StartPage::showMidiDevices);
+}
+
+void StartPage::layOut() {
+    title_->setFont(scaled(font(), 2.4, QFont::Light));
+    subtitle_->setForegroundRole(QPalette::PlaceholderText);
+    start_->setFont(scaled(font(), 1.4, QFont::DemiBold));
+    start_->setMinimumHeight(3 * fontMetrics().height() + 8);
+    start_->setDefault(true);
+    start_->setAutoDefault(true);
+    description_->setWordWrap(true);
+    description_->setAlignment(Qt::AlignHCenter);
+    description_->setForegroundRole(QPalette::PlaceholderText);
+    for (QComboBox* combo : {user_, language_, midi_}) {
+        combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        combo->setMinimumContentsLength(16);
+    }
+    userLabel_->setBuddy(user_);
+    languageLabel_->setBuddy(language_);
+    midiLabel_->setBuddy(midi_);
+
+    auto* choices = new QGridLayout;
+    choices->setHorizontalSpacing(12);
+    choices->setVerticalSpacing(10);
+    choices->setColumnStretch(1, 1);
+    choices->addWidget(userLabel_, 0, 0);
+    choices->addWidget(user_, 0, 1);
+    choices->addWidget(manage_, 0, 2);
+    choices->addWidget(languageLabel_, 1, 0);
+    choices->addWidget(language_, 1, 1);
+    choices->addWidget(midiLabel_, 2, 0);
+    choices->addWidget(midi_, 2, 1);
+
+    auto* column = new QVBoxLayout;
+    column->setSpacing(0);
+    column->addStretch(1);
+    column->addWidget(title_);
+    column->addWidget(subtitle_);
+    column->addSpacing(28);
+    column->addLayout(choices);
+    column->addSpacing(32);
+    column->addWidget(start_);
+    column->addSpacing(8);
+    column->addWidget(description_);
+    column->addStretch(2);
+
+    auto* middle = new QWidget(this);
+    middle->setMaximumWidth(columnWidth);
+    middle->setLayout(column);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto* page = new QHBoxLayout(this);
+    page->setContentsMargins(24, 24, 24, 24);
+    page->addStretch(1);
+    page->addWidget(middle, 100);
+    page->addStretch(1);
+    QWidget* order[] = {start_, user_, manage_, language_, midi_};
+    for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
+void StartPage::retranslate() {
+    const Words& words = host_.words();
+    subtitle_->setText(words.wort(904));
+    userLabel_->setText(words.wort(907));
+    manage_->setText(words.wort(956));
+    languageLabel_->setText(words.wort(909));
+    midiLabel_->setText(words.wort(910));
+    start_->setText(words.wort(905));
+    start_->setAccessibleDescription(words.wort(906));
+    description_->setText(words.wort(906));
+    select(language_, words.language());
+    showUsers();
+    showMidiDevices();
+    showModule();
+}
+
+void StartPage::showUsers() {
+    host_.guarded([this] {
+        user_->clear();
+        user_->addItem(host_.words().wort(908), QString());
+        for (const User& user : host_.store().users.all())
+            user_->addItem(QString("%1 (%2)").arg(user.fullName(), user.key), user.key);
+        select(user_, host_.user() ? host_.userKey() : QString());
+    });
+}
+
+void StartPage::showMidiDevices() {
+    const QString chosen = host_.midiDevice();
+    const QSignalBlocker silence(midi_);
+    midi_->clear();
+    midi_->addItem(host_.words().wort(911), QString());
+    for (const QString& port : midiPorts())
+        if (const QString name = steadyName(port); midi_->findData(name) < 0)
+            midi_->addItem(name, name);
+    if (midi_->findData(chosen) < 0) midi_->addItem(host_.words().wort(912).arg(chosen), chosen);
+    select(midi_, chosen);
+}
+
+void StartPage::showModule() { start_->setEnabled(!host_.module().runs()); }
+
+}  // namespace melvora

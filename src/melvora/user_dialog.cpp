@@ -1,0 +1,89 @@
+#include "melvora/user_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+
+namespace melvora {
+
+UserDialog::UserDialog(Host& host, const std::optional<User>& user, QWidget* parent)
+    : QDialog(parent),
+      host_(host),
+      isNew_(!user),
+      surname_(new QLineEdit(this)),
+      firstName_(new QLineEdit(this)),
+      matriculation_(new QLineEdit(this)),
+      key_(new QLineEdit(this)),
+      complaint_(new QLabel(this)),
+      save_(new QPushButton(this)) {
+    layOut();
+    if (user) {
+        surname_->setText(user->surname);
+        firstName_->setText(user->firstName);
+        matriculation_->setText(user->matriculation);
+        key_->setText(user->key);
+    }
+    key_->setEnabled(isNew_);
+    for (QLineEdit* name : {surname_, firstName_})
+        connect(name, &QLineEdit::textEdited, this, &UserDialog::proposeKey);
+    for (QLineEdit* field : {surname_, firstName_, key_})
+        connect(field, &QLineEdit::textChanged, this, &UserDialog::check);
+    check();
+}
+
+void UserDialog::layOut() {
+    const Words& words = host_.words();
+    setWindowTitle(words.wort(isNew_ ? 924 : 925));
+    for (QLineEdit* field : {surname_, firstName_, matriculation_, key_}) {
+        field->setMaxLength(80);
+        field->setMinimumWidth(fontMetrics().averageCharWidth() * 34);
+    }
+    complaint_->setForegroundRole(QPalette::PlaceholderText);
+    save_->setText(words.wort(922));
+    save_->setDefault(true);
+
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(save_, QDialogButtonBox::AcceptRole);
+    buttons->addButton(words.wort(923), QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(20, 20, 20, 16);
+    form->setSpacing(10);
+    form->addRow(words.wort(918), surname_);
+    form->addRow(words.wort(919), firstName_);
+    form->addRow(words.wort(920), matriculation_);
+    form->addRow(words.wort(921), key_);
+    form->addRow(complaint_);
+    form->addRow(buttons);
+}
+
+User UserDialog::user() const {
+    return {key_->text().trimmed(), surname_->text().trimmed(), firstName_->text().trimmed(),
+            matriculation_->text().trimmed()};
+}
+
+void UserDialog::proposeKey() {
+    if (!isNew_ || key_->isModified()) return;
+    host_.guarded([this] {
+        key_->setText(host_.store().users.proposeKey(surname_->text(), firstName_->text()));
+    });
+}
+
+void UserDialog::check() {
+    const QString text = complaint();
+    complaint_->setText(text);
+    save_->setEnabled(text.isEmpty());
+}
+
+QString UserDialog::complaint() const {
+    const User input = user();
+    const Words& words = host_.words();
+    if (input.surname.isEmpty() && input.firstName.isEmpty()) return words.wort(927);
+    if (!isAllowedKey(input.key)) return words.wort(955);
+    bool taken = false;
+    host_.guarded([&] { taken = isNew_ && host_.store().users.find(input.key); });
+    return taken ? words.wort(926).arg(input.key) : QString();
+}
+
+}  // namespace melvora

@@ -1,0 +1,42 @@
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <QTranslator>
+
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+namespace melvora {
+
+/// The installed languages and the texts of the one in force.
+class Words {
+  public:
+    /// Folder of the language files: MELVORA_I18N, else share/melvora/i18n beside the programs.
+    static QString installedFolder();
+
+    /// Takes the system's language where it is installed, else Deutsch, else the first.
+    /// @throws std::runtime_error naming the folder when it holds no language.
+    explicit Words(const QString& folder);
+
+    /// Names of the languages, each in its own language, in alphabetical order.
+    QStringList languages() const;
+    const QString& language() const;
+    /// @return false, and nothing changed, when no installed language has that name.
+    bool choose(const QString& language);
+
+    /// Text by number; "VOID" when the language lacks it.
+    QString wort(int number) const;
+
+  private:
+    struct Language {
+        QString name;
+        QString suffix;  ///< last part of the file's name, for example "de"
+        std::unique_ptr<QTranslator> texts;
+    };
+
+    std::vector<Language> languages_;
+    std::size_t chosen_ = 0;
+};
+
+}  // namespace melvora
