@@ -1,0 +1,102 @@
+#include "synth/engine.h"
+
+#include "synth/bend.h"
+#include "synth/fluid_error.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace synth {
+
+namespace {
+
+constexpr int block = 64;
+constexpr int allChannels = -1;
+
+/// A dry sound without chorus, which would smear the pitch; samples are read when an instrument
+/// is chosen, so a big soundfont costs no more memory than what is heard of it.
+fluid_settings_t* makeSettings() {
+    quietFluidLog();
+    fluid_settings_t* settings = made(new_fluid_settings(), "settings");
+    fluid_settings_setnum(settings, "synth.gain", 1.0);
+    fluid_settings_setnum(settings, "synth.sample-rate", Engine::sampleRate);
+    fluid_settings_setint(settings, "synth.polyphony", 64);
+    fluid_settings_setint(settings, "synth.cpu-cores", 1);
+    fluid_settings_setint(settings, "synth.chorus.active", 0);
+    fluid_settings_setint(settings, "synth.reverb.active", 0);
+    fluid_settings_setint(settings, "synth.lock-memory", 0);
+    fluid_settings_setint(settings, "synth.dynamic-sample-loading", 1);
+    return settings;
+}
+
+}  // namespace
+
+Engine::Engine(Mailbox& mailbox, std::function<void(std::uint32_t)> ended)
+    : mailbox_(mailbox),
+      settings_(makeSettings()),
+      synth_(made(new_fluid_synth(settings_.get()), "a synthesiser")),
+      sequencer_(made(new_fluid_sequencer2(0), "a sequencer")),
+      queue_(sequencer_.get(), fluid_sequencer_register_fluidsynth(sequencer_.get(), synth_.get()),
+             halfCent, std::move(ended)),
+      level_(sampleRate) {}
+
+bool Engine::loadFont(const std::string& file) {
+    return fluid_synth_sfload(synth_.get(), file.c_str(), 1) != FLUID_FAILED;
+}
+
+bool Engine::hasFont() const { return fluid_synth_sfcount(synth_.get()) > 0; }
+
+void Engine::render(float* left, float* right, int frames) {
+    for (int done = 0; done < frames; done += block) {
+        const int count = std::min(block, frames - done);
+        takeCommands();
+        fluid_synth_write_float(synth_.get(), count, left + done, 0, 1, right + done, 0, 1);
+        level_.apply(left + done, right + done, count);
+        busy_ = queue_.playing() || afterFade_ || voices() > 0;
+    }
+    frames_ += static_cast<std::uint64_t>(frames);
+}
+
+void Engine::takeCommands() {
+    if (afterFade_) {
+        if (!level_.closed()) return;
+        perform(*afterFade_);
+        afterFade_.reset();
+        level_.open();
+    }
+    while (auto command = mailbox_.take()) {
+        busy_ = true;
+        if (command->kind == Command::Kind::Send) {
+            queue_.send(command->event);
+            continue;
+        }
+        queue_.cancel();
+        if (voices() > 0) {
+            level_.fadeOut();
+            afterFade_ = std::move(command);
+            return;
+        }
+        perform(*command);
+    }
+}
+
+void Engine::perform(Command& command) {
+    silence(command.kind);
+    if (command.kind == Command::Kind::Play)
+        queue_.play(std::move(command.events), leadIn, command.run);
+}
+
+void Engine::silence(Command::Kind kind) {
+    if (kind == Command::Kind::Reset) {
+        fluid_synth_system_reset(synth_.get());
+        return;
+    }
+    fluid_synth_all_sounds_off(synth_.get(), allChannels);
+    if (kind == Command::Kind::Play) return;
+    for (int channel = 0; channel < fluid_synth_count_midi_channels(synth_.get()); ++channel)
+        fluid_synth_pitch_bend(synth_.get(), channel, bendCentre);
+}
+
+int Engine::voices() const { return fluid_synth_get_active_voice_count(synth_.get()); }
+
+}  // namespace synth

@@ -1,0 +1,51 @@
+#pragma once
+#include "synth/fluid_handle.h"
+#include "synth/fluid_queue.h"
+#include "synth/midi_ports.h"
+#include "synth/player.h"
+
+#include <array>
+#include <bitset>
+#include <thread>
+
+namespace synth {
+
+/// Plays on an external port. Its thread sleeps until the next message is due.
+class PortPlayer : public Player {
+  public:
+    /// Messages begin this many milliseconds after the start of a queue.
+    static constexpr unsigned leadIn = 5;
+
+    /// Throws FluidError.
+    PortPlayer(SendBytes port, Reports reports);
+    ~PortPlayer() override;
+
+    void put(Command command) override { mailbox_.put(std::move(command)); }
+    sound::SoundProblem problem() const override { return sound::SoundProblem::None; }
+    bool hasVolume() const override { return false; }
+    void setVolume(int, int) override {}
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    static void onEvent(unsigned time, fluid_event_t* event, fluid_sequencer_t* sequencer,
+                        void* self);
+    void run();
+    void advance();
+    void perform(Command& command);
+    void silence(Command::Kind kind);
+    void forward(fluid_event_t* event);
+    void send(int status, int data1, int data2);
+
+    SendBytes port_;
+    Reports reports_;
+    Mailbox mailbox_;
+    FluidSequencer sequencer_;
+    FluidQueue queue_;
+    Clock::time_point begin_ = Clock::now();
+    std::array<std::bitset<128>, 16> sounding_{};
+    std::bitset<16> used_;
+    std::jthread thread_;
+};
+
+}  // namespace synth

@@ -1,0 +1,148 @@
+#include "synth/synth_player.h"
+
+#include <malloc.h>
+
+#include <array>
+#include <system_error>
+#include <utility>
+
+namespace synth {
+
+using namespace std::chrono_literals;
+using sound::SoundProblem;
+
+namespace {
+
+/// Frames of one pull without a device.
+constexpr int period = 512;
+constexpr auto periodTime =
+    std::chrono::nanoseconds(std::int64_t{1'000'000'000} * period / Engine::sampleRate);
+
+/// How often an open device is looked at, and how long it may not pull before it counts as lost.
+constexpr auto watchEvery = 250ms;
+constexpr auto lostAfter = 750ms;
+/// How long the device stays open after the last sound: the next task finds it warm, and a drill
+/// that waits for its user costs nothing.
+constexpr auto linger = 1500ms;
+/// What may still lie in the device's buffers.
+constexpr auto deviceBuffer = 60ms;
+
+}  // namespace
+
+SynthPlayer::SynthPlayer(SynthOptions options, Reports reports)
+    : options_(std::move(options)),
+      reports_(std::move(reports)),
+      engine_(mailbox_, reports_.ended),
+      thread_([this] { run(); }) {}
+
+SynthPlayer::~SynthPlayer() {
+    mailbox_.put({.kind = Command::Kind::Silence});
+    mailbox_.quit();
+}
+
+void SynthPlayer::setVolume(int left, int right) {
+    constexpr float full = sound::MidiOutput::maxVolume;
+    engine_.setVolume(static_cast<float>(left) / full, static_cast<float>(right) / full);
+}
+
+void SynthPlayer::run() {
+    while (true) {
+        if (!engine_.busy()) mailbox_.wait();
+        if (mailbox_.quitting()) return;
+        findFont();
+        serve();
+    }
+}
+
+void SynthPlayer::findFont() {
+    if (engine_.hasFont()) return;
+    const std::string font = findSoundfont(options_.soundfont);
+    if (font.empty() || !engine_.loadFont(font)) return;
+#ifdef __GLIBC__
+    malloc_trim(0);  // parsing leaves a tenth of the font's size behind as free memory
+#endif
+}
+
+void SynthPlayer::serve() {
+    if (options_.driver == "file") return pullToFile();
+    if (auto device = openDevice()) {
+        tell(SoundProblem::None);
+        if (watch()) return;
+        device.reset();
+        tell(SoundProblem::DeviceLost);
+    } else {
+        tell(SoundProblem::NoAudioDevice);
+    }
+    pull(nullptr);
+}
+
+std::unique_ptr<AudioDevice> SynthPlayer::openDevice() {
+    const Pull pull = [this](float* left, float* right, int frames) {
+        engine_.render(left, right, frames);
+    };
+    if (options_.openDevice) return options_.openDevice(pull);
+    if (options_.driver == "none") return nullptr;
+    return openFluidDevice(options_.driver, Engine::sampleRate, pull);
+}
+
+/// Waits until nothing has sounded for a while. False when the device stopped pulling.
+bool SynthPlayer::watch() {
+    auto frames = engine_.frames();
+    auto pulled = Clock::now();
+    auto sounded = pulled;
+    while (!mailbox_.quitting()) {
+        mailbox_.pause(Clock::now() + watchEvery);
+        const auto now = Clock::now();
+        if (std::exchange(frames, engine_.frames()) != frames)
+            pulled = now;
+        else if (now - pulled > lostAfter)
+            return false;
+        if (!idle())
+            sounded = now;
+        else if (now - sounded > linger)
+            return true;
+    }
+    playOut();
+    return true;
+}
+
+/// Lets a note that sounds at the end of the program fade before the device goes.
+void SynthPlayer::playOut() {
+    if (!engine_.busy()) return;
+    const auto limit = Clock::now() + lostAfter;
+    while (!idle() && Clock::now() < limit) std::this_thread::sleep_for(2ms);
+    std::this_thread::sleep_for(deviceBuffer);
+}
+
+void SynthPlayer::pullToFile() {
+    try {
+        if (!file_) file_.emplace(options_.audioFile, Engine::sampleRate);
+        tell(SoundProblem::None);
+        pull(&*file_);
+    } catch (const std::system_error&) {
+        file_.reset();
+        tell(SoundProblem::NoAudioDevice);
+        pull(nullptr);
+    }
+}
+
+/// Renders at the clock's pace until nothing sounds, into `file` or into nothing.
+void SynthPlayer::pull(WavFile* file) {
+    std::array<float, period> left{};
+    std::array<float, period> right{};
+    auto next = Clock::now();
+    while (!idle() && (!mailbox_.quitting() || file)) {
+        engine_.render(left.data(), right.data(), period);
+        if (file) file->write(left.data(), right.data(), period);
+        if (!options_.paced) continue;
+        next = std::max(next + periodTime, Clock::now() - lostAfter);
+        mailbox_.pause(next);
+    }
+}
+
+void SynthPlayer::tell(SoundProblem device) {
+    const auto problem = engine_.hasFont() ? device : SoundProblem::NoSoundfont;
+    if (problem_.exchange(problem) != problem) reports_.problemChanged();
+}
+
+}  // namespace synth

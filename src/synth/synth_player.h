@@ -1,0 +1,52 @@
+#pragma once
+#include "synth/engine.h"
+#include "synth/player.h"
+#include "synth/synth_options.h"
+#include "synth/wav_file.h"
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <thread>
+
+namespace synth {
+
+/// Plays on the built-in synthesiser. Its thread loads the soundfont and keeps the audio device
+/// open for as long as something sounds and a little longer; without a device it pulls the sound
+/// itself, at the clock's pace, into nothing. Every time there is something new to play, what was
+/// missing before is looked for again.
+class SynthPlayer : public Player {
+  public:
+    /// Throws FluidError.
+    SynthPlayer(SynthOptions options, Reports reports);
+    ~SynthPlayer() override;
+
+    void put(Command command) override { mailbox_.put(std::move(command)); }
+    sound::SoundProblem problem() const override { return problem_; }
+    bool hasVolume() const override { return true; }
+    void setVolume(int left, int right) override;
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    void run();
+    void findFont();
+    void serve();
+    bool watch();
+    void playOut();
+    void pull(WavFile* file);
+    void pullToFile();
+    bool idle() const { return mailbox_.empty() && !engine_.busy(); }
+    std::unique_ptr<AudioDevice> openDevice();
+    void tell(sound::SoundProblem problem);
+
+    SynthOptions options_;
+    Reports reports_;
+    Mailbox mailbox_;
+    Engine engine_;
+    std::optional<WavFile> file_;
+    std::atomic<sound::SoundProblem> problem_{sound::SoundProblem::None};
+    std::jthread thread_;
+};
+
+}  // namespace synth
