@@ -1,0 +1,50 @@
+#include "base/rnd.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace base {
+namespace {
+
+TEST(Rnd, StaysInItsRangeAndReachesAllOfIt) {
+    Rnd rnd(3);
+    for (const int k : {1, 2, 3, 7, 11, 100, 30000}) {
+        int lowest = k, highest = -1;
+        for (int i = 0; i < 20 * k + 100; ++i) {
+            const int drawn = rnd.below(k);
+            lowest = std::min(lowest, drawn);
+            highest = std::max(highest, drawn);
+        }
+        EXPECT_EQ(lowest, 0) << k;
+        EXPECT_EQ(highest, k - 1) << k;
+    }
+}
+
+/// The greatest number below 1 that the generator can give must not be rounded up to k.
+TEST(Rnd, ItsGreatestNumberStaysBelowEveryFactor) {
+    constexpr float greatest = static_cast<float>((1 << 24) - 1) * 0x1p-24F;
+    for (int k = 1; k <= 32767; ++k)
+        ASSERT_LT(static_cast<int>(greatest * static_cast<float>(k)), k);
+}
+
+TEST(Rnd, IsUniformFromTheFirstNumbersOfEverySeed) {
+    std::array<int, 11> counts{};
+    for (int seed = 0; seed < 11000; ++seed)
+        ++counts[static_cast<std::size_t>(Rnd(seed).below(11))];
+    for (const int count : counts) EXPECT_NEAR(count, 1000, 150);
+    int up = 0;
+    for (int seed = 0; seed < 1000; ++seed) up += Rnd(seed).sign() == 1 ? 1 : 0;
+    EXPECT_NEAR(up, 500, 80);
+}
+
+TEST(Rnd, TheSameSeedGivesTheSameSequence) {
+    Rnd a(-7), b(1);
+    a.R();
+    b.restart(-7);
+    b.R();
+    for (int i = 0; i < 100; ++i) ASSERT_EQ(a.R(), b.R());
+}
+
+}  // namespace
+}  // namespace base

@@ -1,0 +1,78 @@
+#include "form/bench_form.h"
+
+#include <gtest/gtest.h>
+
+namespace form {
+namespace {
+
+using Diary = std::vector<std::string>;
+
+TEST(Forms, LoadsOnceAndActivatesAtEachShow) {
+    Bench bench;
+    bench.forms.show("bench");
+    EXPECT_EQ(&bench.forms.load("bench"), &bench.form);
+    bench.forms.show("bench");
+    EXPECT_EQ(bench.diary, (Diary{"bench load", "bench active", "bench active"}));
+    EXPECT_THROW(bench.forms.load("nobody"), std::out_of_range);
+}
+
+TEST(Forms, UnloadsAllLastFirstAndThenTheProgramIsEmpty) {
+    Bench bench;
+    bench.add("second");
+    bench.diary.clear();
+    int ended = 0;
+    const auto watch = bench.forms.empty.connect([&] { ++ended; });
+    bench.forms.unloadAll();
+    EXPECT_EQ(bench.diary, (Diary{"second unloading", "bench unloading"}));
+    EXPECT_EQ(ended, 1);
+    bench.loop.doEvents();
+    EXPECT_EQ(bench.diary.size(), 4U) << "both are destroyed by the loop";
+}
+
+TEST(Forms, AFormThatUnloadsItselfInAHandlerOutlivesIt) {
+    Bench bench;
+    std::string seen;
+    const bool never = false;
+    bench.form.button.onClick = {"press.", [&] {
+                                     bench.forms.unload("bench");
+                                     bench.loop.wait(50, never);
+                                     seen = bench.form.button.name();
+                                 }};
+    bench.form.button.click();
+    EXPECT_EQ(seen, "button");
+    EXPECT_EQ(bench.forms.loaded("bench"), nullptr);
+    bench.add("bench");
+    bench.loop.doEvents();
+    EXPECT_EQ(std::ranges::count(bench.diary, "bench destroyed"), 1);
+}
+
+TEST(Forms, AFormUnloadedWhileItsHandlerWaitsIsNotDestroyedUnderIt) {
+    Bench bench;
+    const bool never = false;
+    int ticks = 0;
+    bench.add("second").timer.onTick = {"tick.", [&] { bench.forms.unload("bench"); }};
+    static_cast<BenchForm&>(bench.forms.load("second")).timer.start();
+    bench.form.other.onTick = {"tick.", [&] { ++ticks; }};
+    bench.form.other.start();
+    bench.form.button.onClick = {"press.", [&] {
+                                     bench.loop.wait(1000, never);
+                                     bench.diary.push_back(bench.form.name() + " went on");
+                                 }};
+    bench.form.button.click();
+    EXPECT_EQ(ticks, 0) << "its timers stopped with it";
+    const auto wentOn = std::ranges::find(bench.diary, "bench went on");
+    ASSERT_NE(wentOn, bench.diary.end());
+    EXPECT_EQ(std::find(bench.diary.begin(), wentOn, "bench destroyed"), wentOn);
+}
+
+TEST(Forms, AModalFormHoldsItsCallerUntilItIsHidden) {
+    Bench bench;
+    bench.form.timer.onTick = {"tick.", [&] { bench.forms.hide("bench"); }};
+    bench.form.timer.start();
+    bench.forms.showModal("bench");
+    EXPECT_EQ(bench.loop.elapsed(), 100);
+    EXPECT_NE(bench.forms.loaded("bench"), nullptr);
+}
+
+}  // namespace
+}  // namespace form

@@ -1,0 +1,55 @@
+#pragma once
+#include "form/form.h"
+#include "form/ports.h"
+
+#include <deque>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace support {
+
+/// Message boxes that are answered at once: questions from `answers`, "no" when none is left.
+struct ScriptedDialogs final : form::Dialogs {
+    struct Message {
+        form::Icon icon;
+        std::string title, text;
+        friend bool operator==(const Message&, const Message&) = default;
+    };
+    std::vector<Message> messages;
+    std::vector<std::string> questions;  ///< "title|text"
+    std::deque<bool> answers;
+
+    void message(form::Icon icon, const std::string& title, const std::string& text) override {
+        messages.push_back({icon, title, text});
+    }
+    bool askYesNo(const std::string& title, const std::string& text) override {
+        questions.push_back(title + "|" + text);
+        if (answers.empty()) return false;
+        const bool yes = answers.front();
+        answers.pop_front();
+        return yes;
+    }
+};
+
+/// A printer that remembers what was printed, or fails.
+struct FakePrinter final : form::Printer {
+    std::vector<std::string> pages;  ///< names of forms
+    std::optional<std::string> fault;
+
+    void print(form::Form& form) override {
+        if (fault) throw std::runtime_error(*fault);
+        pages.push_back(form.name());
+    }
+};
+
+struct FakeHelp final : form::Help {
+    std::vector<std::string> opened;  ///< "page/language"
+
+    void open(const std::string& page, const std::string& language) override {
+        opened.push_back(page + "/" + language);
+    }
+};
+
+}  // namespace support

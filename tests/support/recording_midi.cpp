@@ -1,0 +1,91 @@
+#include "support/recording_midi.h"
+
+#include "form/controls.h"
+#include "form/forms.h"
+
+#include <algorithm>
+
+namespace support {
+
+/// A form of its own, so that the end of the queue is an event of the loop like any other.
+struct RecordingMidi::EndTimer : private form::Forms, form::Form {
+    explicit EndTimer(form::MessageLoop& messages)
+        : form::Forms(messages), Form(static_cast<form::Forms&>(*this), "end of the queue") {}
+    void closeBox() override {}
+    void failed(const std::string&, const std::exception&) override { throw; }
+    form::Timer timer{*this, {"end"}, 1};
+};
+
+RecordingMidi::RecordingMidi(form::VirtualTime& loop, int ports)
+    : loop_(loop), ports_(ports), end_(std::make_unique<EndTimer>(loop)) {
+    end_->timer.onTick = {"end", [this] {
+                              end_->timer.stop();
+                              startedAt_ = -1;
+                              queued.clear();
+                              ++ended;
+                              if (queueEmpty) queueEmpty();
+                          }};
+}
+
+RecordingMidi::~RecordingMidi() = default;
+
+sound::MidiDevice RecordingMidi::device(int id) {
+    return id == mapper ? sound::MidiDevice{5, "built in"}
+                        : sound::MidiDevice{1, "port " + std::to_string(id)};
+}
+
+void RecordingMidi::open(int id) { opened = id < ports_ ? id : mapper; }
+
+void RecordingMidi::start() {
+    starts.push_back(loop_.elapsed());
+    startedAt_ = loop_.elapsed();
+    std::int32_t last = 0;
+    for (const auto& event : queued) last = std::max(last, event.time);
+    end_->timer.setInterval(std::max(1, last));
+    end_->timer.start();
+}
+
+void RecordingMidi::stop() {
+    ++stops;
+    queued.clear();
+    startedAt_ = -1;
+    end_->timer.stop();
+}
+
+void RecordingMidi::setVolume(int left, int right) {
+    volume = {left, right};
+    volumes.push_back(volume);
+}
+
+std::set<std::pair<int, int>> RecordingMidi::sounding() const {
+    std::set<std::pair<int, int>> notes;
+    if (startedAt_ < 0) return notes;
+    auto events = queued;
+    std::ranges::stable_sort(events, {}, &sound::MidiEvent::time);
+    for (const auto& event : events) {
+        if (startedAt_ + event.time > loop_.elapsed()) break;
+        const std::pair note{event.status & 0x0F, event.data1};
+        if ((event.status & 0xF0) == 0x90)
+            notes.insert(note);
+        else
+            notes.erase(note);
+    }
+    return notes;
+}
+
+std::vector<sound::MidiEvent> RecordingMidi::noteOns() const {
+    std::vector<sound::MidiEvent> ons;
+    std::ranges::copy_if(queued, std::back_inserter(ons),
+                         [](const auto& e) { return (e.status & 0xF0) == 0x90; });
+    std::ranges::stable_sort(ons, {}, &sound::MidiEvent::time);
+    return ons;
+}
+
+std::vector<sound::MidiEvent> RecordingMidi::sentWith(int status) const {
+    std::vector<sound::MidiEvent> found;
+    for (const Sent& sent : sends)
+        if ((sent.event.status & 0xF0) == status) found.push_back(sent.event);
+    return found;
+}
+
+}  // namespace support
