@@ -6,7 +6,7 @@ GrdEinst::GrdEinst(Programm& programm) : Formular(programm, "grd_einst") {
     setCaption("Grundeinstellung:  Skalen");
     Theoriewahl(0).caption = "Gehörbildung";
     Theoriewahl(1).caption = "Musiklehre";
-    grdeinst_lb.caption = "Übungsart";
+    grdeinst_lb(0).caption = "Übungsart";
     ueb_typ(1).caption = "bestimmen";
     ueb_typ(2).caption = "bilden";
     ueb_typ(3).caption = "spielen";
@@ -43,7 +43,8 @@ void GrdEinst::start_timer() {
     p.katalog.KatalogInit(p.worte);
     beschriften({{Theoriewahl(0), 724},
                  {Theoriewahl(1), 725},
-                 {grdeinst_lb, 586},
+                 {grdeinst_lb(0), 586},
+                 {grdeinst_lb(1), 825},
                  {ueb_typ(1), 154},
                  {ueb_typ(4), 690},
                  {cmdOK, 432},

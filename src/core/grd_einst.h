@@ -26,7 +26,8 @@ class GrdEinst final : public Formular {
 
     form::ControlArray<form::Group> grdeinst{*this, "grdeinst", 2};
     form::ControlArray<form::Option> Theoriewahl{*this, "Theoriewahl", 2, &grdeinst(0)};
-    form::Label grdeinst_lb{*this, {"grdeinst_lb", 0, &grdeinst(1)}};
+    /// Headings: 0 of the types, 1 of the branches.
+    form::ControlArray<form::Label> grdeinst_lb{*this, "grdeinst_lb", 2, &grdeinst(1)};
     form::ControlArray<form::Option> ueb_typ{*this, "ueb_typ", {1, 2, 3, 4}, &grdeinst(1)};
     form::Button cmdHilfe{*this, {"cmdHilfe"}};
     form::Button cmdEnde{*this, {"cmdEnde"}};

@@ -30,6 +30,7 @@ class Arbeitsblatt : public core::Formular {
     void activate() override;
     void closeBox() override { zurueck_click(); }
     bool key(form::Key key) override;
+    bool claimsEnter() const override { return true; }
 
     /// True once the form is being left: every wait and timer stops on it.
     const bool& abbruch() const { return abbruch_; }

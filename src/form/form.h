@@ -58,6 +58,8 @@ class Form {
     virtual void closeBox() = 0;
     /// Runs before the form goes, with its controls still alive.
     virtual void unloading() {}
+    /// Enter means something to the form even where a button has the focus.
+    virtual bool claimsEnter() const { return false; }
     /// @return whether the key meant something here.
     virtual bool key(Key) { return false; }
 

@@ -1,0 +1,68 @@
+// Push buttons, panels that are buttons or bars, and options.
+#include "qt/bar_widget.h"
+#include "qt/binder.h"
+#include "qt/look.h"
+#include "qt/painter_surface.h"
+
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace qt {
+
+using form::Aspect;
+
+namespace {
+
+/// An ampersand in a caption is a letter, not a mark for a key.
+QString captionOf(const form::Control& control) {
+    return QString::fromStdString(control.caption()).trimmed().replace('&', QStringLiteral("&&"));
+}
+
+}  // namespace
+
+template <class C>
+QPushButton* Binder::pushButton(C& control) {
+    auto* button = new QPushButton(&window_);
+    common(control, *button);
+    button->setMinimumHeight(32);
+    button->setAutoDefault(false);
+    const auto show = [&control, button](Aspect aspect) {
+        if (aspect == Aspect::Caption) button->setText(captionOf(control));
+        if (aspect == Aspect::Colour)
+            look::colours(*button, colour(control.foreColour()), colour(control.backColour()));
+    };
+    show(Aspect::Caption);
+    if (control.coloured()) show(Aspect::Colour);
+    follow(control, show);
+    QObject::connect(button, &QPushButton::clicked, button, [&control] { control.click(); });
+    return button;
+}
+
+QWidget* Binder::button(form::Button& control) { return pushButton(control); }
+
+QWidget* Binder::panel(form::Panel& control) {
+    if (control.onClick.run) return pushButton(control);
+    auto* bar = new BarWidget(&window_);
+    common(control, *bar);
+    bar->setPercent(control.floodPercent());
+    follow(control, [&control, bar](Aspect aspect) {
+        if (aspect == Aspect::Value) bar->setPercent(control.floodPercent());
+    });
+    return bar;
+}
+
+QWidget* Binder::option(form::Option& control) {
+    auto* radio = new QRadioButton(&window_);
+    common(control, *radio);
+    const auto show = [&control, radio](Aspect aspect) {
+        if (aspect == Aspect::Caption) radio->setText(captionOf(control));
+        if (aspect == Aspect::Value) radio->setChecked(control.value());
+    };
+    show(Aspect::Caption);
+    show(Aspect::Value);
+    follow(control, show);
+    QObject::connect(radio, &QRadioButton::clicked, radio, [&control] { control.click(); });
+    return radio;
+}
+
+}  // namespace qt

@@ -1,0 +1,99 @@
+#include "qt/binder.h"
+
+#include "qt/bar_widget.h"
+#include "qt/group_frame.h"
+#include "qt/look.h"
+#include "qt/painter_surface.h"
+#include "qt/picture_widget.h"
+
+#include <stdexcept>
+
+namespace qt {
+
+using form::Aspect;
+using form::Kind;
+
+form::Control& Binder::found(const std::string& name, int index) const {
+    form::Control* control = form_.find(name, index);
+    if (!control) throw std::out_of_range(form_.name() + " has no control " + name);
+    return *control;
+}
+
+QWidget* Binder::operator()(const std::string& name, int index) {
+    form::Control& control = found(name, index);
+    switch (control.kind()) {
+        case Kind::Label:
+            return label(static_cast<form::Label&>(control));
+        case Kind::Button:
+            return button(static_cast<form::Button&>(control));
+        case Kind::Panel:
+            return panel(static_cast<form::Panel&>(control));
+        case Kind::Option:
+            return option(static_cast<form::Option&>(control));
+        case Kind::Combo:
+            return combo(static_cast<form::Combo&>(control));
+        case Kind::ListBox:
+            return listBox(static_cast<form::ListBox&>(control));
+        case Kind::Slider:
+            return slider(static_cast<form::Slider&>(control));
+        case Kind::Picture:
+            return picture(static_cast<form::Picture&>(control));
+        case Kind::Group:
+            return group(static_cast<form::Group&>(control));
+        case Kind::TextBox:
+            return textBox(static_cast<form::TextBox&>(control));
+        case Kind::Timer:
+            break;
+    }
+    throw std::out_of_range(name + " is not shown");
+}
+
+void Binder::follow(form::Control& control, std::function<void(Aspect)> listener) {
+    connections_.push_back(control.changed.connect(std::move(listener)));
+}
+
+void Binder::common(form::Control& control, QWidget& widget) {
+    widget.setObjectName(QString::fromStdString(control.id()));
+    const auto show = [&control, &widget](Aspect aspect) {
+        if (aspect == Aspect::Visible) widget.setVisible(control.visible());
+        if (aspect == Aspect::Enabled) widget.setEnabled(control.enabled());
+        if (aspect == Aspect::Caption)
+            widget.setAccessibleName(QString::fromStdString(
+                control.accessibleName().empty() ? control.caption() : control.accessibleName()));
+    };
+    // A widget that will be shown with its parent must not be shown before it has one.
+    if (!control.visible()) widget.setVisible(false);
+    show(Aspect::Enabled);
+    show(Aspect::Caption);
+    follow(control, show);
+}
+
+QWidget* Binder::picture(form::Picture& control) {
+    auto* widget = new PictureWidget(&window_);
+    common(control, *widget);
+    if (control.onClick.run) {
+        widget->setFocusPolicy(Qt::TabFocus);
+        widget->clicked = [&control] { control.click(); };
+    }
+    const auto show = [&control, widget](Aspect aspect) {
+        if (aspect == Aspect::Picture) widget->setPicture(control.picture());
+        if (aspect == Aspect::Colour) widget->setColour(colour(control.backColour()));
+    };
+    show(Aspect::Picture);
+    show(Aspect::Colour);
+    follow(control, show);
+    return widget;
+}
+
+QWidget* Binder::group(form::Group& control) {
+    auto* frame = new GroupFrame(&window_);
+    common(control, *frame);
+    const auto show = [&control, frame](Aspect aspect) {
+        if (aspect == Aspect::Colour) frame->setColour(colour(control.backColour()));
+    };
+    if (control.coloured()) show(Aspect::Colour);
+    follow(control, show);
+    return frame;
+}
+
+}  // namespace qt

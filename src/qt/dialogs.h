@@ -1,0 +1,12 @@
+#pragma once
+#include "form/ports.h"
+
+namespace qt {
+
+class QtDialogs final : public form::Dialogs {
+  public:
+    void message(form::Icon icon, const std::string& title, const std::string& text) override;
+    bool askYesNo(const std::string& title, const std::string& text) override;
+};
+
+}  // namespace qt

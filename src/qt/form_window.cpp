@@ -1,0 +1,104 @@
+#include "qt/form_window.h"
+
+#include "qt/look.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+
+#include <optional>
+
+namespace qt {
+
+namespace {
+
+std::optional<form::Key> keyOf(int key) {
+    using Kind = form::Key::Kind;
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) return form::Key{Kind::Digit, key - Qt::Key_0};
+    switch (key) {
+        case Qt::Key_Space:
+            return form::Key{Kind::Space};
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return form::Key{Kind::Enter};
+        case Qt::Key_Escape:
+            return form::Key{Kind::Escape};
+        case Qt::Key_F1:
+            return form::Key{Kind::Help};
+        default:
+            return {};
+    }
+}
+
+}  // namespace
+
+FormWindow::FormWindow(form::Form& form) : form_(form), binder_(form, *this) {
+    setObjectName(QString::fromStdString(form.name()));
+    changed_ = form.changed.connect([this] { follow(); });
+    qApp->installEventFilter(this);
+}
+
+FormWindow::~FormWindow() {
+    if (waiting_) QApplication::restoreOverrideCursor();
+}
+
+void FormWindow::follow() {
+    setWindowTitle(QString::fromStdString(form_.caption()));
+    setEnabled(form_.enabled());
+    const bool waiting = form_.pointer() == form::Pointer::Hourglass;
+    if (waiting && !waiting_) QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (!waiting && waiting_) QApplication::restoreOverrideCursor();
+    waiting_ = waiting;
+    if (form_.whitened()) {
+        QPalette white = palette();
+        white.setColor(QPalette::Window, Qt::white);
+        setPalette(white);
+    }
+    if (form_.visible() && !isVisible()) open();
+    if (!form_.visible()) hide();
+}
+
+void FormWindow::open() {
+    if (!opened_) {
+        const QRect screen = QApplication::primaryScreen()->availableGeometry();
+        const QSize wanted = opening_.expandedTo(minimumSizeHint());
+        const QSize size = wanted.boundedTo(screen.size() - QSize(16, 40));
+        setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, screen));
+        opened_ = true;
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    form_.handle({"closeBox.", [this] { form_.closeBox(); }});
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    auto& widget = static_cast<QWidget&>(*watched);
+    const auto& press = static_cast<QKeyEvent&>(*event);
+    const bool plain = (press.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    return widget.window() == this && plain && !press.isAutoRepeat() && isEnabled() &&
+           keyPressed(widget, press.key());
+}
+
+bool FormWindow::keyPressed(QWidget& widget, int pressed) {
+    const auto key = keyOf(pressed);
+    if (!key) return false;
+    auto* button = qobject_cast<QPushButton*>(&widget);
+    if (key->kind == form::Key::Kind::Enter && button && !form_.claimsEnter()) {
+        button->click();
+        return true;
+    }
+    bool taken = false;
+    form_.handle({"key.", [&] { taken = form_.key(*key); }});
+    return taken;
+}
+
+}  // namespace qt

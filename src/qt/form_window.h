@@ -1,0 +1,35 @@
+#pragma once
+#include "qt/binder.h"
+
+#include <QWidget>
+
+namespace qt {
+
+/// The window of a form: shown and hidden with it, its keys and close box told to it.
+class FormWindow final : public QWidget {
+  public:
+    explicit FormWindow(form::Form& form);
+    ~FormWindow() override;
+
+    Binder& binder() { return binder_; }
+    /// The size with which the window first opens, cut to the screen.
+    void openWith(const QSize& size) { opening_ = size; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void follow();
+    void open();
+    bool keyPressed(QWidget& widget, int key);
+
+    form::Form& form_;
+    Binder binder_;
+    form::Connection changed_;
+    QSize opening_{720, 520};
+    bool opened_ = false;
+    bool waiting_ = false;
+};
+
+}  // namespace qt

@@ -1,0 +1,147 @@
+#include "qt/look.h"
+#include "qt/windows.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace qt {
+
+namespace {
+
+/// Builds the groups of the set-up form.
+class Groups {
+  public:
+    explicit Groups(Binder& bind) : bind_(bind) {}
+
+    /// A group with its heading; what it holds goes below.
+    QVBoxLayout* begin(QBoxLayout* column, int index) {
+        QWidget* frame = bind_("grdeinst", index);
+        auto* inside = new QVBoxLayout(frame);
+        inside->setContentsMargins(look::margin, look::gap, look::margin, look::gap + 2);
+        inside->setSpacing(5);
+        if (bind_.has("geinst_lb", index)) {
+            QWidget* heading = bind_("geinst_lb", index);
+            look::font(*heading, 1, true);
+            inside->addWidget(heading);
+        }
+        if (column) column->addWidget(frame);
+        return inside;
+    }
+
+    void options(QBoxLayout* column, int index, const char* name,
+                 std::initializer_list<int> indices) {
+        QVBoxLayout* inside = begin(column, index);
+        for (const int i : indices) inside->addWidget(bind_(name, i));
+    }
+
+    /// A label and what it names, side by side.
+    void row(QBoxLayout* inside, QWidget* label, QWidget* control) {
+        auto* line = new QHBoxLayout;
+        line->addWidget(label);
+        line->addWidget(control, 1);
+        inside->addLayout(line);
+    }
+
+  private:
+    Binder& bind_;
+};
+
+}  // namespace
+
+void layoutEinstellung(FormWindow& window) {
+    Binder& bind = window.binder();
+    Groups groups(bind);
+    auto* page = new QVBoxLayout(&window);
+    page->setContentsMargins(look::margin, look::margin, look::margin, look::gap);
+    page->setSpacing(look::gap);
+
+    auto* inner = new QWidget;
+    auto* scroll = new QScrollArea(&window);
+    scroll->setWidget(inner);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    page->addWidget(scroll, 1);
+    auto* columns = new QHBoxLayout(inner);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(look::margin);
+    const auto column = [&] {
+        auto* layout = new QVBoxLayout;
+        layout->setSpacing(look::gap);
+        columns->addLayout(layout, 1);
+        return layout;
+    };
+
+    QVBoxLayout* scales = column();
+    groups.begin(scales, 1)->addWidget(bind("skal_typ_cmb"));
+    groups.options(scales, 9, "ska_ausw", {0, 1});
+    QVBoxLayout* order = groups.begin(scales, 4);
+    for (const int i : {0, 1}) order->addWidget(bind("abfolge", i));
+    groups.row(order, bind("lb4"), bind("Combo_richtung"));
+    groups.options(scales, 7, "final", {0, 1, 2});
+    scales->addStretch();
+
+    QVBoxLayout* tones = column();
+    QVBoxLayout* range = groups.begin(tones, 0);
+    range->addWidget(bind("CmbOktAnz"));
+    groups.row(range, bind("lb0"), bind("CmbOktBer"));
+    groups.options(tones, 3, "stimm_g", {0, 1, 2});
+    groups.options(tones, 2, "frequenz", {0, 1});
+    groups.options(tones, 11, "an_zeig", {0, 1});
+    tones->addStretch();
+
+    QVBoxLayout* run = column();
+    QVBoxLayout* mode = groups.begin(run, 8);
+    mode->addWidget(bind("training_Combo"));
+    mode->addWidget(bind("prfnr_Comb"));
+    groups.options(run, 5, "abfrage", {0, 1});
+    QVBoxLayout* sound = groups.begin(run, 15);
+    sound->addWidget(bind("ComboPatch"));
+    auto* tempo = new QHBoxLayout;
+    tempo->addWidget(bind("lb15", 0));
+    tempo->addWidget(bind("temp_Combo"), 1);
+    tempo->addWidget(bind("lb15", 1));
+    sound->addLayout(tempo);
+    QVBoxLayout* check = groups.begin(nullptr, 14);
+    auto* volume = new QHBoxLayout;
+    volume->addWidget(bind("lb14", 0));
+    volume->addWidget(bind("HSliderVolume"), 1);
+    QWidget* value = bind("lb14", 1);
+    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("127")) + 4);
+    volume->addWidget(value);
+    check->addLayout(volume);
+    check->addWidget(bind("klang_contr"));
+    check->setContentsMargins(0, 4, 0, 0);
+    sound->addWidget(check->parentWidget());
+    run->addStretch();
+
+    auto* hint = static_cast<QLabel*>(bind("tonHinweis"));
+    hint->setWordWrap(true);
+    look::colours(*hint, QColor(0x8A, 0x3B, 0x00));
+    page->addWidget(hint);
+
+    QWidget* box = bind("aktionsbox");
+    auto* actions = new QHBoxLayout(box);
+    actions->setContentsMargins(0, 0, 0, 0);
+    actions->addWidget(bind("cmdHilfe"));
+    actions->addWidget(bind("cmdOptionRead"));
+    actions->addWidget(bind("cmdOptionSave"));
+    actions->addStretch();
+    QWidget* footer = bind("copyright");
+    look::font(*footer, 0.9);
+    look::colours(*footer, look::muted);
+    actions->addWidget(footer);
+    actions->addStretch();
+    actions->addWidget(bind("cmdZurueck"));
+    QWidget* ok = bind("cmdOK");
+    look::font(*ok, 1, true);
+    ok->setMinimumWidth(120);
+    actions->addWidget(ok);
+    page->addWidget(box);
+    window.openWith({960, 600});
+}
+
+}  // namespace qt

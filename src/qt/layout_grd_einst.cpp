@@ -1,0 +1,68 @@
+#include "qt/look.h"
+#include "qt/picture_widget.h"
+#include "qt/windows.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace qt {
+
+void layoutGrdEinst(FormWindow& window) {
+    Binder& bind = window.binder();
+    auto* page = new QVBoxLayout(&window);
+    page->setContentsMargins(24, 20, 24, 12);
+    page->setSpacing(look::margin);
+
+    auto* picture = static_cast<PictureWidget*>(bind("PicAktion"));
+    picture->setPicture(0);
+    picture->setFixedHeight(110);
+    page->addWidget(picture);
+
+    auto* choices = new QHBoxLayout;
+    choices->setSpacing(look::margin);
+    const auto group = [&](int index) {
+        QWidget* frame = bind("grdeinst", index);
+        auto* column = new QVBoxLayout(frame);
+        column->setContentsMargins(18, 14, 18, 14);
+        column->setSpacing(look::gap);
+        choices->addWidget(frame, 1);
+        return column;
+    };
+    const auto option = [&](QVBoxLayout* column, const char* name, int index) {
+        QWidget* widget = bind(name, index);
+        look::font(*widget, 1.15);
+        column->addWidget(widget);
+    };
+    QVBoxLayout* branch = group(0);
+    QWidget* branchHead = bind("grdeinst_lb", 1);
+    look::font(*branchHead, 1, true);
+    branch->addWidget(branchHead);
+    option(branch, "Theoriewahl", 0);
+    option(branch, "Theoriewahl", 1);
+    branch->addStretch();
+    QVBoxLayout* type = group(1);
+    QWidget* typeHead = bind("grdeinst_lb", 0);
+    look::font(*typeHead, 1, true);
+    type->addWidget(typeHead);
+    option(type, "ueb_typ", 1);
+    option(type, "ueb_typ", 4);
+    type->addStretch();
+    page->addLayout(choices, 1);
+
+    auto* actions = new QHBoxLayout;
+    actions->addWidget(bind("cmdHilfe"));
+    actions->addStretch();
+    actions->addWidget(bind("cmdEnde"));
+    QWidget* ok = bind("cmdOK");
+    look::font(*ok, 1, true);
+    ok->setMinimumWidth(120);
+    actions->addWidget(ok);
+    page->addLayout(actions);
+    QWidget* footer = bind("copyright");
+    look::font(*footer, 0.9);
+    look::colours(*footer, look::muted);
+    page->addWidget(footer, 0, Qt::AlignRight);
+    window.openWith({560, 400});
+}
+
+}  // namespace qt

@@ -1,0 +1,45 @@
+#include "qt/look.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+namespace qt::look {
+
+void apply(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette palette;
+    palette.setColor(QPalette::Window, page);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::Button, QColor(0xEC, 0xEA, 0xE5));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x93, 0x95, 0x99));
+    QApplication::setPalette(palette);
+    QFont font = QApplication::font();
+    if (font.pointSizeF() < 10) font.setPointSizeF(10);
+    application.setFont(font);
+}
+
+void font(QWidget& widget, double factor, bool bold) {
+    QFont font = widget.font();
+    font.setPointSizeF(QApplication::font().pointSizeF() * factor);
+    font.setBold(bold);
+    widget.setFont(font);
+}
+
+void colours(QWidget& widget, const QColor& letters, const QColor& background) {
+    QPalette palette = widget.palette();
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            palette.setColor(group, role, letters);
+    if (background.isValid())
+        for (const auto role : {QPalette::Window, QPalette::Button, QPalette::Base})
+            palette.setColor(role, background);
+    widget.setPalette(palette);
+}
+
+}  // namespace qt::look

@@ -1,0 +1,30 @@
+#pragma once
+#include <QColor>
+#include <QPalette>
+#include <QWidget>
+
+class QApplication;
+
+namespace qt {
+
+/// The calm look that all windows share.
+namespace look {
+
+inline const QColor page{0xF5, 0xF4, 0xF1};
+inline const QColor line{0xCF, 0xCB, 0xC2};
+inline const QColor text{0x22, 0x26, 0x2B};
+inline const QColor muted{0x6A, 0x6E, 0x75};
+inline const QColor accent{0x1F, 0x5F, 0x99};
+inline constexpr int margin = 12;
+inline constexpr int gap = 8;
+inline constexpr int radius = 6;
+
+void apply(QApplication& application);
+/// Scales the widget's font and sets its weight.
+void font(QWidget& widget, double factor, bool bold = false);
+/// Text colour, and background where valid.
+void colours(QWidget& widget, const QColor& letters, const QColor& background = {});
+
+}  // namespace look
+
+}  // namespace qt

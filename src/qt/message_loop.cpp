@@ -1,0 +1,61 @@
+#include "qt/message_loop.h"
+
+#include "form/controls.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QElapsedTimer>
+
+namespace qt {
+
+base::Moment QtMessageLoop::now() const {
+    const QDateTime moment = QDateTime::currentDateTime();
+    const QDate date = moment.date();
+    const QTime time = moment.time();
+    return {date.year(),   date.month(),  date.day(), time.hour(),
+            time.minute(), time.second(), time.msec()};
+}
+
+void QtMessageLoop::arm(form::Timer& timer, int milliseconds) {
+    auto& armed = timers_[&timer];
+    armed = std::make_unique<QTimer>();
+    armed->setTimerType(Qt::PreciseTimer);
+    QObject::connect(armed.get(), &QTimer::timeout, &context_, [&timer] { timer.tick(); });
+    armed->start(milliseconds);
+}
+
+/// A timer may be disarmed inside its own tick: the toolkit still holds it then.
+void QtMessageLoop::disarm(form::Timer& timer) {
+    const auto it = timers_.find(&timer);
+    if (it == timers_.end()) return;
+    it->second->stop();
+    it->second->disconnect();
+    it->second.release()->deleteLater();
+    timers_.erase(it);
+}
+
+void QtMessageLoop::doEvents() { QCoreApplication::processEvents(); }
+
+void QtMessageLoop::wait(double milliseconds, const bool& abort) {
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QTimer wake;
+    wake.setTimerType(Qt::PreciseTimer);
+    while (!abort) {
+        const double left = milliseconds - static_cast<double>(elapsed.nsecsElapsed()) / 1e6;
+        if (left <= 0) return;
+        wake.start(static_cast<int>(left) + 1);
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+}
+
+void QtMessageLoop::runUntil(const std::function<bool()>& done) {
+    while (!done())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void QtMessageLoop::post(std::function<void()> call) {
+    QMetaObject::invokeMethod(&context_, std::move(call), Qt::QueuedConnection);
+}
+
+}  // namespace qt

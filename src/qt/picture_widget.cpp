@@ -1,0 +1,83 @@
+#include "qt/picture_widget.h"
+
+#include "notation/bild.h"
+#include "qt/look.h"
+#include "qt/painter_surface.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace qt {
+
+using notation::bildBreite;
+using notation::bildHoehe;
+
+PictureWidget::PictureWidget(QWidget* parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize PictureWidget::sizeHint() const { return {bildBreite + 12, bildHoehe + 6}; }
+
+QSize PictureWidget::minimumSizeHint() const { return {bildBreite * 3 / 4, bildHoehe * 3 / 4}; }
+
+void PictureWidget::setPicture(int number) {
+    number_ = number;
+    drawn_ = {};
+    update();
+}
+
+void PictureWidget::setColour(const QColor& colour) {
+    colour_ = colour;
+    update();
+}
+
+/// Drawn once for a size: a repaint in another colour costs no strokes.
+const QPixmap& PictureWidget::drawn() {
+    const double ratio = devicePixelRatioF();
+    const QSize pixels = (QSizeF(size()) * ratio).toSize();
+    if (drawn_.size() == pixels && drawn_.devicePixelRatio() == ratio) return drawn_;
+    drawn_ = QPixmap(pixels);
+    drawn_.setDevicePixelRatio(ratio);
+    drawn_.fill(Qt::transparent);
+    const double scale = std::min((width() - 12.0) / bildBreite, (height() - 6.0) / bildHoehe);
+    QPainter painter(&drawn_);
+    painter.translate((width() - bildBreite * scale) / 2, (height() - bildHoehe * scale) / 2);
+    painter.scale(scale, scale);
+    PainterSurface surface(painter);
+    notation::BildMalen(surface, number_);
+    return drawn_;
+}
+
+void PictureWidget::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour_);
+    painter.drawRoundedRect(rect(), 4, 4);
+    painter.drawPixmap(0, 0, drawn());
+    if (!hasFocus()) return;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(look::accent, 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 4, 4);
+}
+
+void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && clicked) clicked();
+}
+
+void PictureWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Select && clicked)
+        clicked();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void PictureWidget::changeEvent(QEvent* event) {
+    if (event->type() != QEvent::EnabledChange) return;
+    setCursor(isEnabled() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    update();
+}
+
+}  // namespace qt

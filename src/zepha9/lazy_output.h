@@ -1,0 +1,39 @@
+#pragma once
+#include "sound/midi_output.h"
+#include "synth/post.h"
+
+#include <memory>
+
+namespace zepha9 {
+
+/// The MIDI output, loaded when it is first asked for: the start form and the theory branch need no
+/// sound and should not wait for it.
+class LazyOutput final : public sound::MidiOutput {
+  public:
+    explicit LazyOutput(synth::Post post) : post_(std::move(post)) {}
+
+    int deviceCount() override { return real().deviceCount(); }
+    sound::MidiDevice device(int id) override { return real().device(id); }
+    void open(int id) override { real().open(id); }
+    void close() override { real().close(); }
+    bool isOpen() const override { return real_ && real_->isOpen(); }
+    void queue(const sound::MidiEvent& event) override { real().queue(event); }
+    void send(const sound::MidiEvent& event) override { real().send(event); }
+    void start() override { real().start(); }
+    void stop() override { real().stop(); }
+    int volumeLeft() const override { return real_ ? real_->volumeLeft() : 0; }
+    int volumeRight() const override { return real_ ? real_->volumeRight() : 0; }
+    void setVolume(int left, int right) override { real().setVolume(left, right); }
+    sound::SoundProblem problem() const override {
+        return real_ ? real_->problem() : sound::SoundProblem::None;
+    }
+
+  private:
+    /// @throws base::RuntimeError 57 when the sound library cannot be loaded.
+    sound::MidiOutput& real();
+
+    synth::Post post_;
+    std::unique_ptr<sound::MidiOutput> real_;
+};
+
+}  // namespace zepha9
