@@ -36,11 +36,11 @@ void arrange(std::vector<sound::MidiEvent>& events) {
 
 }  // namespace
 
-FluidQueue::FluidQueue(fluid_sequencer_t* sequencer, fluid_seq_id_t destination, int bendOffset,
+FluidQueue::FluidQueue(fluid_sequencer_t* sequencer, fluid_seq_id_t destination, int (*bend)(int),
                        std::function<void(std::uint32_t)> ended)
     : sequencer_(sequencer),
       destination_(destination),
-      bendOffset_(bendOffset),
+      bend_(bend),
       ended_(std::move(ended)),
       event_(made(new_fluid_event(), "an event")),
       self_(fluid_sequencer_register_client(sequencer, "queue", &FluidQueue::onTimer, this)) {}
@@ -77,8 +77,7 @@ bool FluidQueue::translate(const sound::MidiEvent& event) {
             fluid_event_channel_pressure(event_.get(), channel, data1);
             return true;
         case 0xe0:
-            fluid_event_pitch_bend(event_.get(), channel,
-                                   bendValue(event.data1, event.data2, bendOffset_));
+            fluid_event_pitch_bend(event_.get(), channel, bend_(bendOf(event.data1, event.data2)));
             return true;
         default:
             return false;

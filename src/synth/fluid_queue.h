@@ -16,9 +16,9 @@ class FluidQueue {
   public:
     /// @param sequencer outlives the queue.
     /// @param destination client that plays the messages.
-    /// @param bendOffset put on top of every bend, in steps of the 14-bit value.
+    /// @param bend what is sent to the destination for a 14-bit bend value.
     /// @param ended called on the driving thread with the number of the queue that ended.
-    FluidQueue(fluid_sequencer_t* sequencer, fluid_seq_id_t destination, int bendOffset,
+    FluidQueue(fluid_sequencer_t* sequencer, fluid_seq_id_t destination, int (*bend)(int),
                std::function<void(std::uint32_t)> ended);
     ~FluidQueue();
     FluidQueue(const FluidQueue&) = delete;
@@ -44,7 +44,7 @@ class FluidQueue {
 
     fluid_sequencer_t* sequencer_;
     fluid_seq_id_t destination_;
-    int bendOffset_;
+    int (*bend_)(int);
     std::function<void(std::uint32_t)> ended_;
     FluidEvent event_;
     fluid_seq_id_t self_;

@@ -24,9 +24,10 @@ PortPlayer::PortPlayer(SendBytes port, Reports reports)
     : port_(std::move(port)),
       reports_(std::move(reports)),
       sequencer_((quietFluidLog(), made(new_fluid_sequencer2(0), "a sequencer"))),
-      queue_(sequencer_.get(),
-             fluid_sequencer_register_client(sequencer_.get(), "port", &PortPlayer::onEvent, this),
-             0, reports_.ended),
+      queue_(
+          sequencer_.get(),
+          fluid_sequencer_register_client(sequencer_.get(), "port", &PortPlayer::onEvent, this),
+          [](int value) { return value; }, reports_.ended),
       thread_([this] { run(); }) {}
 
 PortPlayer::~PortPlayer() {

@@ -4,8 +4,11 @@
 #include "synth/fluid_handle.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <string_view>
 #include <vector>
 
 namespace synth {
@@ -14,9 +17,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool isFile(const fs::path& file) {
-    std::error_code none;
-    return fs::is_regular_file(file, none);
+/// Looks at the file's head: the library complains on the terminal about what is no soundfont.
+bool isSoundfont(const fs::path& file) {
+    std::array<char, 12> head{};
+    std::ifstream(file, std::ios::binary).read(head.data(), head.size());
+    const std::string_view text(head.data(), head.size());
+    return text.starts_with("RIFF") && text.ends_with("sfbk");
 }
 
 std::string libraryDefault() {
@@ -34,9 +40,7 @@ std::vector<fs::path> fontsIn(const char* folder) {
     std::vector<fs::path> fonts;
     std::error_code none;
     for (const auto& entry : fs::directory_iterator(folder, none)) {
-        const auto kind = entry.path().extension();
-        if ((kind == ".sf2" || kind == ".sf3") && isFile(entry.path()))
-            fonts.push_back(entry.path());
+        if (isSoundfont(entry.path())) fonts.push_back(entry.path());
     }
     std::ranges::sort(fonts);
     return fonts;
@@ -53,8 +57,8 @@ SynthOptions SynthOptions::fromEnvironment() {
 }
 
 std::string findSoundfont(const std::string& wanted) {
-    if (!wanted.empty()) return isFile(wanted) ? wanted : "";
-    if (const std::string file = libraryDefault(); isFile(file)) return file;
+    if (!wanted.empty()) return isSoundfont(wanted) ? wanted : "";
+    if (const std::string file = libraryDefault(); isSoundfont(file)) return file;
     for (const char* folder :
          {"/usr/share/sounds/sf2", "/usr/share/sounds/sf3", "/usr/share/soundfonts"}) {
         const auto fonts = fontsIn(folder);

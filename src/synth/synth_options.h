@@ -25,7 +25,7 @@ struct SynthOptions {
 };
 
 /// The soundfont to load: `wanted` if it is not empty, else the library's default, else the first
-/// one in the usual folders. Empty when there is none; a file that is returned exists.
+/// one in the usual folders. Empty when there is none.
 std::string findSoundfont(const std::string& wanted);
 
 }  // namespace synth

@@ -40,6 +40,11 @@ SynthPlayer::~SynthPlayer() {
     mailbox_.quit();
 }
 
+void SynthPlayer::put(Command command) {
+    if (command.kind == Command::Kind::Reset) reopened_ = true;
+    mailbox_.put(std::move(command));
+}
+
 void SynthPlayer::setVolume(int left, int right) {
     constexpr float full = sound::MidiOutput::maxVolume;
     engine_.setVolume(static_cast<float>(left) / full, static_cast<float>(right) / full);
@@ -49,6 +54,7 @@ void SynthPlayer::run() {
     while (true) {
         if (!engine_.busy()) mailbox_.wait();
         if (mailbox_.quitting()) return;
+        reopened_ = false;
         findFont();
         serve();
     }
@@ -126,12 +132,13 @@ void SynthPlayer::pullToFile() {
     }
 }
 
-/// Renders at the clock's pace until nothing sounds, into `file` or into nothing.
+/// Renders at the clock's pace until nothing sounds, into `file` or into nothing. A reset ends the
+/// playing into nothing: there may be a device again.
 void SynthPlayer::pull(WavFile* file) {
     std::array<float, period> left{};
     std::array<float, period> right{};
     auto next = Clock::now();
-    while (!idle() && (!mailbox_.quitting() || file)) {
+    while (!idle() && (file || !(mailbox_.quitting() || reopened_))) {
         engine_.render(left.data(), right.data(), period);
         if (file) file->write(left.data(), right.data(), period);
         if (!options_.paced) continue;

@@ -13,15 +13,15 @@ namespace synth {
 
 /// Plays on the built-in synthesiser. Its thread loads the soundfont and keeps the audio device
 /// open for as long as something sounds and a little longer; without a device it pulls the sound
-/// itself, at the clock's pace, into nothing. Every time there is something new to play, what was
-/// missing before is looked for again.
+/// itself, at the clock's pace, into nothing. What is missing is looked for
+/// again at every reset, and whenever something plays after a pause.
 class SynthPlayer : public Player {
   public:
     /// Throws FluidError.
     SynthPlayer(SynthOptions options, Reports reports);
     ~SynthPlayer() override;
 
-    void put(Command command) override { mailbox_.put(std::move(command)); }
+    void put(Command command) override;
     sound::SoundProblem problem() const override { return problem_; }
     bool hasVolume() const override { return true; }
     void setVolume(int left, int right) override;
@@ -45,6 +45,7 @@ class SynthPlayer : public Player {
     Mailbox mailbox_;
     Engine engine_;
     std::optional<WavFile> file_;
+    std::atomic<bool> reopened_{false};
     std::atomic<sound::SoundProblem> problem_{sound::SoundProblem::None};
     std::jthread thread_;
 };

@@ -1,0 +1,172 @@
+#include "synth/sound_meter.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace synth::test;
+using Kind = synth::Command::Kind;
+
+namespace {
+
+constexpr float silent = 1e-4F;
+
+std::vector<sound::MidiEvent> scale() {
+    std::vector<sound::MidiEvent> events;
+    for (int i = 0; i < 8; ++i) append(events, note(i + 1, 60 + i, i * 300, 270));
+    return events;
+}
+
+double pitch(const Rendering& of, double beginMs) {
+    return frequency(of.sound, static_cast<std::size_t>(beginMs * 44.1),
+                     static_cast<std::size_t>(300 * 44.1), 261.63);
+}
+
+}  // namespace
+
+TEST(Engine, CutsInAnyOrderLeaveNothingSoundingAndNothingQueued) {
+    using Steps = std::vector<std::pair<Kind, int>>;  // what is sent, milliseconds until the next
+    const struct {
+        const char* name;
+        Steps steps;
+    } rows[] = {
+        {"stop in the first note", {{Kind::Play, 100}, {Kind::Silence, 20}}},
+        {"stop at once", {{Kind::Play, 0}, {Kind::Silence, 20}}},
+        {"stop in the lead-in", {{Kind::Play, 10}, {Kind::Silence, 20}}},
+        {"play over play, then stop", {{Kind::Play, 350}, {Kind::Play, 0}, {Kind::Silence, 20}}},
+        {"stop, play, stop", {{Kind::Silence, 0}, {Kind::Play, 40}, {Kind::Silence, 20}}},
+        {"reset while fading", {{Kind::Play, 99}, {Kind::Silence, 2}, {Kind::Reset, 20}}},
+        {"many",
+         {{Kind::Play, 31},
+          {Kind::Play, 31},
+          {Kind::Silence, 1},
+          {Kind::Play, 64},
+          {Kind::Reset, 1},
+          {Kind::Play, 31},
+          {Kind::Play, 3},
+          {Kind::Reset, 20}}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        Rendering rendering;
+        for (int channel = 1; channel <= 8; ++channel) rendering.send(0xc0 + channel, steady, 0);
+        for (const auto& [kind, ms] : row.steps) {
+            if (kind == Kind::Play)
+                rendering.play(scale());
+            else
+                rendering.put({.kind = kind});
+            if (ms > 0) rendering.render(ms);
+        }
+        EXPECT_FALSE(rendering.engine.busy());
+        const double cut = double(rendering.sound.size()) / 44.1;
+        rendering.render(3000);
+        EXPECT_LT(rendering.peak(cut), silent);
+        EXPECT_TRUE(rendering.ended.empty());
+    }
+}
+
+TEST(Engine, QueueEndsOnceAfterItsLastEventWithOrWithoutASoundfont) {
+    for (const bool font : {true, false}) {
+        SCOPED_TRACE(font ? "font" : "no font");
+        Rendering rendering(font);
+        rendering.play(scale(), 7);
+        rendering.render(7 * 300 + 270);
+        EXPECT_TRUE(rendering.ended.empty());
+        rendering.render(3000);
+        EXPECT_EQ(rendering.ended, std::vector<std::uint32_t>{7});
+        EXPECT_EQ(rendering.peak() > 0.01F, font);
+        EXPECT_FALSE(rendering.engine.busy());
+    }
+}
+
+TEST(Engine, EventsMayComeInAnyOrderAndNotesOfNoLengthEnd) {
+    auto backwards = scale();
+    std::ranges::reverse(backwards);
+    append(backwards, note(0, 64, 500, 0));
+    append(backwards, note(0, 65, 400, 100));
+    append(backwards, note(0, 65, 500, 100));  // begins as the one before it ends
+    Rendering rendering;
+    rendering.send(0xc0, steady, 0);
+    rendering.play(backwards);
+    rendering.render(5000);
+    EXPECT_FALSE(rendering.engine.busy());
+    EXPECT_LT(rendering.peak(4000), silent);
+    EXPECT_GT(rendering.peak(560, 30), 0.01F);
+}
+
+TEST(Engine, BendSentBeforeTheStartHoldsAndACutCentresIt) {
+    Rendering plain;
+    plain.send(0xc0, steady, 0);
+    plain.play(note(0, 60, 0, 1000));
+    plain.render(1000);
+    const double reference = pitch(plain, 400);
+
+    Rendering rendering;
+    rendering.send(0xc0, steady, 0);
+    rendering.send(0xe0, 0, 127);
+    rendering.play(note(0, 60, 0, 1000));
+    rendering.render(1000);
+    EXPECT_NEAR(1200 * std::log2(pitch(rendering, 400) / reference), 196.875, 0.6);
+
+    rendering.put({.kind = Kind::Silence});
+    rendering.play(note(0, 60, 0, 1000));
+    const double begin = double(rendering.sound.size()) / 44.1;
+    rendering.render(1000);
+    EXPECT_NEAR(pitch(rendering, begin + 400), reference, 0.01);
+}
+
+TEST(Engine, ResetLosesInstrumentsAndACutKeepsThem) {
+    const auto level = [](Kind cut) {
+        Rendering rendering;
+        rendering.send(0xc0, steady, 0);
+        rendering.put({.kind = cut});
+        rendering.play(note(0, 60, 0, 3000));
+        rendering.render(2900);
+        return rendering.peak(2700);
+    };
+    EXPECT_GT(level(Kind::Silence), 2 * level(Kind::Reset)) << "a piano fades, an organ does not";
+}
+
+TEST(Engine, VolumeScalesEachSideAndCutsAndFadesDoNotClick) {
+    Rendering rendering;
+    rendering.send(0xc0, steady, 0);
+    rendering.play(note(0, 48, 0, 5000));
+    rendering.render(500);
+    const float full = rendering.peak(300);
+    const auto steepest = [&](double beginMs) {
+        float most = 0;
+        for (auto i = static_cast<std::size_t>(beginMs * 44.1) + 1; i < rendering.sound.size(); ++i)
+            most = std::max(most, std::fabs(rendering.sound[i] - rendering.sound[i - 1]));
+        return most;
+    };
+    const float smooth = steepest(300);
+    rendering.engine.setVolume(0.5F, 1.0F);
+    rendering.render(300);
+    EXPECT_NEAR(rendering.peak(600), full / 2, full / 10);
+    rendering.engine.setVolume(0.0F, 0.0F);
+    rendering.render(200);
+    EXPECT_LT(rendering.peak(900), silent);
+    rendering.engine.setVolume(1.0F, 1.0F);
+    rendering.render(100);
+    rendering.put({.kind = Kind::Silence});
+    rendering.render(100);
+    EXPECT_LT(steepest(500), 1.3F * smooth);
+    EXPECT_FALSE(rendering.engine.busy());
+}
+
+TEST(Engine, NineLoudChannelsDoNotClip) {
+    for (const int program : {0, steady, 60}) {
+        SCOPED_TRACE(program);
+        std::vector<sound::MidiEvent> chord;
+        Rendering rendering;
+        for (int channel = 0; channel < 9; ++channel) {
+            rendering.send(0xc0 + channel, program, 0);
+            append(chord, note(channel, 55 + channel, 0, 1000, 127));
+        }
+        rendering.play(chord);
+        rendering.render(1000);
+        EXPECT_LE(rendering.peak(), 1.0F);
+        EXPECT_GT(rendering.peak(), 0.5F);
+    }
+}
