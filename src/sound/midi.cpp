@@ -68,9 +68,18 @@ void Midi::MidiReset() {
     LautstaerkeHerstellen();
 }
 
-/// A run that was left between fade-out and fade-in must not leave the device mute.
+/// A run that was left in a fade, or between fade-out and fade-in, must not leave the device mute.
 void Midi::LautstaerkeHerstellen() {
-    if (vol_links_ > 0 && ausgabe().volumeLeft() == 0) Volumen(vol_links_, vol_rechts_);
+    if (vol_links_ > 0 && (blendet_ || ausgabe().volumeLeft() == 0))
+        Volumen(vol_links_, vol_rechts_);
+    blendet_ = false;
+}
+
+bool Midi::Blendschritt(int v) {
+    blendet_ = true;
+    Volumen(v, v);
+    loop_.doEvents();
+    return blendet_;
 }
 
 void Midi::Volumen(int links, int rechts) {
@@ -82,20 +91,18 @@ void Midi::MidiAusblenden() {
     if (ausgabe().volumeLeft() <= 0) return;
     vol_links_ = ausgabe().volumeLeft();
     vol_rechts_ = ausgabe().volumeRight();
-    for (int v = vol_links_; v > 0; v -= stufe) {
-        Volumen(v, v);
-        loop_.doEvents();
-    }
+    for (int v = vol_links_; v > 0; v -= stufe)
+        if (!Blendschritt(v)) return;
+    blendet_ = false;
     Volumen(0, 0);
 }
 
 void Midi::MidiEinblenden() {
     ausgabe().start();
     if (vol_links_ <= 0) return;
-    for (int v = 0; v < vol_links_; v += stufe) {
-        Volumen(v, v);
-        loop_.doEvents();
-    }
+    for (int v = 0; v < vol_links_; v += stufe)
+        if (!Blendschritt(v)) return;
+    blendet_ = false;
     Volumen(vol_links_, vol_rechts_);
 }
 

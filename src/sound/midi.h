@@ -52,6 +52,8 @@ class Midi {
   private:
     static constexpr int stufe = 500;
     void LautstaerkeHerstellen();
+    /// One step of a fade, letting events happen. @return false when one of them ended the fade.
+    bool Blendschritt(int v);
     void Volumen(int links, int rechts);
 
     form::MessageLoop& loop_;
@@ -62,6 +64,7 @@ class Midi {
     i16 midi_geraet_ = MidiOutput::mapper;
     std::int32_t vol_links_ = -1;
     std::int32_t vol_rechts_ = -1;
+    bool blendet_ = false;  ///< a fade is under way
     base::FixedArray<i16, 17> kanal_lautstaerke_;
     bool nieAbgebrochen_ = false;
 };

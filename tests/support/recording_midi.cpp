@@ -55,6 +55,7 @@ void RecordingMidi::stop() {
 void RecordingMidi::setVolume(int left, int right) {
     volume = {left, right};
     volumes.push_back(volume);
+    if (volumeSet) volumeSet();
 }
 
 std::set<std::pair<int, int>> RecordingMidi::sounding() const {

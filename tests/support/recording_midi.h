@@ -52,6 +52,7 @@ class RecordingMidi final : public sound::MidiOutput {
     int ended = 0;  ///< end events raised
     std::pair<int, int> volume{40000, 30000};
     std::vector<std::pair<int, int>> volumes;  ///< every volume set
+    std::function<void()> volumeSet;           ///< called after each of them
 
   private:
     struct EndTimer;

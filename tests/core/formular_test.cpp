@@ -1,0 +1,82 @@
+#include "core/formular.h"
+
+#include "core/bench_programm.h"
+
+#include <gtest/gtest.h>
+
+namespace core {
+namespace {
+
+struct Faulty final : Formular {
+    explicit Faulty(Programm& programm) : Formular(programm, "faulty") {
+        timer.onTick = {"start_timer.", [this] {
+                            timer.stop();
+                            ++ticks;
+                            base::throwOverflow();
+                        }};
+    }
+    void closeBox() override {}
+    void nachFehler(const std::string& prozedur) override { after.push_back(prozedur); }
+    form::Timer timer{*this, {"start"}, 10};
+    int ticks = 0;
+    std::vector<std::string> after;
+};
+
+TEST(CommonErrorPath, LogsWarnsAndGoesOnInThatOrder) {
+    for (const bool warned : {false, true}) {
+        SCOPED_TRACE(warned);
+        BenchProgramm bench;
+        bench.p.host.HostVerbinden();
+        bench.p.worte.SprachenLaden();
+        bench.p.worte.SpracheSetzen("Deutsch");
+        bench.host.warnsOfErrors = warned;
+        Faulty form(bench.p);
+        form.timer.start();
+        bench.loop.advance(1000);
+        EXPECT_EQ(form.ticks, 1) << "the timer stays off";
+        ASSERT_EQ(bench.host.faults.size(), 1U);
+        EXPECT_EQ(bench.host.faults[0].at(0).text(), "zepha9.faultystart_timer.");
+        EXPECT_EQ(bench.host.faults[0].at(1), Value(6));
+        ASSERT_EQ(bench.dialogs.messages.size(), warned ? 2U : 1U);
+        if (warned) {
+            EXPECT_EQ(bench.dialogs.messages[0].title, "Warnung") << "the host's warning first";
+        }
+        const support::ScriptedDialogs::Message own{form::Icon::Exclamation, "Melvora 2000",
+                                                    "W720\nW721\nW722\nW723"};
+        EXPECT_EQ(bench.dialogs.messages.back(), own);
+        EXPECT_EQ(form.after, std::vector<std::string>{"start_timer."});
+    }
+}
+
+TEST(CommonErrorPath, StillWarnsWhenTheHostIsGone) {
+    BenchProgramm bench;
+    bench.p.host.HostVerbinden();
+    bench.host.gone = true;
+    Faulty form(bench.p);
+    form.timer.tick();
+    ASSERT_EQ(bench.dialogs.messages.size(), 1U);
+    EXPECT_EQ(bench.dialogs.messages[0].text, "VOID\nVOID\nVOID\nVOID");
+}
+
+TEST(Help, OpensThePageOfTheFormInTheLanguageInForce) {
+    BenchProgramm bench;
+    bench.p.worte.SprachenLaden();
+    bench.p.worte.SpracheSetzen("English");
+    Faulty form(bench.p);
+    EXPECT_TRUE(form.key({form::Key::Kind::Help}));
+    EXPECT_EQ(bench.help.opened, std::vector<std::string>{"faulty/en"});
+}
+
+TEST(FrmMessage, ShowsALongTextUntilItIsPutAway) {
+    BenchProgramm bench;
+    bench.p.Melden("title", "first");
+    bench.p.Melden("title", "second");
+    form::Form* message = bench.p.forms.loaded("frmMessage");
+    ASSERT_NE(message, nullptr);
+    EXPECT_EQ(static_cast<form::TextBox*>(message->find("txtPrompt"))->text(), "second");
+    message->key({form::Key::Kind::Escape});
+    EXPECT_EQ(bench.p.forms.loaded("frmMessage"), nullptr);
+}
+
+}  // namespace
+}  // namespace core

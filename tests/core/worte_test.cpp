@@ -1,0 +1,43 @@
+#include "core/worte.h"
+
+#include "support/fake_words.h"
+
+#include <gtest/gtest.h>
+
+namespace core {
+namespace {
+
+TEST(Worte, AreVoidUntilThereIsALanguageThatKnowsThem) {
+    support::FakeWords words;
+    words.lacking = {"7s"};
+    Worte worte(&words);
+    EXPECT_EQ(worte.Wort(354), "VOID");
+    worte.SprachenLaden();
+    worte.SpracheSetzen("");
+    worte.SpracheSetzen("Klingon");
+    EXPECT_EQ(worte.Wort(354), "VOID");
+    worte.SpracheSetzen("Deutsch");
+    EXPECT_EQ(worte.Wort(354), "W354") << "also what was asked for before";
+    EXPECT_EQ(worte.Wort(7), "VOID");
+    worte.SpracheSetzen("English");
+    EXPECT_EQ(worte.Wort(354), "E354");
+    EXPECT_EQ(worte.suffix(), "en");
+    worte.SpracheSetzen("Klingon");
+    EXPECT_EQ(worte.Wort(354), "E354") << "an unknown name changes nothing";
+}
+
+TEST(Worte, WithoutAListEverythingIsVoid) {
+    Worte worte(nullptr);
+    worte.SprachenLaden();
+    worte.SpracheSetzen("Deutsch");
+    EXPECT_FALSE(worte.SprachenVorhanden());
+    EXPECT_EQ(worte.Wort(1), "VOID");
+}
+
+TEST(Eingesetzt, PutsTheValueInPlaceOnce) {
+    EXPECT_EQ(eingesetzt("a %1 b", "%1"), "a %1 b");
+    EXPECT_EQ(eingesetzt("plain", "x"), "plain");
+}
+
+}  // namespace
+}  // namespace core
