@@ -23,12 +23,21 @@ constexpr const char* tables[] = {
     " content TEXT NOT NULL, UNIQUE (file_name, digest))",
 };
 
+/// A null text means an empty one here; the database would take it for NULL.
+QVariant bound(const QVariant& value) {
+    const bool isNullText = value.typeId() == QMetaType::QString && value.toString().isNull();
+    return isNullText ? QVariant(QString("")) : value;
+}
+
 }  // namespace
 
 Database::Database(const QString& folder)
     : path_(QDir(folder).absoluteFilePath("melvora.sqlite")),
       name_(QUuid::createUuid().toString(QUuid::WithoutBraces)) {
+    const bool isNew = !QDir(folder).exists();
     if (!QDir().mkpath(folder)) fail("the folder cannot be made");
+    if (isNew)
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     try {
         open();
         makeTables();
@@ -71,7 +80,8 @@ int Database::run(const QString& sql, const QVariantList& values, const Row& row
         found = statements_.emplace(sql, std::move(fresh)).first;
     }
     QSqlQuery& query = found->second;
-    for (qsizetype i = 0; i < values.size(); ++i) query.bindValue(static_cast<int>(i), values[i]);
+    for (qsizetype i = 0; i < values.size(); ++i)
+        query.bindValue(static_cast<int>(i), bound(values[i]));
     if (!query.exec()) {
         const QString cause = query.lastError().databaseText();
         query.finish();

@@ -15,7 +15,9 @@ MainWindow::MainWindow(Host& host)
     : host_(host), notice_(new NoticeBar(this)), tabs_(new QTabWidget(this)) {
     setWindowTitle("Melvora");
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setContentsMargins(0, 4, 0, 0);
+    layout->setSpacing(4);
+    tabs_->setDocumentMode(true);
     layout->addWidget(notice_);
     layout->addWidget(tabs_);
     for (int tab = 0; tab < tabCount; ++tab) {

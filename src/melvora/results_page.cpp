@@ -2,7 +2,6 @@
 
 #include "melvora/record_html.h"
 
-#include <QLocale>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -40,8 +39,7 @@ void ResultsPage::showResults() {
         results_ = host_.store().results.all();
         QList<QStringList> rows;
         for (const Result& result : results_)
-            rows.append({QLocale::system().toString(result.started, QLocale::ShortFormat),
-                         result.user, result.exercise,
+            rows.append({result.started.toString("yyyy-MM-dd HH:mm"), result.user, result.exercise,
                          shareText(words, result.rightFirst, result.answered)});
         table_->setRows(rows);
         record_->setVisible(!rows.isEmpty());

@@ -79,6 +79,13 @@ void StartPage::layOut() {
     start_->setMinimumHeight(3 * fontMetrics().height() + 8);
     start_->setDefault(true);
     start_->setAutoDefault(true);
+    QPalette accent = palette();
+    accent.setColor(QPalette::Button, accent.color(QPalette::Highlight).darker(150));
+    accent.setColor(QPalette::ButtonText, accent.color(QPalette::HighlightedText));
+    accent.setColor(QPalette::Disabled, QPalette::Button, palette().color(QPalette::Button));
+    accent.setColor(QPalette::Disabled, QPalette::ButtonText,
+                    palette().color(QPalette::Disabled, QPalette::ButtonText));
+    start_->setPalette(accent);
     description_->setWordWrap(true);
     description_->setAlignment(Qt::AlignHCenter);
     description_->setForegroundRole(QPalette::PlaceholderText);
@@ -87,6 +94,9 @@ void StartPage::layOut() {
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         combo->setMinimumContentsLength(16);
     }
+    for (QWidget* control : {static_cast<QWidget*>(user_), static_cast<QWidget*>(language_),
+                             static_cast<QWidget*>(midi_), static_cast<QWidget*>(manage_)})
+        control->setMinimumHeight(2 * fontMetrics().height());
     userLabel_->setBuddy(user_);
     languageLabel_->setBuddy(language_);
     midiLabel_->setBuddy(midi_);
@@ -107,6 +117,7 @@ void StartPage::layOut() {
     column->setSpacing(0);
     column->addStretch(1);
     column->addWidget(title_);
+    column->addSpacing(4);
     column->addWidget(subtitle_);
     column->addSpacing(28);
     column->addLayout(choices);
@@ -134,6 +145,7 @@ void StartPage::retranslate() {
     subtitle_->setText(words.wort(904));
     userLabel_->setText(words.wort(907));
     manage_->setText(words.wort(956));
+    manage_->setMinimumWidth(manage_->sizeHint().width() + fontMetrics().height());
     languageLabel_->setText(words.wort(909));
     midiLabel_->setText(words.wort(910));
     start_->setText(words.wort(905));

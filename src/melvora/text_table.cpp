@@ -69,6 +69,9 @@ void TextTable::setRows(const QList<QStringList>& rows) {
     model_->setRows(rows);
     stack_->setCurrentWidget(rows.isEmpty() ? static_cast<QWidget*>(empty_) : view_);
     view_->resizeColumnsToContents();
+    auto* header = view_->horizontalHeader();
+    for (int column = 0; column < header->count(); ++column)
+        header->resizeSection(column, header->sectionSize(column) + fontMetrics().height());
     chooseRow(before);
 }
 

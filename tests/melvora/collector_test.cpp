@@ -1,0 +1,117 @@
+#include "melvora/collector.h"
+
+#include "melvora/result_record.h"
+#include "melvora/store.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace melvora {
+namespace {
+
+const QByteArray record = R"(<?xml version="1.0" encoding="utf-8"?>
+<exercise>
+ <properties programm="ZEPHA9" ukey="jörg" exercise="bestimmen" timestamp="21.11.2026 12:00:09"
+  description="Untersuchung: bestimmen"/>
+ <settings><setting key="Tempo" value="90"/></settings>
+ <lessons>
+  <lesson><properties><property key="Tonskala" value="C dorisch"/></properties><answers>
+   <answer lfd="1"><property key="Antwort" value="false"/><property key="Skala" value="Dur"/></answer>
+   <answer lfd="2"><property key="Antwort" value="true"/><property key="Skala" value="dorisch"/>
+    <property key="Dauer Antwort" value="2,5"/><property key="Anz Whlg" value="0"/></answer>
+  </answers></lesson>
+  <lesson><properties/><answers><answer lfd="1"><property key="Antwort" value="true"/></answer></answers></lesson>
+  <lesson><properties/><answers/></lesson>
+ </lessons>
+</exercise>)";
+
+TEST(ResultRecord, CountsTasksByTheirFirstAnswer) {
+    const auto read = parseResultRecord(record);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->rightFirst(), 1);
+    EXPECT_EQ(read->answered(), 2);
+    EXPECT_EQ(read->lessons.size(), 3);
+    EXPECT_EQ(read->lessons[0].answers[1].seconds, "2,5");
+    EXPECT_EQ(read->settings.first(), qMakePair(QString("Tempo"), QString("90")));
+}
+
+class CollectorTest : public testing::Test {
+  protected:
+    void put(const QString& name, const QByteArray& text) {
+        QFile file(spool(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    QString spool(const QString& name) const { return folder_.filePath("spool/" + name); }
+
+    QTemporaryDir folder_;
+    Store store_{folder_.path()};
+    Collector collector_{folder_.filePath("spool"), store_.results};
+};
+
+TEST_F(CollectorTest, TakesARecordIntoTheStoreAndClearsItAway) {
+    put("RSX261121120000.xml", record);
+    EXPECT_EQ(collector_.collect().taken, 1);
+    EXPECT_FALSE(QFile::exists(spool("RSX261121120000.xml")));
+    const auto results = store_.results.all();
+    ASSERT_EQ(results.size(), 1);
+    EXPECT_EQ(results[0].started, QDateTime({2026, 11, 21}, {12, 0, 0}));
+    EXPECT_EQ(results[0].user, "jörg");
+    EXPECT_EQ(results[0].exercise, "bestimmen");
+    EXPECT_EQ(results[0].rightFirst, 1);
+    EXPECT_EQ(results[0].answered, 2);
+    EXPECT_EQ(store_.results.text(results[0].id), QString::fromUtf8(record));
+}
+
+TEST_F(CollectorTest, KeepsWhatIsNoRecordAndTellsOfItOnce) {
+    struct Row {
+        const char* name;
+        QByteArray text;
+    };
+    const Row rows[] = {
+        {"RSX000000000001.xml", ""},
+        {"RSX000000000002.xml", "no xml"},
+        {"RSX000000000003.xml", record.left(record.size() / 2)},
+        {"RSX000000000004.xml", "<test><properties programm='ZEPHA9'/></test>"},
+    };
+    for (const Row& row : rows) put(row.name, row.text);
+    put("RSX261121120000.xml", record);
+    put("other.xml", record);
+    const auto first = collector_.collect();
+    EXPECT_EQ(first.taken, 1);
+    EXPECT_EQ(first.unreadable.size(), std::ssize(rows));
+    EXPECT_TRUE(collector_.collect().unreadable.isEmpty());
+    for (const Row& row : rows) EXPECT_TRUE(QFile::exists(spool(row.name))) << row.name;
+    EXPECT_TRUE(QFile::exists(spool("other.xml")));
+}
+
+TEST_F(CollectorTest, TakesAHalfWrittenRecordWhenItIsWhole) {
+    put("RSX261121120000.xml", record.left(100));
+    EXPECT_EQ(collector_.collect().taken, 0);
+    put("RSX261121120000.xml", record);
+    EXPECT_EQ(collector_.collect().taken, 1);
+}
+
+TEST_F(CollectorTest, ARecordWhoseFileWasLeftBehindCountsOnce) {
+    for (int i = 0; i < 2; ++i) {
+        put("RSX261121120000.xml", record);
+        EXPECT_EQ(collector_.collect().taken, i == 0 ? 1 : 0);
+    }
+    put("RSX261121120000.xml", QByteArray(record).replace("dorisch", "lydisch"));
+    EXPECT_EQ(collector_.collect().taken, 1) << "another run of the same second";
+    EXPECT_EQ(store_.results.all().size(), 2);
+}
+
+TEST_F(CollectorTest, AFileStaysWhenTheStoreCannotTakeIt) {
+    put("RSX261121120000.xml", record);
+    store_.database.run("PRAGMA query_only = 1", {}, [](const auto&) {});
+    EXPECT_THROW(collector_.collect(), StoreError);
+    EXPECT_TRUE(QFile::exists(spool("RSX261121120000.xml")));
+    store_.database.run("PRAGMA query_only = 0", {}, [](const auto&) {});
+    EXPECT_EQ(collector_.collect().taken, 1);
+}
+
+}  // namespace
+}  // namespace melvora

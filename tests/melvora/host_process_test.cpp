@@ -1,0 +1,190 @@
+#include "melvora/host_process.h"
+
+#include "melvora/store.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QDir>
+#include <QThread>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <thread>
+
+namespace melvora {
+namespace {
+
+using core::Value;
+
+TEST_F(HostProcess, KilledAtAnyMomentItLosesNothingThatItAcknowledged) {
+    int acknowledged = -1;
+    for (int round = 0; round < 4; ++round) {
+        SCOPED_TRACE(round);
+        start();
+        std::thread murderer([&] {
+            QThread::msleep(static_cast<unsigned long>(40 + 37 * round));
+            ::kill(static_cast<pid_t>(host_.processId()), SIGKILL);
+        });
+        Value result;
+        const int first = acknowledged + 1;
+        const auto storeUntilItDies = [&] {
+            for (int i = first;; ++i) {
+                const Value record = Value::Array{i, std::string(20'000, 'x'), i};
+                if (link().request("STORE", Value::Array{"zepha9", "E1", record}, result))
+                    acknowledged = i;
+            }
+        };
+        EXPECT_THROW(storeUntilItDies(), core::HostGone);
+        murderer.join();
+        EXPECT_GT(acknowledged, first);
+        ASSERT_TRUE(host_.waitForFinished());
+
+        start();
+        const Value record = ask("READ", Value::Array{"zepha9", "E1"});
+        EXPECT_GE(std::stoi(record.at(0).text()), acknowledged);
+        EXPECT_EQ(record.at(0), record.at(2));
+        EXPECT_EQ(record.at(1).text().size(), 20'000u);
+        kill();
+    }
+}
+
+TEST_F(HostProcess, ASecondHostRaisesTheFirstAndEndsWell) {
+    start();
+    const Ended ended = second();
+    EXPECT_EQ(ended.status, 0) << ended.complaint;
+    EXPECT_EQ(host_.state(), QProcess::Running);
+    EXPECT_FALSE(ask("LANG", "").isEmpty());
+}
+
+TEST_F(HostProcess, OfTwoHostsStartedAtOnceOneStays) {
+    QProcess other;
+    prepare(host_, {});
+    prepare(other, {});
+    host_.start();
+    other.start();
+    eventually([&] { return host_.waitForFinished(10) || other.waitForFinished(10); });
+    QProcess& gone = host_.state() == QProcess::NotRunning ? host_ : other;
+    EXPECT_EQ(gone.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(gone.exitCode(), 0) << gone.readAllStandardError().toStdString();
+    EXPECT_FALSE(ask("LANG", "").isEmpty());
+    other.kill();
+    other.waitForFinished();
+}
+
+TEST_F(HostProcess, StartsOverASocketThatAKilledHostLeft) {
+    start();
+    kill();
+    EXPECT_TRUE(QFile::exists(socket()));
+    start();
+    EXPECT_FALSE(ask("LANG", "").isEmpty());
+}
+
+TEST_F(HostProcess, TellsWhatIsWrongAndEndsWithStatusTwo) {
+    QFile file(data());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    struct Row {
+        const char* name;
+        QStringList arguments;
+        std::string told;
+    };
+    const Row rows[] = {
+        {"data folder is a file", {}, data().toStdString()},
+        {"unknown option", {"--nonsense"}, "nonsense"},
+        {"unknown module", {"--start", "zepha8"}, "zepha8"},
+        {"unknown user", {"--data", folder_.filePath("d1"), "--user", "ghost"}, "ghost"},
+        {"unknown language", {"--data", folder_.filePath("d2"), "--language", "Latina"}, "Deutsch"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Ended ended = second(row.arguments);
+        EXPECT_EQ(ended.status, 2);
+        EXPECT_NE(ended.complaint.find(row.told), std::string::npos) << ended.complaint;
+    }
+}
+
+TEST_F(HostProcess, CallsThatAreNoRequestsDoItNoHarm) {
+    start();
+    const auto caller =
+        QDBusConnection::connectToPeer("unix:path=" + socket(), "caller of nonsense");
+    struct Row {
+        const char* name;
+        const char* method;
+        QVariantList arguments;
+    };
+    const QVariant nothing = QVariant::fromValue(QDBusVariant(QString()));
+    const Row rows[] = {
+        {"no arguments", "Request", {}},
+        {"key is a number", "Request", {5, nothing, nothing}},
+        {"argument is no variant", "Request", {"LANG", "", nothing}},
+        {"unknown method", "Destroy", {"LANG", nothing, nothing}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        auto call = QDBusMessage::createMethodCall({}, hostlink::objectPath,
+                                                   hostlink::interfaceName, row.method);
+        call.setArguments(row.arguments);
+        EXPECT_EQ(caller.call(call, QDBus::Block, 5000).type(), QDBusMessage::ErrorMessage);
+    }
+    QDBusConnection::disconnectFromPeer("caller of nonsense");
+
+    const int plain = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un name{AF_UNIX, {}};
+    socket().toStdString().copy(name.sun_path, sizeof name.sun_path - 1);
+    ASSERT_EQ(connect(plain, reinterpret_cast<sockaddr*>(&name), sizeof name), 0);
+    const std::string noise(100'000, '\xff');
+    EXPECT_GT(send(plain, noise.data(), noise.size(), MSG_NOSIGNAL), 0);
+    close(plain);
+
+    Value result;
+    EXPECT_FALSE(
+        link().request("STORE", Value::Array{"zepha9", "E1", std::string(50 << 20, 'x')}, result));
+    EXPECT_FALSE(ask("LANG", "").isEmpty());
+}
+
+TEST_F(HostProcess, CallersThatComeAndGoLeaveNothingOpen) {
+    start();
+    const QDir open(QString("/proc/%1/fd").arg(host_.processId()));
+    const auto visit = [&](int times) {
+        for (int i = 0; i < times; ++i) {
+            Value result;
+            hostlink::DbusHost caller(hostlink::addressOf(socket().toStdString()));
+            EXPECT_TRUE(caller.request("LANG", "", result));
+        }
+    };
+    visit(5);
+    const auto before = open.entryList(QDir::System | QDir::Files).size();
+    visit(50);
+    EXPECT_LT(open.entryList(QDir::System | QDir::Files).size(), before + 10);
+}
+
+TEST_F(HostProcess, AnotherUserIsNotServed) {
+    if (getuid() != 0) GTEST_SKIP() << "only root can act as another user";
+    start();
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7755));
+    QFile::setPermissions(socket(), QFile::Permissions(0x7777));
+    const auto call = [this](bool asStranger) {
+        QProcess caller;
+        prepare(caller, {}, "vanish");
+        caller.setProgram(MELVORA_FAKE_MODULES "/zepha9");
+        caller.setArguments({});
+        if (asStranger) {
+            caller.setChildProcessModifier([] {
+                if (setuid(65534) != 0) _exit(100);
+            });
+        }
+        caller.start();
+        EXPECT_TRUE(caller.waitForStarted());
+        EXPECT_TRUE(caller.waitForFinished(20'000));
+        return caller.exitCode();
+    };
+    EXPECT_EQ(call(false), 0);
+    EXPECT_EQ(call(true), 4);
+    EXPECT_EQ(Store(data()).log.lines({}).size(), 1);
+    EXPECT_FALSE(ask("LANG", "").isEmpty());
+}
+
+}  // namespace
+}  // namespace melvora

@@ -1,0 +1,60 @@
+#include "melvora/host_process.h"
+#include "melvora/store.h"
+
+#include <QThread>
+
+namespace melvora {
+namespace {
+
+class ModuleRun : public HostProcess {
+  protected:
+    /// Texts of the log that the host has written so far, newest first.
+    QStringList logged() const {
+        QStringList texts;
+        for (const LogLine& line : Store(data()).log.lines({})) texts.append(line.text);
+        return texts;
+    }
+    std::string startedModule() { return ask("APP", {}).at(1).text(); }
+};
+
+TEST_F(ModuleRun, TheModuleFindsItsHostAndItsResultIsCollected) {
+    start({"--start", "zepha9", "--teacher"}, "run");
+    eventually([this] { return Store(data()).results.all().size() == 1; });
+    eventually([this] { return startedModule().empty(); });
+    EXPECT_EQ(logged(), QStringList{"started as zepha9.exe --teacher"});
+    EXPECT_FALSE(QFile::exists(data() + "/spool/RSX261121120000.xml"));
+}
+
+TEST_F(ModuleRun, TheHostNamesTheModuleAsLongAsItRuns) {
+    start({"--start", "zepha9"}, "stay");
+    eventually([this] { return startedModule() == "zepha9.exe"; });
+    EXPECT_EQ(second({"--start", "zepha9"}).status, 0);
+    EXPECT_EQ(startedModule(), "zepha9.exe");
+}
+
+TEST_F(ModuleRun, AModuleThatDiesIsLoggedAndTheHostLives) {
+    start({"--start", "zepha9"}, "crash");
+    eventually([this] { return !logged().isEmpty(); });
+    EXPECT_TRUE(logged().first().contains("zepha9"));
+    EXPECT_TRUE(logged().first().contains("-9"));
+    EXPECT_EQ(startedModule(), "");
+}
+
+TEST_F(ModuleRun, ASecondHostHandsItsModuleOn) {
+    start({}, "vanish");
+    EXPECT_EQ(second({"--start", "zepha9"}).status, 0);
+    eventually([this] { return logged().contains("started as zepha9.exe"); });
+}
+
+TEST_F(ModuleRun, AMissingModuleIsToldOfWithItsPath) {
+    prepare(host_, {"--start", "zepha9"});
+    auto environment = host_.processEnvironment();
+    environment.insert("MELVORA_MODULE_PATH", folder_.filePath("none"));
+    host_.setProcessEnvironment(environment);
+    host_.start();
+    eventually([this] { return QFile::exists(data() + "/melvora.sqlite") && !logged().isEmpty(); });
+    EXPECT_TRUE(logged().first().contains(folder_.filePath("none/zepha9")));
+}
+
+}  // namespace
+}  // namespace melvora

@@ -1,0 +1,128 @@
+#include "melvora/requests.h"
+
+#include "hostlink/sample_values.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace melvora {
+namespace {
+
+using core::Value;
+
+class RequestsTest : public testing::Test {
+  protected:
+    Value ask(const char* key, const Value& argument, const Value& standard = {}) {
+        Value result = standard;
+        EXPECT_TRUE(requests_.answer(key, argument, result)) << key;
+        return result;
+    }
+
+    QTemporaryDir folder_;
+    Words words_{MELVORA_LANGUAGES};
+    Host host_{{folder_.path(), "unix:path=/nowhere", {}}, words_};
+    Requests requests_{host_};
+};
+
+TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
+    struct Row {
+        const char* name;
+        QString key;
+        std::optional<Value> argument;
+    };
+    const Row rows[] = {
+        {"unknown key", "NONSENSE", Value("")},
+        {"empty key", "", Value("")},
+        {"key in other case", "read", Value(Value::Array{"zepha9", "E1"})},
+        {"very long key", QString(1'000'000, 'x'), Value("")},
+        {"unknown type", "LANG", {}},
+        {"read of nothing", "READ", Value()},
+        {"read of a text", "READ", Value("zepha9")},
+        {"read without key", "READ", Value(Value::Array{"zepha9"})},
+        {"read with a number for a key", "READ", Value(Value::Array{"zepha9", 1})},
+        {"read with an empty key", "READ", Value(Value::Array{"zepha9", ""})},
+        {"read with an array for a name", "READ", Value(Value::Array{Value::Array{}, "E1"})},
+        {"store without record", "STORE", Value(Value::Array{"zepha9", "E1"})},
+        {"store of a text", "STORE", Value(Value::Array{"zepha9", "E1", "text"})},
+        {"store of 50 MB", "STORE",
+         Value(Value::Array{"zepha9", "E1", Value::Array{std::string(50 << 20, 'x'), 1}})},
+        {"store of too many", "STORE",
+         Value(Value::Array{"zepha9", "E1", Value::Array(1'000'000, Value(1))})},
+        {"message of a number", "LOGMESS", Value(1)},
+        {"error with three elements", "LOGERR", Value(Value::Array{"a", 1, "b"})},
+        {"unknown module", "RAISE", Value("/bin/sh")},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const auto before = host_.store().log.lines({}).size();
+        Value result("default");
+        EXPECT_FALSE(requests_.answer(row.key, row.argument, result));
+        EXPECT_EQ(result, Value("default"));
+        const auto lines = host_.store().log.lines({});
+        ASSERT_EQ(lines.size(), before + 1);
+        EXPECT_EQ(lines.first().kind, LogKind::Error);
+        EXPECT_LT(lines.first().text.size(), 200);
+    }
+    EXPECT_EQ(ask("READ", Value::Array{"zepha9", "E1"}).at(1), Value("NIL"));
+}
+
+TEST_F(RequestsTest, RecordsComeBackAsTheyWereStored) {
+    for (const auto& sample : hostlink::sampleValues()) {
+        SCOPED_TRACE(sample.name);
+        if (sample.name == "long text") continue;
+        const Value record = Value::Array{"true", sample.value};
+        ask("STORE", Value::Array{"zepha9", "E1", record});
+        EXPECT_TRUE(ask("READ", Value::Array{"zepha9", "E1"}) == record);
+    }
+}
+
+TEST_F(RequestsTest, RecordsBelongToWhoIsLoggedIn) {
+    host_.putUser({"anna", "A", "", ""});
+    ask("STORE", Value::Array{"zepha9", "E1", Value::Array{"nobody's", 1}});
+    ASSERT_TRUE(host_.logIn("anna"));
+    EXPECT_EQ(ask("READ", Value::Array{"zepha9", "E1"}).at(1), Value("NIL"));
+    ask("STORE", Value::Array{"zepha9", "E1", Value::Array{"anna's", 1}});
+    host_.logIn({});
+    EXPECT_EQ(ask("READ", Value::Array{"zepha9", "E1"}).at(0), Value("nobody's"));
+    EXPECT_FALSE(host_.logIn("nobody has this key"));
+}
+
+TEST_F(RequestsTest, TellsWhoAndWhat) {
+    EXPECT_EQ(ask("LOGIN", "", Value::Array{"x"}), Value(Value::Array{"unbekannt"}));
+    host_.putUser({"jörg", "Doe", "Jörg", "4711"});
+    host_.logIn("jörg");
+    EXPECT_EQ(ask("LOGIN", ""), Value(Value::Array{"jörg", "Doe", "Jörg", "4711"}));
+    ASSERT_TRUE(host_.chooseLanguage("Français"));
+    EXPECT_FALSE(host_.chooseLanguage("Klingon"));
+    EXPECT_EQ(ask("LANG", "", "Deutsch"), Value("Français"));
+    EXPECT_EQ(ask("MIDI", {}), Value("-1"));
+    host_.chooseMidiDevice("a device that is not there");
+    EXPECT_EQ(ask("MIDI", {}), Value("-1"));
+    EXPECT_EQ(ask("APP", {}).at(1), Value("")) << "no module was started";
+}
+
+TEST_F(RequestsTest, TheLogTakesMessagesAndErrors) {
+    ask("LOGMESS", "Übung beginnt");
+    ask("LOGERR", Value::Array{"zepha9.cmdOK_click.", 6, "Überlauf", "zepha9"});
+    const auto lines = host_.store().log.lines({});
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(lines[1].text, "Übung beginnt");
+    EXPECT_EQ(lines[1].kind, LogKind::Message);
+    EXPECT_EQ(lines[0].text, "zepha9.cmdOK_click.: Überlauf (6, zepha9)");
+    EXPECT_EQ(lines[0].kind, LogKind::Error);
+}
+
+TEST_F(RequestsTest, AStoreThatFailsAnswersFalseAndIsToldOfWithItsPath) {
+    QStringList notices;
+    QObject::connect(&host_, &Host::noticed, [&](const QString& text) { notices.append(text); });
+    host_.store().database.run("PRAGMA query_only = 1", {}, [](const auto&) {});
+    Value result;
+    EXPECT_FALSE(requests_.answer(
+        "STORE", Value(Value::Array{"zepha9", "E1", Value::Array{"a", "b"}}), result));
+    ASSERT_EQ(notices.size(), 1);
+    EXPECT_TRUE(notices[0].contains(host_.store().database.path()));
+}
+
+}  // namespace
+}  // namespace melvora

@@ -1,0 +1,137 @@
+#include "melvora/main_window.h"
+#include "melvora/user_dialog.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+namespace melvora {
+namespace {
+
+class WindowTest : public testing::Test {
+  protected:
+    WindowTest() {
+        qputenv("MELVORA_MODULE_PATH", MELVORA_FAKE_MODULES);
+        host_.chooseLanguage("Deutsch");
+        host_.putUser({"anna", "Doe", "Anna", "4711"});
+        window_.show();
+        settle();
+    }
+    ~WindowTest() override { qunsetenv("MELVORA_MODULE_PATH"); }
+
+    static void settle() { QApplication::processEvents(); }
+    template <class Condition>
+    static void until(Condition condition) {
+        for (int i = 0; i < 2000 && !condition(); ++i) {
+            QApplication::processEvents();
+            QThread::msleep(5);
+        }
+    }
+
+    QTemporaryDir folder_;
+    Words words_{MELVORA_LANGUAGES};
+    Host host_{{folder_.path(), "unix:path=/nowhere", {}}, words_};
+    MainWindow window_{host_};
+};
+
+void expectNothingCutOff(const QWidget& window) {
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty()) continue;
+        EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+    }
+    for (const auto* label : window.findChildren<QLabel*>()) {
+        if (!label->isVisible() || label->wordWrap()) continue;
+        EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+    }
+}
+
+TEST_F(WindowTest, NothingIsCutOffInAnyLanguage) {
+    window_.resize(window_.minimumSizeHint());
+    for (const QString& language : words_.languages()) {
+        ASSERT_TRUE(host_.chooseLanguage(language));
+        for (int tab = 0; tab < MainWindow::tabCount; ++tab) {
+            SCOPED_TRACE((language + " tab " + QString::number(tab)).toStdString());
+            window_.open(static_cast<MainWindow::Tab>(tab));
+            settle();
+            EXPECT_LE(window_.minimumSizeHint().width(), 900);
+            EXPECT_LE(window_.minimumSizeHint().height(), 700);
+            window_.resize(window_.minimumSizeHint());
+            settle();
+            expectNothingCutOff(window_);
+            for (const auto* label : window_.findChildren<QLabel*>())
+                EXPECT_NE(label->text(), "VOID");
+        }
+    }
+}
+
+TEST_F(WindowTest, EveryControlThatTakesTheKeyboardHasAName) {
+    for (int tab = 0; tab < MainWindow::tabCount; ++tab) {
+        window_.open(static_cast<MainWindow::Tab>(tab));
+        settle();
+        for (auto* widget : window_.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
+            if (!qobject_cast<QComboBox*>(widget) && !qobject_cast<QAbstractButton*>(widget) &&
+                !qobject_cast<QTableView*>(widget))
+                continue;
+            auto* interface = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_TRUE(interface);
+            EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty())
+                << widget->metaObject()->className() << " on tab " << tab;
+        }
+    }
+}
+
+TEST_F(WindowTest, GoesAwayWhileTheModuleRunsAndComesBackWithTheReasonOfItsDeath) {
+    qputenv("FAKE_MODULE", "crash");
+    const auto notices = window_.findChildren<NoticeBar*>();
+    ASSERT_EQ(notices.size(), 1);
+    bool wasHidden = false;
+    QObject::connect(&host_, &Host::moduleStarted, [&] { wasHidden = window_.isHidden(); });
+    host_.startModule("zepha9");
+    until([&] { return wasHidden && window_.isVisible(); });
+    EXPECT_TRUE(wasHidden);
+    EXPECT_TRUE(window_.isVisible());
+    EXPECT_TRUE(notices.first()->isVisible());
+}
+
+TEST_F(WindowTest, ChoosingAUserOnTheStartPageLogsThemIn) {
+    auto combos = window_.findChildren<QComboBox*>();
+    const auto found = std::ranges::find_if(
+        combos, [](const QComboBox* combo) { return combo->findData("anna") >= 0; });
+    ASSERT_NE(found, combos.end());
+    (*found)->setCurrentIndex((*found)->findData("anna"));
+    emit(*found)->activated((*found)->currentIndex());
+    EXPECT_EQ(host_.userKey(), "anna");
+    host_.removeUser("anna");
+    EXPECT_EQ(host_.userKey(), nobody);
+    EXPECT_EQ((*found)->findData("anna"), -1);
+}
+
+TEST_F(WindowTest, AUserIsSavedOnlyWithANameAndAFreeKey) {
+    UserDialog dialog(host_, {}, &window_);
+    const auto fields = dialog.findChildren<QLineEdit*>();
+    ASSERT_EQ(fields.size(), 4);
+    QPushButton* save = nullptr;
+    for (auto* button : dialog.findChildren<QPushButton*>())
+        if (button->isDefault()) save = button;
+    ASSERT_TRUE(save);
+    EXPECT_FALSE(save->isEnabled());
+    fields[0]->setText("Doe");
+    fields[3]->setText("anna");
+    EXPECT_FALSE(save->isEnabled()) << "the key is taken";
+    fields[3]->setText("unbekannt");
+    EXPECT_FALSE(save->isEnabled());
+    fields[3]->setText("adoe");
+    EXPECT_TRUE(save->isEnabled());
+    EXPECT_EQ(dialog.user(), (User{"adoe", "Doe", "", ""}));
+}
+
+}  // namespace
+}  // namespace melvora
