@@ -179,12 +179,14 @@ void Arbeitsblatt::MatWahl() {
 void Arbeitsblatt::AntwortZulassen() {
     AntwortenOeffnen();
     z.AntwDauStart = p.ports.loop.clock();
+    ereignis(Ereignis::AntwortOffen);
 }
 
 void Arbeitsblatt::AntwortWerten(const Antwort& antwort) {
     letzteAntwort_ = antwort;
     z.antw_ende = p.ports.loop.clock();
     z.AntwDau = antwortDauer(z.antw_ende, z.AntwDauStart, z.AntwDau);
+    letzteAntwort_.dauer = z.AntwDau;
     if (!wertung_.xml.antwort()) wertung_.xml.AntwortNeu(wertung_.xml.lektion(), z.antwort_nr);
     const auto node = wertung_.xml.AntwortSchluss();
     wertung_.xml.AntwortEigenschaft(node, "Antwort", antwort.richtig ? "true" : "false");
@@ -238,7 +240,7 @@ void Arbeitsblatt::FalscheAntwort(const Antwort& antwort) {
 void Arbeitsblatt::AufgabeAbschliessen() {
     aufgZustand_ = AufgZustand::Geschlossen;
     if (z.uebungsmodus > ausprobieren) {
-        FortschrittWerten(z, wertung_, matbox_, fehlerMax_);
+        letzteWertung_ = FortschrittWerten(z, wertung_, matbox_, fehlerMax_);
         if (z.uebungsmodus <= fortsetzung)
             TrainingWeiter();
         else

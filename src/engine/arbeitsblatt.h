@@ -48,15 +48,26 @@ class Arbeitsblatt : public core::Formular {
     void NaechsteZurueckziehen();
 
     /// The turns of a run, for those who look on.
-    enum class Ereignis { LaufBereit, AufgabeGezogen, Geantwortet, Geschlossen, Uhr, LaufEnde };
+    enum class Ereignis {
+        LaufBereit,
+        AufgabeGezogen,
+        AntwortOffen,
+        Geantwortet,
+        Geschlossen,
+        Uhr,
+        LaufEnde
+    };
     form::Signal<Ereignis> ereignis;
     /// An answer as the learner gave it.
     struct Antwort {
         int index = 0;  ///< scale that was named; column for written answers
         bool richtig = false;
         std::string name;  ///< of the scale named, for the record
+        float dauer = 0;   ///< answer time, tenths of a second
     };
     const Antwort& letzteAntwort() const { return letzteAntwort_; }
+    /// Points of the task that was closed last, before booking: 0 or less for a right first answer.
+    float letzteWertung() const { return letzteWertung_; }
 
   protected:
     // What the worksheets differ in.
@@ -129,6 +140,7 @@ class Arbeitsblatt : public core::Formular {
     Aufgabenwahl wahl_;
     AufgZustand aufgZustand_{};
     Antwort letzteAntwort_;
+    float letzteWertung_ = 0;
     i16 fehlerMax_;
     i16 pruefAufgaben_;
     i16 restAufgaben_;

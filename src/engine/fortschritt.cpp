@@ -26,7 +26,7 @@ i16 erlaubteFehler(const core::Zustand& z, int verschiedeneSkalen) {
     return auf > 4 && ab > 4 ? 4 : auf - 1;
 }
 
-void FortschrittWerten(core::Zustand& z, results::Wertung& wertung, Matbox& matbox, i16 fehlerMax) {
+float FortschrittWerten(core::Zustand& z, results::Wertung& wertung, Matbox& matbox, i16 fehlerMax) {
     const i16 code = (z.skala_nr + 1) * z.akt_richtung;
     const auto wiederholt = static_cast<float>(int(z.whlgAnz));
     float w = 0;
@@ -40,12 +40,13 @@ void FortschrittWerten(core::Zustand& z, results::Wertung& wertung, Matbox& matb
     }
     wertung.ErgebnisBuchen(core::skalaSlot(code, z.skal_anz), w);
 
-    if (z.uebungsmodus > core::modus::fortsetzung || z.punkte == 0) return;
+    if (z.uebungsmodus > core::modus::fortsetzung || z.punkte == 0) return w;
     matbox.gewichten(code, base::roundedI16(static_cast<double>(z.punkte)));
-    if (z.punkte <= 0) return;
+    if (z.punkte <= 0) return w;
     // What was confused with the right scale comes up more often too.
     for (int k = 1; k <= z.ton_anz_akt; ++k)
         if (z.FalschSkala[k] != 0) matbox.gewichten(z.FalschSkala[k], 1);
+    return w;
 }
 
 Trainingsstand TrainingFortschreiben(core::Zustand& z, Matbox& matbox) {

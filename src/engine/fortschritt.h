@@ -26,7 +26,8 @@ enum class Trainingsstand { Laeuft, Ziel, Gescheitert };
 
 /// Scores the task in hand: books it and, in training, changes the weights.
 /// @param fehlerMax error points that lose a task.
-void FortschrittWerten(core::Zustand& z, results::Wertung& wertung, Matbox& matbox, i16 fehlerMax);
+/// @return the points before booking.
+float FortschrittWerten(core::Zustand& z, results::Wertung& wertung, Matbox& matbox, i16 fehlerMax);
 
 /// Rebuilds the pool after a scored task and tells where the training stands.
 Trainingsstand TrainingFortschreiben(core::Zustand& z, Matbox& matbox);

@@ -1,0 +1,107 @@
+#include "sim/pupil.h"
+
+#include <array>
+#include <stdexcept>
+#include <string>
+
+namespace sim {
+
+using engine::AufgZustand;
+
+namespace {
+
+constexpr int maxAnswers = 10;
+constexpr int glance = 5;  // milliseconds
+
+template <class C>
+C* control(const form::Form& form, const char* name, int index = form::Place::noIndex) {
+    auto* found = dynamic_cast<C*>(form.find(name, index));
+    if (!found) throw std::logic_error(form.name() + " has no " + name);
+    return found;
+}
+
+}  // namespace
+
+void Pupil::begin(const engine::Arbeitsblatt& sheet, int limit) {
+    sheet_ = &sheet;
+    limit_ = limit;
+    tasks_ = tries_ = rightFirst_ = 0;
+    leftAtLimit_ = false;
+    pictures_.clear();
+    names_.clear();
+    for (int i = 0; i < maxAnswers; ++i) {
+        pictures_.push_back(control<form::Picture>(sheet, "ton_art", i));
+        names_.push_back(control<form::Panel>(sheet, "tonart", i));
+    }
+    next_ = control<form::Button>(sheet, "CmdNextAufg");
+    back_ = control<form::Panel>(sheet, "zurueck");
+}
+
+void Pupil::notice(engine::Arbeitsblatt::Ereignis turn) {
+    using enum engine::Arbeitsblatt::Ereignis;
+    switch (turn) {
+        case LaufBereit:
+            hand_.in(pause, [this] { goOn(); });
+            break;
+        case AufgabeGezogen:
+            ++tasks_;
+            tries_ = 0;
+            break;
+        case AntwortOffen:
+            hand_.in(learner_.thinkingTime(), [this] { answer(); });
+            break;
+        case Geantwortet:
+            if (tries_++ == 0 && sheet_->letzteAntwort().richtig) ++rightFirst_;
+            if (sheet_->aufgZustand() == AufgZustand::Weiter)
+                hand_.in(learner_.thinkingTime(), [this] { answer(); });
+            break;
+        case Geschlossen:
+            hand_.in(pause, [this] { goOn(); });
+            break;
+        case Uhr:
+            break;
+        case LaufEnde:
+            if (!runEnded()) hand_.cancel();
+            break;
+    }
+}
+
+void Pupil::answer() {
+    std::array<int, maxAnswers> open{};
+    std::size_t count = 0;
+    for (int i = 0; i < maxAnswers; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        if (pictures_[at]->usable() || names_[at]->usable()) open[count++] = i;
+    }
+    if (count == 0) return;
+    const int choice = learner_.answer({z.skala_nr, tries_, {open.data(), count}}, chance_);
+    const auto at = static_cast<std::size_t>(choice);
+    if (pictures_[at]->usable())
+        pictures_[at]->click();
+    else
+        names_[at]->click();
+}
+
+bool Pupil::runEnded() const {
+    return sheet_->aufgZustand() == AufgZustand::TrainingBeendet ||
+           sheet_->aufgZustand() == AufgZustand::PruefungBeendet;
+}
+
+void Pupil::goOn() {
+    leftAtLimit_ = !runEnded() && tasks_ >= limit_;
+    if (runEnded() || leftAtLimit_)
+        back_->click();
+    else
+        next_->click();
+}
+
+void Pupil::readResult(form::Form& result, std::function<void()> read) {
+    hand_.in(glance, [this, &result, read = std::move(read)] {
+        auto* const button = control<form::Button>(result, "cmdOK");
+        if (!result.visible() || !button->usable()) return readResult(result, read);
+        read();
+        button->click();
+    });
+}
+
+}  // namespace sim

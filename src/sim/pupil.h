@@ -1,0 +1,54 @@
+#pragma once
+#include "engine/arbeitsblatt.h"
+#include "sim/alarm.h"
+#include "sim/learner.h"
+
+#include <vector>
+
+namespace sim {
+
+/// The learner before the forms: it clicks what a user would click, in its own time.
+class Pupil {
+  public:
+    /// Milliseconds between the end of a task and the click that goes on.
+    static constexpr int pause = 500;
+
+    Pupil(form::MessageLoop& loop, const Learner& learner, const core::Zustand& state,
+          std::int64_t seed)
+        : learner_(learner), z(state), chance_(seed), hand_(loop) {}
+
+    /// Sits down before a worksheet. @param limit tasks after which it leaves.
+    void begin(const engine::Arbeitsblatt& sheet, int limit);
+    /// Hears of a turn of the run.
+    void notice(engine::Arbeitsblatt::Ereignis turn);
+    /// The result form has come: presses its button as soon as it can be seen.
+    /// @param read called before that.
+    void readResult(form::Form& result, std::function<void()> read);
+
+    /// Tasks begun.
+    int tasks() const { return tasks_; }
+    /// Tasks answered right at once.
+    int rightFirst() const { return rightFirst_; }
+    /// It has left since the limit was reached.
+    bool leftAtLimit() const { return leftAtLimit_; }
+
+  private:
+    void answer();
+    void goOn();
+    bool runEnded() const;
+
+    const Learner& learner_;
+    const core::Zustand& z;
+    base::Rnd chance_;
+    Alarm hand_;
+    const engine::Arbeitsblatt* sheet_ = nullptr;
+    std::vector<form::Picture*> pictures_;
+    std::vector<form::Panel*> names_;
+    form::Button* next_ = nullptr;
+    form::Panel* back_ = nullptr;
+    int limit_ = 0;
+    int tasks_ = 0, tries_ = 0, rightFirst_ = 0;
+    bool leftAtLimit_ = false;
+};
+
+}  // namespace sim

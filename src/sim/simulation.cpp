@@ -1,0 +1,136 @@
+#include "sim/simulation.h"
+
+#include "sim/usage_error.h"
+
+namespace sim {
+
+namespace {
+
+constexpr std::int64_t day = 24LL * 60 * 60 * 1000;
+
+bool training(const core::Zustand& z) {
+    return z.uebungsmodus == core::modus::training || z.uebungsmodus == core::modus::fortsetzung;
+}
+
+}  // namespace
+
+Simulation::Simulation(const Options& options, std::ostream* trace)
+    : options_(options),
+      worksheet_(worksheet(options.form)),
+      state_(exerciseState(worksheet_, options.assignments)),
+      words_(options.words.empty() ? Words() : Words(options.words)),
+      trace_(trace ? std::make_unique<Trace>(*trace, loop_) : nullptr),
+      output_(trace_.get()),
+      drill_({loop_, dialogs_, printer_, help_, host_.factory(), &words_},
+             {"", folder_.path().string(), "simulation"}, output_, options.seed),
+      // Its chance is its own, so that the same tasks can be given to different learners.
+      pupil_(loop_, options.learner, drill_.programm.zustand, ~options.seed) {
+    if (!drill_.programm.forms.knows(options.form))
+        throw UsageError("the drill has no form \"" + options.form + "\"");
+    if (state_.uebungsmodus == core::modus::ausprobieren && options.tasks == 0)
+        throw UsageError("uebungsmodus 0 does not end by itself: --tasks is needed");
+    made_ = drill_.programm.forms.made.connect([this](form::Form& form) { made(form); });
+    gone_ = drill_.programm.forms.gone.connect([this](form::Form& form) { gone(form); });
+    startUp();
+}
+
+/// What the start form and the opening of a set-up form do.
+void Simulation::startUp() {
+    core::Programm& p = drill_.programm;
+    p.host.HostVerbinden(core::Host::programm);
+    p.worte.SprachenLaden();
+    p.worte.SpracheSetzen(p.host.HostSprache());
+    p.katalog.KatalogInit(p.worte);
+    drill_.midi.MidiGeraete(output_);
+    drill_.midi.MidiInit(output_);
+}
+
+/// What the button of a set-up form does.
+void Simulation::openWorksheet() {
+    core::Zustand& z = drill_.programm.zustand;
+    z = state_;
+    z.einst_liste = {std::to_string(2 * options_.assignments.size())};
+    for (const auto& [field, value] : options_.assignments) {
+        z.einst_liste.push_back(field);
+        z.einst_liste.push_back(value);
+    }
+    drill_.wertung.vorbereiten();
+    drill_.wertung.xml.SkalaXmlNeu();
+    drill_.programm.forms.show(options_.form);
+}
+
+Outcome Simulation::run() {
+    outcome_ = {};
+    over_ = false;
+    faults_ = host_.faults().size();
+    dialogs_.messages.clear();
+    const std::int64_t begin = lastTurn_ = loop_.elapsed();
+    openWorksheet();
+    loop_.runUntil([this] {
+        if (loop_.elapsed() - lastTurn_ > day) throw std::logic_error("the run stands still");
+        return over_;
+    });
+    outcome_.milliseconds = loop_.elapsed() - begin;
+    std::error_code ignored;
+    std::filesystem::remove(drill_.wertung.xml.datei(), ignored);
+    return outcome_;
+}
+
+void Simulation::made(form::Form& form) {
+    if (auto* sheet = dynamic_cast<engine::Arbeitsblatt*>(&form)) {
+        sheet_ = sheet;
+        pupil_.begin(*sheet, options_.tasks == 0 ? endless : options_.tasks);
+        turns_ =
+            sheet->ereignis.connect([this](engine::Arbeitsblatt::Ereignis turn) { notice(turn); });
+    }
+    if (auto* result = dynamic_cast<results::Testergebnis*>(&form))
+        pupil_.readResult(form, [this, result] {
+            outcome_.total = result->gesamtText();
+            if (trace_) trace_->result(*result);
+        });
+}
+
+void Simulation::notice(engine::Arbeitsblatt::Ereignis turn) {
+    lastTurn_ = loop_.elapsed();
+    if (trace_) trace_->notice(turn, *sheet_, drill_.programm.zustand);
+    pupil_.notice(turn);
+    if (turn == engine::Arbeitsblatt::Ereignis::LaufEnde) outcome_.ending = ending();
+}
+
+Ending Simulation::ending() const {
+    switch (sheet_->aufgZustand()) {
+        case engine::AufgZustand::TrainingBeendet:
+            return drill_.programm.zustand.matbox_zahl == 0 ? Ending::Goal : Ending::Failed;
+        case engine::AufgZustand::PruefungBeendet:
+            return Ending::Count;
+        case engine::AufgZustand::Geschlossen:
+        case engine::AufgZustand::Weiter:
+            break;
+    }
+    if (pupil_.leftAtLimit()) return options_.tasks == 0 ? Ending::Endless : Ending::Left;
+    return Ending::Clock;
+}
+
+void Simulation::gone(form::Form& form) {
+    if (&form != sheet_) return;
+    const core::Zustand& z = drill_.programm.zustand;
+    outcome_.tasks = pupil_.tasks();
+    outcome_.rightFirst = pupil_.rightFirst();
+    outcome_.fault = fault();
+    if (!outcome_.fault.empty()) outcome_.ending = Ending::Fault;
+    if (training(z) && z.mathaeufgk_box.rows() > z.potSkala) {
+        double sum = 0;
+        for (int i = 1; i <= z.potSkala; ++i) sum += z.mathaeufgk_box(i, 1);
+        outcome_.meanWeight = sum / z.potSkala;
+        outcome_.bar = static_cast<form::Panel*>(form.find("matboxanz"))->floodPercent();
+    }
+    if (trace_) trace_->end(outcome_);
+    over_ = true;
+}
+
+std::string Simulation::fault() const {
+    if (host_.faults().size() > faults_) return host_.faults()[faults_];
+    return dialogs_.messages.empty() ? std::string() : dialogs_.messages.front();
+}
+
+}  // namespace sim

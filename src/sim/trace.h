@@ -1,0 +1,51 @@
+#pragma once
+#include "engine/arbeitsblatt.h"
+#include "form/virtual_time.h"
+#include "results/testergebnis.h"
+#include "sim/outcome.h"
+#include "sound/null_output.h"
+
+#include <ostream>
+
+namespace sim {
+
+/// Writes what happens in a run as JSON lines, one for each turn.
+class Trace {
+  public:
+    Trace(std::ostream& stream, const form::VirtualTime& loop) : stream_(stream), loop_(loop) {}
+
+    /// A turn of a run.
+    void notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsblatt& sheet,
+                const core::Zustand& z);
+    /// @param time milliseconds from the queue's start, `atOnce` without a queue.
+    void midi(const sound::MidiEvent& event, int time);
+    static constexpr int atOnce = -1;
+    void result(const results::Testergebnis& form);
+    void end(const Outcome& outcome);
+
+  private:
+    void run(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
+    void task(const engine::Aufgabe& a, const core::Zustand& z);
+    void answer(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
+    void closed(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
+
+    std::ostream& stream_;
+    const form::VirtualTime& loop_;
+};
+
+/// A silent device that tells a trace what it was given.
+class TracedOutput final : public sound::NullOutput {
+  public:
+    explicit TracedOutput(Trace* trace) : trace_(trace) {}
+    void queue(const sound::MidiEvent& event) override {
+        if (trace_) trace_->midi(event, event.time);
+    }
+    void send(const sound::MidiEvent& event) override {
+        if (trace_) trace_->midi(event, Trace::atOnce);
+    }
+
+  private:
+    Trace* trace_;
+};
+
+}  // namespace sim
