@@ -82,7 +82,7 @@ void Arbeitsblatt::zurueck_click() {
 void Arbeitsblatt::ErgebnisZeigen() {
     forms().hide(name());
     midi_.Delay(300);
-    forms().showModal("testergebnis");
+    forms().runModal("testergebnis");
 }
 
 /// A record that cannot be written must not keep the learner here: the fault is told, the way goes

@@ -30,11 +30,13 @@ void Forms::show(const std::string& name) {
     form.activate();
 }
 
-void Forms::showModal(const std::string& name) {
-    show(name);
-    loop_.runUntil([this, &name] {
+void Forms::runModal(const std::string& name) {
+    load(name);
+    bool seen = false;
+    loop_.runUntil([this, &name, &seen] {
         const Form* form = loaded(name);
-        return !form || !form->visible();
+        seen = seen || (form && form->visible());
+        return !form || (seen && !form->visible());
     });
 }
 

@@ -34,8 +34,8 @@ class Forms {
     Form* loaded(const std::string& name) const;
     /// Loads when needed, makes visible and tells the form that it is active.
     void show(const std::string& name);
-    /// Shows and returns when the form is hidden or unloaded.
-    void showModal(const std::string& name);
+    /// Loads a form that shows itself when it is ready, and returns when it is hidden or unloaded.
+    void runModal(const std::string& name);
     void hide(const std::string& name);
     /// Takes the form out at once; it is destroyed when none of its handlers is running any more.
     void unload(const std::string& name);

@@ -155,7 +155,7 @@ void BildMalen(Flaeche& ziel, int nummer) {
     NotenlinienMalen(flaeche, bildBreite - 1, obersteLinie);
     ViolinschluesselMalen(flaeche);
     const auto toene = bildToene(bild);
-    constexpr int links = 54, rechts = bildBreite - 14, weitester = 40;
+    constexpr int links = 54, rechts = bildBreite - 14, weitester = 48;
     const int schritt =
         std::min(weitester, (rechts - links) / (static_cast<int>(toene.size()) - 1));
     int x = links;

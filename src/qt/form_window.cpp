@@ -63,8 +63,9 @@ void FormWindow::follow() {
 
 void FormWindow::open() {
     if (!opened_) {
+        if (beforeOpening) beforeOpening();
         const QRect screen = QApplication::primaryScreen()->availableGeometry();
-        const QSize wanted = opening_.expandedTo(minimumSizeHint());
+        const QSize wanted = (opening_ * look::scale()).expandedTo(minimumSizeHint());
         const QSize size = wanted.boundedTo(screen.size() - QSize(16, 40));
         setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, screen));
         opened_ = true;

@@ -12,6 +12,8 @@ class FormWindow final : public QWidget {
     ~FormWindow() override;
 
     Binder& binder() { return binder_; }
+    /// Called once, before the window is seen: what depends on the form's contents.
+    std::function<void()> beforeOpening;
     /// The size with which the window first opens, cut to the screen.
     void openWith(const QSize& size) { opening_ = size; }
 

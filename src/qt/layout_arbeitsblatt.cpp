@@ -94,7 +94,7 @@ QWidget* sidePanel(Binder& bind) {
     column->addWidget(exam);
     column->addStretch();
     tall("zurueck");
-    side->setFixedWidth(sideWidth);
+    side->setFixedWidth(static_cast<int>(sideWidth * look::scale()));
     return side;
 }
 
@@ -142,6 +142,7 @@ QWidget* answerArea(Binder& bind) {
         line->addWidget(pictureAnswer(bind, i), 1);
         QWidget* name = bind("tonart", i);
         name->setMinimumHeight(56);
+        name->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         look::font(*name, 1.15);
         line->addWidget(name, 1);
         grid->addLayout(line, i / 2, i % 2);

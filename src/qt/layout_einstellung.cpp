@@ -59,9 +59,11 @@ void layoutEinstellung(FormWindow& window) {
     page->setSpacing(look::gap);
 
     auto* inner = new QWidget;
+    inner->setMaximumWidth(static_cast<int>(1200 * look::scale()));
     auto* scroll = new QScrollArea(&window);
     scroll->setWidget(inner);
     scroll->setWidgetResizable(true);
+    scroll->setAlignment(Qt::AlignHCenter);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
     page->addWidget(scroll, 1);
@@ -114,7 +116,6 @@ void layoutEinstellung(FormWindow& window) {
     volume->addWidget(value);
     check->addLayout(volume);
     check->addWidget(bind("klang_contr"));
-    check->setContentsMargins(0, 4, 0, 0);
     sound->addWidget(check->parentWidget());
     run->addStretch();
 

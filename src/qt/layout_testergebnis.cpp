@@ -1,5 +1,6 @@
 #include "qt/look.h"
 #include "qt/windows.h"
+#include "results/testergebnis.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -16,37 +17,56 @@ void heading(Binder& bind, QVBoxLayout* column, const char* name) {
     column->addWidget(head);
 }
 
-/// Ascending and descending rows side by side, ten each at most.
-QWidget* results(Binder& bind) {
+/// The rows of each direction below its heading, then the total.
+QWidget* resultRows(FormWindow& window) {
+    Binder& bind = window.binder();
     QWidget* frame = bind("erg_cont");
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(0, 0, 0, 0);
     auto* grid = new QGridLayout;
     grid->setVerticalSpacing(3);
     grid->setHorizontalSpacing(look::gap);
-    int row = 0;
-    for (int i = 0; bind.has("Lab_ergeb", i); ++i, ++row) {
-        grid->addWidget(bind("Lab_ergeb", i), row, 0);
-        QWidget* bar = bind("balken", i);
-        bar->setFixedHeight(12);
-        bar->setMinimumWidth(90);
-        grid->addWidget(bar, row, 1);
-        auto* percent = static_cast<QLabel*>(bind("ergebnis", i));
-        percent->setAlignment(Qt::AlignRight);
-        grid->addWidget(percent, row, 2);
-    }
     grid->setColumnStretch(1, 1);
     column->addLayout(grid);
-    auto* total = new QHBoxLayout;
-    for (const char* name : {"Lab_gesamt", "gesamt"}) {
-        QWidget* label = bind(name);
-        look::font(*label, 1.25, true);
-        total->addWidget(label);
-        if (name[0] == 'L') total->addStretch();
+    struct Row {
+        QWidget *name, *bar;
+        QLabel* percent;
+    };
+    std::vector<Row> rows;
+    for (int i = 0; bind.has("Lab_ergeb", i); ++i) {
+        rows.push_back(
+            {bind("Lab_ergeb", i), bind("balken", i), static_cast<QLabel*>(bind("ergebnis", i))});
+        rows.back().bar->setFixedHeight(12);
+        rows.back().bar->setMinimumWidth(90);
+        rows.back().percent->setAlignment(Qt::AlignRight);
     }
+    const std::vector<QWidget*> headings{bind("Lab_richtung", 0), bind("Lab_richtung", 1)};
+    for (QWidget* head : headings) {
+        look::font(*head, 1, true);
+        look::colours(*head, look::accent);
+    }
+    window.beforeOpening = [rows, headings, grid, &bind] {
+        const int each = static_cast<results::Testergebnis&>(bind.form()).zeilenJeRichtung();
+        int line = 0;
+        for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
+            const auto at = static_cast<std::size_t>(i);
+            if (i % each == 0 && i / each < 2)
+                grid->addWidget(headings[static_cast<std::size_t>(i / each)], line++, 0, 1, 3);
+            grid->addWidget(rows[at].name, line, 0);
+            grid->addWidget(rows[at].bar, line, 1);
+            grid->addWidget(rows[at].percent, line++, 2);
+        }
+    };
+    auto* total = new QHBoxLayout;
+    QWidget* name = bind("Lab_gesamt");
+    QWidget* percent = bind("gesamt");
+    for (QWidget* label : {name, percent}) look::font(*label, 1.25, true);
+    total->addWidget(name);
+    total->addStretch();
+    total->addWidget(percent);
     column->addSpacing(look::gap);
     column->addLayout(total);
-    column->addStretch();
+    column->addStretch(1);
     return frame;
 }
 
@@ -64,6 +84,7 @@ QWidget* pairs(Binder& bind, const char* frameName, const char* keys, const char
         grid->addWidget(bind(values, i), i, 1);
     }
     grid->setColumnStretch(1, 1);
+    frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     return frame;
 }
 
@@ -78,7 +99,7 @@ void layoutTestergebnis(FormWindow& window) {
     columns->setSpacing(36);
     auto* left = new QVBoxLayout;
     heading(bind, left, "erg_head");
-    left->addWidget(results(bind), 1);
+    left->addWidget(resultRows(window), 1);
     columns->addLayout(left, 1);
     auto* right = new QVBoxLayout;
     heading(bind, right, "grd_einst_head");
@@ -86,11 +107,13 @@ void layoutTestergebnis(FormWindow& window) {
     right->addSpacing(look::margin);
     heading(bind, right, "einst_head");
     right->addWidget(pairs(bind, "einst_cont", "einst_lab", "einst_Inh"));
-    right->addStretch();
+    right->addStretch(1);
     columns->addLayout(right, 1);
     page->addLayout(columns, 1);
 
-    auto* actions = new QHBoxLayout;
+    QWidget* buttons = bind("PicSchalt");
+    auto* actions = new QHBoxLayout(buttons);
+    actions->setContentsMargins(0, 0, 0, 0);
     actions->addWidget(bind("cmdHilfe"));
     actions->addWidget(bind("cmdPrint"));
     actions->addStretch();
@@ -98,8 +121,8 @@ void layoutTestergebnis(FormWindow& window) {
     look::font(*ok, 1, true);
     ok->setMinimumWidth(120);
     actions->addWidget(ok);
-    page->addLayout(actions);
-    window.openWith({860, 600});
+    page->addWidget(buttons);
+    window.openWith({860, 620});
 }
 
 }  // namespace qt

@@ -1,7 +1,10 @@
 #include "qt/look.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QStyleFactory>
+
+#include <algorithm>
 
 namespace qt::look {
 
@@ -20,8 +23,13 @@ void apply(QApplication& application) {
         palette.setColor(QPalette::Disabled, role, QColor(0x93, 0x95, 0x99));
     QApplication::setPalette(palette);
     QFont font = QApplication::font();
-    if (font.pointSizeF() < 10) font.setPointSizeF(10);
+    font.setPointSizeF(std::max(10.0, font.pointSizeF()) * scale());
     application.setFont(font);
+}
+
+double scale() {
+    const double height = QGuiApplication::primaryScreen()->availableGeometry().height();
+    return std::clamp(height / 1030, 1.0, 1.4);
 }
 
 void font(QWidget& widget, double factor, bool bold) {

@@ -20,6 +20,8 @@ inline constexpr int gap = 8;
 inline constexpr int radius = 6;
 
 void apply(QApplication& application);
+/// How much larger than on a small screen everything is: 1 to 1.4, by the screen's height.
+double scale();
 /// Scales the widget's font and sets its weight.
 void font(QWidget& widget, double factor, bool bold = false);
 /// Text colour, and background where valid.

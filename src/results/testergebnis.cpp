@@ -104,6 +104,7 @@ void Testergebnis::cmdOK_click() {
     const std::string einstellung = z.theoriewahl == 0 ? "einstellung1" : "einstellung1b";
     if (forms().loaded(einstellung)) forms().show(einstellung);
     forms().hide(name());
+    if (!visible()) forms().unload(name());
 }
 
 /// The print has no coloured areas, and the form keeps this look afterwards.

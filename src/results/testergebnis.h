@@ -12,6 +12,8 @@ class Testergebnis final : public core::Formular {
     void load() override { start.start(); }
     void closeBox() override { cmdOK_click(); }
     bool key(form::Key key) override;
+    /// Rows of one direction; a run of both has as many again.
+    int zeilenJeRichtung() const { return z.skal_anz + 1; }
 
     struct Zeile {
         std::string name, prozent;
@@ -19,6 +21,12 @@ class Testergebnis final : public core::Formular {
     /// The rows as they stand on the form.
     std::vector<Zeile> zeilen() const;
     const std::string& gesamtText() const { return gesamt.caption(); }
+
+  protected:
+    /// A result that cannot be shown must not keep the learner.
+    void nachFehler(const std::string& prozedur) override {
+        if (prozedur == "start_timer.") forms().unload(name());
+    }
 
   private:
     static constexpr int maxZeilen = 21;
@@ -53,10 +61,11 @@ class Testergebnis final : public core::Formular {
     form::Group gr_einst{*this, {"gr_einst"}};
     form::ControlArray<form::Label> g_einst_lab{*this, "g_einst_lab", 6, &gr_einst};
     form::ControlArray<form::Label> g_einst_inh{*this, "g_einst_inh", 6, &gr_einst};
-    form::Picture PicSchalt{*this, {"PicSchalt"}};
-    form::Button cmdHilfe{*this, {"cmdHilfe"}};
-    form::Button cmdPrint{*this, {"cmdPrint"}};
-    form::Button cmdOK{*this, {"cmdOK"}};
+    /// The buttons; not on paper.
+    form::Group PicSchalt{*this, {"PicSchalt"}};
+    form::Button cmdHilfe{*this, {"cmdHilfe", form::Place::noIndex, &PicSchalt}};
+    form::Button cmdPrint{*this, {"cmdPrint", form::Place::noIndex, &PicSchalt}};
+    form::Button cmdOK{*this, {"cmdOK", form::Place::noIndex, &PicSchalt}};
     form::Timer start{*this, {"start"}, 1};
     form::Timer testtimer{*this, {"testtimer"}, 5000};
 };

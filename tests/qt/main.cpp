@@ -1,0 +1,12 @@
+#include "qt/look.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    qt::look::apply(application);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,210 @@
+// Every form in a real window, in every language and at several sizes.
+#include "qt/printer.h"
+#include "stage.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::vector<std::string> allLanguages{"Deutsch", "English", "Español", "Français"};
+
+struct Size {
+    const char* name;
+    QSize size;
+};
+/// What a window gets of a small and of a large screen.
+const std::vector<Size> sizes{{"1024x768", {1008, 700}}, {"2560x1440", {2560, 1400}}};
+
+/// MELVORA_SCREENSHOTS names a folder for pictures of what the tests have seen.
+void keepPicture(QWidget& window, const std::string& name) {
+    const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
+    if (folder.isEmpty()) return;
+    QDir().mkpath(folder);
+    window.grab().save(folder + '/' + QString::fromStdString(name) + ".png");
+}
+
+int widthOfText(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return label->wordWrap() ? 0 : label->sizeHint().width();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->sizeHint().width();
+    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
+        int widest = 0;
+        for (int i = 0; i < combo->count(); ++i)
+            widest = std::max(widest, combo->fontMetrics().horizontalAdvance(combo->itemText(i)));
+        return widest + 30;
+    }
+    return 0;
+}
+
+/// Every text has its room, nothing lies over anything else, and all that can be used has a name.
+void expectReadable(QWidget& window) {
+    const QString where = window.objectName();
+    std::vector<QWidget*> seen;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->objectName().isEmpty() || widget->window() != &window)
+            continue;
+        if (widget->objectName().startsWith("qt_")) continue;
+        EXPECT_LE(widthOfText(*widget), widget->width())
+            << (where + ": cut off: " + widget->objectName()).toStdString();
+        if (widget->focusPolicy() != Qt::NoFocus) {
+            EXPECT_FALSE(widget->accessibleName().isEmpty())
+                << (where + ": no name: " + widget->objectName()).toStdString();
+        }
+        const QRect area(widget->mapTo(&window, QPoint()), widget->size());
+        EXPECT_TRUE(window.rect().contains(area) || widget->parentWidget()->inherits("QScrollArea"))
+            << (where + ": outside: " + widget->objectName()).toStdString();
+        for (QWidget* other : seen) {
+            if (other->isAncestorOf(widget) || widget->isAncestorOf(other)) continue;
+            const QRect otherArea(other->mapTo(&window, QPoint()), other->size());
+            EXPECT_FALSE(otherArea.intersects(area))
+                << (where + ": " + widget->objectName() + " over " + other->objectName())
+                       .toStdString();
+        }
+        seen.push_back(widget);
+    }
+    EXPECT_GT(seen.size(), 5U);
+}
+
+void look(Stage& stage, const std::string& form, const std::string& picture) {
+    for (const auto& [name, size] : sizes) {
+        SCOPED_TRACE(picture + " " + name);
+        QWidget& window = stage.window(form);
+        ASSERT_TRUE(window.isVisible());
+        window.resize(form == "grd_einst" ? window.size() : size);
+        QApplication::processEvents();
+        expectReadable(window);
+        keepPicture(window, picture + "-" + name);
+    }
+}
+
+TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
+    for (const std::string& language : allLanguages) {
+        SCOPED_TRACE(language);
+        Stage stage(language);
+        look(stage, "grd_einst", language + "-1-start");
+        stage.openSetup();
+        look(stage, "einstellung1", language + "-2-setup");
+        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(4);
+        look(stage, "einstellung1", language + "-3-exam");
+        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);
+        stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(6);
+        stage.openWorksheet();
+        stage.task(true);
+        look(stage, "arbeitsblatt1", language + "-4-training");
+        stage.whenResult([&] { look(stage, "testergebnis", language + "-5-result"); });
+        while (stage.task(false)) {
+        }
+        look(stage, "arbeitsblatt1", language + "-6-failed");
+        stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
+        stage.wait(500);
+        EXPECT_TRUE(stage.window("einstellung1").isVisible());
+        EXPECT_EQ(stage.drill.programm.forms.loaded("arbeitsblatt1"), nullptr);
+
+        stage.control<form::Option>("einstellung1", "an_zeig", 0).choose();
+        stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(3);
+        stage.control<form::Option>("einstellung1", "an_zeig", 1).choose();
+        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(3);
+        stage.openWorksheet();
+        stage.wait(15000);
+        look(stage, "arbeitsblatt1", language + "-7-names");
+        if (language != "Deutsch") continue;
+        stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
+        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(0);
+        stage.control<form::Option>("einstellung1", "abfrage", 0).choose();
+        for (int typ = 0; typ < 7; ++typ) {
+            stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(typ);
+            stage.control<form::Option>("einstellung1", "an_zeig", 0).choose();
+            stage.control<form::Option>("einstellung1", "final", typ % 2 == 0 ? 1 : 2).choose();
+            stage.openWorksheet();
+            stage.task(true);
+            look(stage, "arbeitsblatt1", "pictures-" + std::to_string(typ));
+            stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
+            stage.wait(10);
+        }
+    }
+}
+
+TEST(Windows, TheWholeRoadByKeyboard) {
+    Stage stage("English");
+    stage.press("grd_einst", Qt::Key_F1);
+    EXPECT_EQ(stage.help.opened, std::vector<std::string>{"grd_einst/en"});
+    stage.press("grd_einst", Qt::Key_Return);
+    stage.wait(300);
+    stage.press("einstellung1", Qt::Key_Return);
+    stage.wait(10);
+    stage.press("arbeitsblatt1", Qt::Key_Enter);
+    stage.wait(13000);
+    stage.press("arbeitsblatt1", Qt::Key_Space);
+    stage.wait(13000);
+    EXPECT_EQ(stage.widget<QLabel>("arbeitsblatt1", "whlgzaehler").text(), "1");
+    const int right = stage.drill.programm.zustand.skala_nr;
+    stage.press("arbeitsblatt1", static_cast<Qt::Key>(Qt::Key_1 + right));
+    EXPECT_EQ(stage.widget<QLabel>("arbeitsblatt1", "zaehler_0").text(), "1");
+    EXPECT_EQ(stage.widget<QLabel>("arbeitsblatt1", "zaehler_1").text(), "0");
+    stage.press("arbeitsblatt1", Qt::Key_Escape);
+    EXPECT_TRUE(stage.window("einstellung1").isVisible());
+    stage.press("einstellung1", Qt::Key_Escape);
+    EXPECT_TRUE(stage.window("grd_einst").isVisible());
+}
+
+TEST(Windows, WidgetsTellTheFormAndFollowIt) {
+    Stage stage;
+    stage.openSetup();
+    auto& combo = stage.widget<QComboBox>("einstellung1", "skal_typ_cmb");
+    combo.setCurrentIndex(4);
+    emit combo.activated(4);
+    const core::Zustand& z = stage.drill.programm.zustand;
+    EXPECT_EQ(z.skal_typ, 4);
+    EXPECT_FALSE(stage.widget<QRadioButton>("einstellung1", "stimm_g_1").isEnabled());
+    stage.widget<QRadioButton>("einstellung1", "final_1").click();
+    EXPECT_EQ(z.final, 1);
+    EXPECT_FALSE(stage.widget<QRadioButton>("einstellung1", "final_2").isChecked());
+    stage.control<form::Option>("einstellung1", "final", 2).choose();
+    EXPECT_TRUE(stage.widget<QRadioButton>("einstellung1", "final_2").isChecked());
+    EXPECT_FALSE(stage.widget<QRadioButton>("einstellung1", "final_1").isChecked());
+    EXPECT_EQ(stage.widget<QComboBox>("einstellung1", "CmbOktBer").count(), 4);
+    stage.control<form::Combo>("einstellung1", "CmbOktAnz").setListIndex(3);
+    EXPECT_EQ(stage.widget<QComboBox>("einstellung1", "CmbOktBer").count(), 1);
+    stage.window("einstellung1").close();
+    EXPECT_TRUE(stage.window("grd_einst").isVisible()) << "the close box is the way back";
+}
+
+TEST(Printing, TheResultFormFillsOneLandscapePage) {
+    Stage stage;
+    stage.openSetup();
+    stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);
+    stage.openWorksheet();
+    QTemporaryDir folder;
+    const QString kept = qEnvironmentVariable("MELVORA_SCREENSHOTS");
+    const QString file = (kept.isEmpty() ? folder.path() : kept) + "/result.pdf";
+    stage.whenResult([&] {
+        stage.control<form::Button>("testergebnis", "cmdPrint").click();
+        EXPECT_EQ(stage.printer.pages, std::vector<std::string>{"testergebnis"});
+        EXPECT_FALSE(stage.widget<QPushButton>("testergebnis", "cmdPrint").isEnabled());
+        qt::printWidget(stage.window("testergebnis"), file.toStdString());
+    });
+    while (stage.task(false)) {
+    }
+    stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
+    stage.wait(500);
+    QFile pdf(file);
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    const QByteArray bytes = pdf.readAll();
+    EXPECT_TRUE(bytes.startsWith("%PDF"));
+    EXPECT_EQ(bytes.count("/Type /Page") - bytes.count("/Type /Pages"), 1);
+    EXPECT_TRUE(bytes.contains("/MediaBox [0 0 842")) << "A4 on its side";
+}
+
+}  // namespace
