@@ -1,0 +1,165 @@
+#include "engine/matbox.h"
+
+#include "engine/draw.h"
+
+#include <gtest/gtest.h>
+
+namespace engine {
+namespace {
+
+void begin(Draw& draw, int uebungsmodus, int richtung) {
+    draw.z.uebungsmodus = uebungsmodus;
+    draw.z.richtung = richtung;
+    draw.wahl.LaufBeginn();
+}
+
+TEST(Training, BeginsWithEveryCodeEquallyOften) {
+    struct Row {
+        const char* name;
+        int richtung;
+        std::vector<int> chosen;
+        int weight;
+    };
+    for (const Row& row : {Row{"seven ascending", 0, {}, 4},
+                           {"seven descending", 1, {}, 4},
+                           {"fourteen", 2, {}, 4},
+                           {"one", 2, {-3}, 30},
+                           {"two", 2, {3, -3}, 15},
+                           {"four", 0, {1, 2, 3, 5}, 7},
+                           {"eight", 2, {1, 2, 3, 5, -1, -2, -3, -5}, 4}}) {
+        SCOPED_TRACE(row.name);
+        Draw draw;
+        draw.z.ska_ausw = row.chosen.empty() ? 0 : 1;
+        for (std::size_t i = 0; i < row.chosen.size(); ++i) {
+            draw.z.einzel_wahl[static_cast<int>(i)] = row.chosen[i];
+            draw.z.einzelAnz = i;
+        }
+        begin(draw, 1, row.richtung);
+        draw.box.TrainingBeginnen();
+        const auto codes = draw.codes();
+        std::map<int, int> expected;
+        for (const int code : codes) expected[code] = row.weight;
+        EXPECT_EQ(draw.pool(), expected);
+        EXPECT_EQ(draw.z.matbox_zahl, row.weight * static_cast<int>(codes.size()));
+        EXPECT_EQ(draw.box.obergrenze(), 2 * draw.z.matbox_zahl) << "the bar begins at half";
+        for (int slot = 0; slot <= 20; ++slot) {
+            const auto here = std::ranges::count_if(
+                codes, [&](int code) { return core::skalaSlot(code, draw.z.skal_anz) == slot; });
+            EXPECT_EQ(draw.auswertung.read(slot, 3), static_cast<float>(here)) << slot;
+        }
+    }
+}
+
+TEST(SkalaSlot, NoTwoCodesOfACategoryShareOne) {
+    for (const int skal_anz : {4, 6, 7, 8, 9}) {
+        std::map<int, int> owner;
+        for (int nr = 1; nr <= skal_anz + 1; ++nr)
+            for (const int code : {nr, -nr}) {
+                const int slot = core::skalaSlot(code, skal_anz);
+                EXPECT_TRUE(owner.emplace(slot, code).second) << code;
+                EXPECT_EQ(slot, code > 0 ? nr : nr + skal_anz + 1);
+            }
+        EXPECT_EQ(owner.rbegin()->first, 2 * (skal_anz + 1));
+    }
+}
+
+/// Over weights that a training can reach: the pool holds each scale as often as its weight, raised
+/// for all when one has fallen below one, and is left alone outside its limits.
+TEST(MatNeu, TheRebuiltPoolHoldsEveryScale) {
+    int rebuilt = 0, shifted = 0, left = 0;
+    for (int seed = 0; seed < 600; ++seed) {
+        SCOPED_TRACE(seed);
+        Draw draw(seed);
+        begin(draw, 1, 2);
+        draw.box.TrainingBeginnen();
+        const auto before = draw.pool();
+        const int n = draw.z.potSkala, highest = seed % 3 == 0 ? 20 : 7;
+        std::map<int, int> weight;
+        for (int i = 1; i <= n; ++i)
+            weight[draw.z.mathaeufgk_box(i, 0)] = draw.z.mathaeufgk_box(i, 1) =
+                draw.rnd.below(highest + 9) - 8;
+        draw.box.MatNeu();
+
+        int positive = 0, lowest = 99;
+        for (const auto& [code, w] : weight) {
+            positive += std::max(0, w);
+            lowest = std::min(lowest, w);
+        }
+        ASSERT_EQ(draw.z.matbox_zahl, positive);
+        for (int i = 1; i <= n; ++i) {
+            ASSERT_EQ(draw.z.mathaeufgk_box(i, 1), weight.at(draw.z.mathaeufgk_box(i, 0)));
+            if (i > 1) {
+                ASSERT_LE(draw.z.mathaeufgk_box(i, 1), draw.z.mathaeufgk_box(i - 1, 1));
+            }
+        }
+        if (positive >= n * 8 - 1 || positive == 0) {
+            ASSERT_EQ(draw.pool(), before);
+            ++left;
+            continue;
+        }
+        const int shift = lowest < 1 ? 1 - lowest : 0;
+        const auto pool = draw.pool();
+        for (const auto& [code, w] : weight) ASSERT_EQ(pool.at(code), w + shift) << code;
+        ASSERT_EQ(pool.size(), weight.size()) << "no empty row";
+        ASSERT_EQ(draw.z.matbox(1, 0), draw.z.mathaeufgk_box(1, 0)) << "the heaviest in front";
+        ++rebuilt;
+        shifted += shift > 0 ? 1 : 0;
+    }
+    EXPECT_GT(rebuilt, 100);
+    EXPECT_GT(shifted, 100);
+    EXPECT_GT(left, 20);
+}
+
+TEST(MatNeu, NoPositiveWeightLeavesThePool) {
+    Draw draw;
+    begin(draw, 1, 0);
+    draw.box.TrainingBeginnen();
+    const auto before = draw.pool();
+    for (int i = 1; i <= 7; ++i) draw.z.mathaeufgk_box(i, 1) = -i;
+    draw.box.MatNeu();
+    EXPECT_EQ(draw.z.matbox_zahl, 0);
+    EXPECT_EQ(draw.pool(), before);
+}
+
+TEST(Training, OnlyNearTheGoalTheFrontOfThePoolIsPreferred) {
+    for (const auto& [flood, share] :
+         {std::pair{100, 0.5}, {50, 0.5}, {20, 0.5}, {19, 0.597}, {10, 0.703}, {0, 0.905}}) {
+        Draw draw(flood);
+        begin(draw, 1, 2);
+        draw.box.TrainingBeginnen();
+        int front = 0;
+        constexpr int draws = 20000;
+        for (int n = 0; n < draws; ++n) {
+            const int row = draw.box.Ziehen(true, flood);
+            ASSERT_GE(row, 1);
+            ASSERT_LE(row, draw.z.matboxanz);
+            front += row <= draw.z.matboxanz / 2 ? 1 : 0;
+        }
+        // With x = 50 - flood, (2x - 19)% of the draws fall into the first (100 - x)% of the rows.
+        EXPECT_NEAR(static_cast<double>(front) / draws, share, 0.015) << flood;
+    }
+}
+
+TEST(Bag, HoldsEveryCodeOnceAndLegalOnesBesides) {
+    for (const int richtung : {0, 1, 2})
+        for (const bool chosen : {false, true}) {
+            SCOPED_TRACE(richtung * 10 + (chosen ? 1 : 0));
+            Draw draw(richtung);
+            if (chosen) draw.choose({2, -5, 7});
+            begin(draw, 4, richtung);
+            draw.z.skala_nr = 5;
+            draw.z.akt_richtung = richtung == 1 ? -1 : 1;
+            const int before = draw.code();
+            draw.box.PruefungBeginnen(2 * draw.z.potSkala + 3);
+            EXPECT_EQ(draw.code(), before) << "filling does not touch the task in hand";
+            const auto codes = draw.codes();
+            const auto pool = draw.pool();
+            EXPECT_EQ(pool.size(), codes.size());
+            for (const int code : codes) EXPECT_TRUE(pool.contains(code)) << code;
+            for (int i = 1; i <= draw.z.potSkala; ++i)
+                EXPECT_EQ(std::ranges::count(codes, int(draw.z.matbox(i, 0))), 1);
+        }
+}
+
+}  // namespace
+}  // namespace engine
