@@ -75,6 +75,7 @@ void SynthPlayer::serve() {
         tell(SoundProblem::None);
         if (watch()) return;
         device.reset();
+        reopened_ = false;
         tell(SoundProblem::DeviceLost);
     } else {
         tell(SoundProblem::NoAudioDevice);
@@ -83,12 +84,13 @@ void SynthPlayer::serve() {
 }
 
 std::unique_ptr<AudioDevice> SynthPlayer::openDevice() {
-    const Pull pull = [this](float* left, float* right, int frames) {
-        engine_.render(left, right, frames);
-    };
-    if (options_.openDevice) return options_.openDevice(pull);
     if (options_.driver == "none") return nullptr;
-    return openFluidDevice(options_.driver, Engine::sampleRate, pull);
+    const OpenDevice fluid = [driver = options_.driver](Pull pull) {
+        return openFluidDevice(driver, Engine::sampleRate, std::move(pull));
+    };
+    return guard_.open(
+        options_.openDevice ? options_.openDevice : fluid,
+        [this](float* left, float* right, int frames) { engine_.render(left, right, frames); });
 }
 
 /// Waits until nothing has sounded for a while. False when the device stopped pulling.

@@ -1,4 +1,5 @@
 #pragma once
+#include "synth/device_guard.h"
 #include "synth/engine.h"
 #include "synth/player.h"
 #include "synth/synth_options.h"
@@ -44,6 +45,7 @@ class SynthPlayer : public Player {
     Reports reports_;
     Mailbox mailbox_;
     Engine engine_;
+    DeviceGuard guard_;
     std::optional<WavFile> file_;
     std::atomic<bool> reopened_{false};
     std::atomic<sound::SoundProblem> problem_{sound::SoundProblem::None};

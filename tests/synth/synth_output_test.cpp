@@ -10,6 +10,7 @@
 #include <atomic>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <iterator>
 #include <thread>
 
@@ -196,6 +197,29 @@ TEST(SynthOutput, LostDeviceIsToldTheQueueEndsAndTheNextOpeningFindsItAgain) {
     ASSERT_TRUE(drill.mail.runUntil([&] { return drill.ends == 2; }));
     EXPECT_EQ(drill.problems, (std::vector{SoundProblem::DeviceLost, SoundProblem::None}));
     EXPECT_EQ(opened, 2) << "reopening in between keeps the device";
+}
+
+TEST(SynthOutput, ServerThatHangsHoldsUpNeitherTheQueueNorTheEnd) {
+    auto release = std::make_shared<std::promise<void>>();
+    const auto released = release->get_future().share();
+    const auto latecomer = std::make_shared<std::atomic<bool>>(true);
+    auto options = unpaced("");
+    options.openDevice = [released, latecomer](synth::Pull pull) {
+        released.wait();
+        return std::make_unique<Card>(std::move(pull), *latecomer);
+    };
+    {
+        Drill drill(options);
+        drill.output->open(MidiOutput::mapper);
+        drill.queueNotes(2, 300);
+        drill.output->start();
+        ASSERT_TRUE(drill.hasEnded());
+        EXPECT_EQ(drill.output->problem(), SoundProblem::NoAudioDevice);
+    }
+    options.openDevice = nullptr;
+    release->set_value();
+    for (int i = 0; i < 100 && latecomer.use_count() > 1; ++i) std::this_thread::sleep_for(20ms);
+    EXPECT_EQ(latecomer.use_count(), 1) << "a device that comes too late is closed again";
 }
 
 TEST(SynthOutput, LoadableLibraryPlaysToo) {
