@@ -98,10 +98,12 @@ void layoutTestergebnis(FormWindow& window) {
     auto* columns = new QHBoxLayout;
     columns->setSpacing(36);
     auto* left = new QVBoxLayout;
+    left->setSpacing(look::gap);
     heading(bind, left, "erg_head");
     left->addWidget(resultRows(window), 1);
     columns->addLayout(left, 1);
     auto* right = new QVBoxLayout;
+    right->setSpacing(look::gap);
     heading(bind, right, "grd_einst_head");
     right->addWidget(pairs(bind, "gr_einst", "g_einst_lab", "g_einst_inh"));
     right->addSpacing(look::margin);
