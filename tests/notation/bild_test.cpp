@@ -1,0 +1,154 @@
+#include "notation/bild.h"
+
+#include "core/katalog.h"
+#include "notation/noten.h"
+#include "support/recording_surface.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace notation {
+namespace {
+
+namespace katalog = core::katalog;
+
+/// Every scale in both columns of its category, with the number of its picture.
+template <class F>
+void everyPicture(F f) {
+    for (int typ = 0; typ < katalog::kategorienAnz; ++typ) {
+        const auto& category = katalog::kategorien[static_cast<std::size_t>(typ)];
+        for (std::size_t column = 0; column < 2; ++column)
+            for (int nr = 0; nr <= category.skal_max; ++nr) {
+                SCOPED_TRACE(testing::Message() << typ << ' ' << nr << " column " << column);
+                f(typ, nr, column == 0, category.bild_basis[column] + nr);
+            }
+    }
+}
+
+TEST(Picture, ItsNumberTellsTheScale) {
+    everyPicture([](int typ, int nr, bool sameFinal, int number) {
+        Bild bild{};
+        ASSERT_TRUE(bildVon(number, bild));
+        EXPECT_EQ(bild.skal_typ, typ);
+        EXPECT_EQ(bild.skala_nr, nr);
+        if (katalog::rotiert(typ)) {
+            EXPECT_EQ(bild.gleicheFinalis, sameFinal);
+        }
+    });
+    int reached = 0;
+    Bild bild{};
+    for (int number = -1; number <= bilderAnz; ++number) reached += bildVon(number, bild) ? 1 : 0;
+    EXPECT_EQ(reached, 73);
+}
+
+TEST(Picture, ShowsTheScaleAsItSoundsInProperSpelling) {
+    everyPicture([](int typ, int nr, bool sameFinal, int number) {
+        Bild bild{};
+        ASSERT_TRUE(bildVon(number, bild));
+        const auto toene = bildToene(bild);
+        const int anzahl = katalog::kategorien[static_cast<std::size_t>(typ)].tonAnz;
+        ASSERT_EQ(static_cast<int>(toene.size()), anzahl);
+        const auto base = katalog::grundmuster(typ);
+        const auto* own = katalog::eigenesMuster(typ, nr);
+        std::multiset<int> letters;
+        for (int i = 0; i < anzahl; ++i) {
+            const auto at = static_cast<std::size_t>(i);
+            const int above = toene[at].midi - toene[0].midi;
+            if (own) {
+                EXPECT_EQ(above, own->stufe[at]);
+            } else {
+                const auto degree = static_cast<std::size_t>(nr + i),
+                           d = base.size() == 6 ? 5 : base.size();
+                EXPECT_EQ(above, base[degree % d] + 12 * static_cast<int>(degree / d) -
+                                     base[static_cast<std::size_t>(nr)]);
+            }
+            EXPECT_EQ(tonklasse(toene[at].qz), toene[at].midi % 12) << "the spelling sounds so";
+            EXPECT_LE(std::abs(vorzeichen(toene[at].qz)), anzahl == 4 ? 2 : 1);
+            if (i + 1 < anzahl) letters.insert(stammton(toene[at].qz));
+            if (i > 0) {
+                EXPECT_LE(yImViolinschluessel(toene[at]), yImViolinschluessel(toene[at - 1]))
+                    << "the line does not fall";
+            }
+        }
+        if (anzahl == 8) {
+            EXPECT_EQ(letters, (std::multiset{0, 1, 2, 3, 4, 5, 6}));
+            EXPECT_EQ(toene[0].qz, toene[7].qz);
+        }
+        if (anzahl == 4) {
+            EXPECT_EQ(std::set(letters.begin(), letters.end()).size(), 3U);
+        }
+        if (sameFinal || !katalog::rotiert(typ)) {
+            EXPECT_EQ(toene[0], (Ton{60, QzMitte})) << "on C";
+        }
+    });
+}
+
+TEST(Picture, IsDrawnWithinItsSizeAndNoTwoAnswersLookAlike) {
+    using Lines = std::vector<support::RecordingSurface::Line>;
+    std::map<std::pair<int, bool>, std::vector<Lines>> drawn;
+    everyPicture([&](int typ, int, bool sameFinal, int number) {
+        support::RecordingSurface surface;
+        BildMalen(surface, number);
+        ASSERT_GT(surface.lines.size(), 5U);
+        for (const auto& line : surface.lines)
+            for (const auto& [x, y] : {std::pair{line.x1, line.y1}, {line.x2, line.y2}}) {
+                ASSERT_GE(x, 0);
+                ASSERT_LT(x, bildBreite);
+                ASSERT_GE(y, 0);
+                ASSERT_LT(y, bildHoehe);
+            }
+        auto& before = drawn[{typ, sameFinal}];
+        EXPECT_EQ(std::ranges::count(before, surface.lines), 0);
+        before.push_back(surface.lines);
+    });
+    support::RecordingSurface nothing;
+    for (const int number : {-1, 38, 39, 48, 69, bilderAnz}) BildMalen(nothing, number);
+    EXPECT_TRUE(nothing.lines.empty());
+}
+
+TEST(LedgerLines, LeadFromTheStaffToTheNote) {
+    struct Row {
+        const char* name;
+        int y;
+        std::vector<double> lines;
+    };
+    for (const Row& row : {Row{"on the staff", 80, {}},
+                           {"just above", 60, {}},
+                           {"A5", 56, {56}},
+                           {"C6", 48, {56, 48}},
+                           {"just below", 100, {}},
+                           {"C4", 104, {104}},
+                           {"B3", 108, {104}},
+                           {"A3", 112, {104, 112}}}) {
+        SCOPED_TRACE(row.name);
+        support::RecordingSurface surface;
+        EXPECT_EQ(HilfslinienMalen(surface, 50, row.y, 14, 26),
+                  4 * static_cast<int>(row.lines.size()));
+        std::vector<double> ys;
+        for (const auto& line : surface.lines) ys.push_back(line.y1);
+        EXPECT_EQ(ys, row.lines);
+    }
+}
+
+TEST(Accidentals, EachHasAShapeOfItsOwnLeftOfTheHead) {
+    std::vector<std::vector<support::RecordingSurface::Line>> shapes;
+    for (const int sign : {-2, -1, 1, 2}) {
+        support::RecordingSurface surface;
+        VorzeichenMalen(surface, 100, 80, sign);
+        EXPECT_EQ(std::ranges::count(shapes, surface.lines), 0) << sign;
+        shapes.push_back(surface.lines);
+        for (const auto& line : surface.lines) {
+            EXPECT_LT(std::max(line.x1, line.x2), 96) << sign;
+            EXPECT_NEAR(line.y1, 80, 18) << sign;
+        }
+    }
+    support::RecordingSurface none;
+    VorzeichenMalen(none, 100, 80, 0);
+    EXPECT_TRUE(none.lines.empty());
+}
+
+}  // namespace
+}  // namespace notation
