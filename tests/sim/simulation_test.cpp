@@ -1,0 +1,115 @@
+#include "sim/traced_run.h"
+#include "sim/usage_error.h"
+
+#include <gtest/gtest.h>
+#include <pugixml.hpp>
+#include <unistd.h>
+
+#include <fstream>
+
+namespace sim::test {
+
+namespace {
+
+struct Row {
+    const char* name;
+    const char* line;
+    Ending ending;
+};
+
+TEST(Simulation, EndsAsTheLearnerAndTheModeLetIt) {
+    for (const Row& row : {
+             Row{"training, perfect", "--set uebungsmodus=1", Ending::Goal},
+             Row{"training, wrong", "--set uebungsmodus=1 --learner wrong", Ending::Failed},
+             Row{"training, too slow to earn anything",
+                 "--set uebungsmodus=1 --learner slow:60 --tasks 30", Ending::Left},
+             Row{"exam, perfect", "--set uebungsmodus=4 --set abfrage=1", Ending::Count},
+             Row{"exam, slow", "--set uebungsmodus=4 --set abfrage=1 --learner slow:8",
+                 Ending::Clock},
+             Row{"test, by hand", "--set uebungsmodus=3 --set richtung=0", Ending::Count},
+             Row{"try-out", "--tasks 7 --learner random:0.5", Ending::Left},
+             Row{"names", "--set an_zeig=1 --set uebungsmodus=1", Ending::Goal},
+             Row{"only one scale in two octaves",
+                 "--set einzel_wahl=2 --set final=1 --set oktAnz=1 --set uebungsmodus=1",
+                 Ending::Goal},
+             Row{"only one task", "--set einzel_wahl=2 --set final=1 --set uebungsmodus=1",
+                 Ending::Fault},
+         }) {
+        SCOPED_TRACE(row.name);
+        const TracedRun run(row.line);
+        EXPECT_STREQ(endingName(run.outcome.ending), endingName(row.ending));
+        EXPECT_EQ(run.outcome.fault.empty(), row.ending != Ending::Fault) << run.outcome.fault;
+        const auto end = run.lines("end");
+        ASSERT_EQ(end.size(), 1U);
+        EXPECT_EQ(end[0]["reason"].toString().toStdString(), endingName(row.ending));
+        EXPECT_EQ(run.lines("task").size(), static_cast<std::size_t>(run.outcome.tasks));
+    }
+}
+
+TEST(Simulation, CountsWhatTheLearnerDid) {
+    const TracedRun perfect("--set uebungsmodus=4 --set abfrage=1");
+    EXPECT_EQ(perfect.outcome.tasks, perfect.lines("run")[0]["pruefAufgaben"].toInt());
+    EXPECT_EQ(perfect.outcome.rightFirst, perfect.outcome.tasks);
+    EXPECT_EQ(perfect.outcome.total, "100.0%");
+    EXPECT_FALSE(perfect.outcome.bar);
+
+    const TracedRun wrong("--set uebungsmodus=1 --learner wrong");
+    EXPECT_EQ(wrong.outcome.rightFirst, 0);
+    EXPECT_EQ(wrong.outcome.bar, 100);
+    EXPECT_GT(wrong.outcome.meanWeight, 4);
+
+    const TracedRun half("--tasks 400 --learner random:0.5");
+    EXPECT_NEAR(half.outcome.rightFirst, 200, 40);
+}
+
+TEST(Simulation, SameSeedSameTrace) {
+    const std::string line =
+        "--set uebungsmodus=1 --set frequenz=1 --set abfolge=1 --learner random:0.6 --seed ";
+    const TracedRun first(line + "7"), again(line + "7"), other(line + "8");
+    EXPECT_EQ(first.text, again.text);
+    EXPECT_NE(first.text, other.text);
+}
+
+TEST(Simulation, AFixedTaskNumberFixesTheTasksOfAnExamOnly) {
+    const auto tasks = [](const char* line) {
+        std::vector<std::vector<int>> all;
+        for (const auto& task : TracedRun(line).lines("task"))
+            all.push_back(numbers(task["noten"]));
+        return all;
+    };
+    EXPECT_EQ(tasks("--set uebungsmodus=4 --set zufallsNr=5 --seed 1"),
+              tasks("--set uebungsmodus=4 --set zufallsNr=5 --seed 2"));
+    EXPECT_NE(tasks("--set uebungsmodus=3 --set zufallsNr=5 --seed 1"),
+              tasks("--set uebungsmodus=3 --set zufallsNr=5 --seed 2"));
+}
+
+TEST(Simulation, OneRunAfterTheOtherStartsAfresh) {
+    const Options given = options("--set uebungsmodus=1 --learner random:0.9");
+    Simulation simulation(given);
+    for (int i = 0; i < 5; ++i) {
+        SCOPED_TRACE(i);
+        const Outcome outcome = simulation.run();
+        EXPECT_EQ(outcome.ending, Ending::Goal);
+        pugi::xml_document record;
+        ASSERT_TRUE(record.load_string(simulation.record().c_str()));
+        const auto lessons = record.child("exercise").child("lessons").children("lesson");
+        EXPECT_EQ(std::distance(lessons.begin(), lessons.end()), outcome.tasks);
+        EXPECT_TRUE(record.select_node("//setting[@key='uebungsmodus' and @value='1']"));
+    }
+}
+
+TEST(Simulation, TakesItsWordsFromAFile) {
+    const std::string file = ::testing::TempDir() + "words" + std::to_string(getpid()) + ".ts";
+    std::ofstream(file) << R"(<TS><context><message id="402s"><translation>mixo</translation>)"
+                           R"(</message></context></TS>)";
+    const TracedRun run("--set einzel_wahl=5,1 --set uebungsmodus=1 --words " + file);
+    const auto rows = run.lines("result").at(0)["rows"].toArray();
+    EXPECT_EQ(rows[4].toArray()[0].toString(), "mixo");
+    EXPECT_EQ(rows[0].toArray()[0].toString(), "VOID");
+    EXPECT_THROW(TracedRun("--tasks 1 --words /nowhere.ts"), UsageError);
+    std::remove(file.c_str());
+}
+
+}  // namespace
+
+}  // namespace sim::test
