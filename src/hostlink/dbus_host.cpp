@@ -45,8 +45,10 @@ bool DbusHost::request(const std::string& key, const core::Value& argument, core
     connect();
     const QDBusMessage reply =
         QDBusConnection(qt(name_)).call(call, QDBus::Block, static_cast<int>(timeout_.count()));
-    if (reply.type() != QDBusMessage::ReplyMessage)
+    if (reply.type() != QDBusMessage::ReplyMessage) {
+        QDBusConnection::disconnectFromPeer(qt(name_));
         throw core::HostGone(key + ": " + reply.errorMessage().toStdString());
+    }
     if (reply.signature() != QLatin1String("bv"))
         throw core::HostGone(key + ": the answer has an unknown form");
     auto value = fromVariant(reply.arguments().at(1));

@@ -9,7 +9,7 @@ namespace hostlink {
 
 /// The host at the other end of a D-Bus peer connection.
 ///
-/// Connects at the first request and again when the connection has broken. A request blocks without
+/// Connects at the first request, and anew after one that failed. A request blocks without
 /// running the event loop, so no handler of the caller starts inside it. Needs a QCoreApplication.
 class DbusHost final : public core::HostPort {
   public:

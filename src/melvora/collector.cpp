@@ -32,14 +32,14 @@ Collector::Collector(QString folder, Results& results)
     QDir().mkpath(folder_);
 }
 
-Collector::Harvest Collector::collect() {
+Collector::Harvest Collector::collect(When when) {
     Harvest harvest;
     const QDir spool(folder_);
     taken_ = 0;
     for (const QString& name : spool.entryList({"RSX*.xml"}, QDir::Files, QDir::Name)) {
         const QString path = spool.absoluteFilePath(name);
         const QString state = fingerprint(path);
-        if (take(path) || told_.contains(state)) continue;
+        if (take(path) || when == When::DuringRun || told_.contains(state)) continue;
         told_.insert(state);
         harvest.unreadable.append(path);
     }

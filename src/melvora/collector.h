@@ -18,10 +18,13 @@ class Collector {
     /// Makes the folder when it is missing.
     Collector(QString folder, Results& results);
 
+    /// While a module runs it may still be writing: an unreadable file is not told of then.
+    enum class When { DuringRun, AfterRun };
+
     /// Reads all `RSX*.xml` of the folder. A file goes only when its content is safely in the
     /// store.
     /// @throws StoreError when the store cannot be written; the file is still there then.
-    Harvest collect();
+    Harvest collect(When when);
 
     const QString& folder() const { return folder_; }
 

@@ -102,7 +102,9 @@ void Host::onModuleEnded(int status) {
 
 void Host::collect() {
     guarded([this] {
-        const auto harvest = collector_.collect();
+        const bool running = module_.runs() && !handedOver_;
+        const auto harvest =
+            collector_.collect(running ? Collector::When::DuringRun : Collector::When::AfterRun);
         for (const QString& path : harvest.unreadable) {
             const QString text = words_.wort(944).arg(path);
             log(LogKind::Error, text);

@@ -53,13 +53,14 @@ void choose(Host& host, const Options& options) {
         throw UsageError("--user: no user has the key " + options.user->toStdString());
 }
 
-int serve(const std::string& address, const Options& options) {
+int serve(const std::string& socket, const Options& options) {
+    const QString address = QString::fromStdString(hostlink::addressOf(socket));
     Words words(Words::installedFolder());
     const QStringList moduleArguments = options.teacher ? QStringList{"--teacher"} : QStringList();
-    Host host({dataFolder(options), QString::fromStdString(address), moduleArguments}, words);
+    Host host({dataFolder(options), address, moduleArguments}, words);
     choose(host, options);
     Requests requests(host);
-    Server server(QString::fromStdString(address), requests);
+    Server server(socket, requests);
     MainWindow window(host);
     if (options.module)
         host.startModule(*options.module);
@@ -77,7 +78,7 @@ int run(const Options& options) {
     const auto socket = hostlink::socketPath(address);
     if (!socket) throw UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
     const SocketLock lock(*socket);
-    return lock.held() ? serve(address, options) : raiseOther(address, options);
+    return lock.held() ? serve(*socket, options) : raiseOther(address, options);
 }
 
 /// A user who clicked on an icon sees no standard error.

@@ -6,17 +6,35 @@
 #include <QDBusConnection>
 #include <QDBusError>
 
+#include <filesystem>
 #include <stdexcept>
 
 namespace melvora {
 
-Server::Server(const QString& address, Requests& requests) : server_(address), requests_(requests) {
+namespace {
+
+/// The server listens before it can take a caller in, and would lose one who comes in between. So
+/// it listens under this name and takes the known one when it is ready.
+std::string provisional(const std::string& socketPath) { return socketPath + ".new"; }
+
+}  // namespace
+
+Server::Server(const std::string& socketPath, Requests& requests)
+    : socketPath_(socketPath),
+      server_(QString::fromStdString(hostlink::addressOf(provisional(socketPath)))),
+      requests_(requests) {
     if (!server_.isConnected())
-        throw std::runtime_error("cannot listen at " + address.toStdString() + ": " +
-                                 server_.lastError().message().toStdString());
+        throw std::runtime_error(socketPath +
+                                 ": cannot listen: " + server_.lastError().message().toStdString());
     connect(&server_, &QDBusServer::newConnection, this, [this](QDBusConnection caller) {
         caller.registerObject(hostlink::objectPath, this, QDBusConnection::ExportAllSlots);
     });
+    std::filesystem::rename(provisional(socketPath), socketPath);
+}
+
+Server::~Server() {
+    std::error_code ignored;
+    std::filesystem::remove(socketPath_, ignored);
 }
 
 bool Server::Request(const QString& key, const QDBusVariant& argument, const QDBusVariant& standard,

@@ -5,6 +5,8 @@
 #include <QDBusVariant>
 #include <QObject>
 
+#include <string>
+
 namespace melvora {
 
 /// Offers the host's operation on its socket, to programs of the same user only.
@@ -12,15 +14,19 @@ class Server : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.melvora.Host1")
   public:
-    /// @param address a `unix:path=` address whose socket nobody serves
-    /// @throws std::runtime_error naming the address
-    Server(const QString& address, Requests& requests);
+    /// @param socketPath socket that nobody serves; a file left there is replaced
+    /// @throws std::runtime_error naming the path
+    Server(const std::string& socketPath, Requests& requests);
+    ~Server() override;
+    Server(const Server&) = delete;
+    Server& operator=(const Server&) = delete;
 
   public slots:
     bool Request(const QString& key, const QDBusVariant& argument, const QDBusVariant& standard,
                  QDBusVariant& result);
 
   private:
+    const std::string socketPath_;
     QDBusServer server_;
     Requests& requests_;
 };

@@ -34,8 +34,8 @@ void prepareFolder(const std::string& folder) {
 }  // namespace
 
 SocketLock::SocketLock(const std::string& socketPath) {
-    if (socketPath.size() >= sizeof(sockaddr_un::sun_path))
-        fail(socketPath, "the path is too long for a socket");
+    constexpr std::size_t longest = sizeof(sockaddr_un::sun_path) - sizeof ".new";
+    if (socketPath.size() > longest) fail(socketPath, "the path is too long for a socket");
     prepareFolder(std::filesystem::path(socketPath).parent_path());
     const std::string path = socketPath + ".lock";
     file_ = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);

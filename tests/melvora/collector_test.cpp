@@ -46,6 +46,8 @@ class CollectorTest : public testing::Test {
     }
     QString spool(const QString& name) const { return folder_.filePath("spool/" + name); }
 
+    Collector::Harvest collect() { return collector_.collect(Collector::When::AfterRun); }
+
     QTemporaryDir folder_;
     Store store_{folder_.path()};
     Collector collector_{folder_.filePath("spool"), store_.results};
@@ -53,7 +55,7 @@ class CollectorTest : public testing::Test {
 
 TEST_F(CollectorTest, TakesARecordIntoTheStoreAndClearsItAway) {
     put("RSX261121120000.xml", record);
-    EXPECT_EQ(collector_.collect().taken, 1);
+    EXPECT_EQ(collect().taken, 1);
     EXPECT_FALSE(QFile::exists(spool("RSX261121120000.xml")));
     const auto results = store_.results.all();
     ASSERT_EQ(results.size(), 1);
@@ -79,38 +81,40 @@ TEST_F(CollectorTest, KeepsWhatIsNoRecordAndTellsOfItOnce) {
     for (const Row& row : rows) put(row.name, row.text);
     put("RSX261121120000.xml", record);
     put("other.xml", record);
-    const auto first = collector_.collect();
+    const auto first = collect();
     EXPECT_EQ(first.taken, 1);
     EXPECT_EQ(first.unreadable.size(), std::ssize(rows));
-    EXPECT_TRUE(collector_.collect().unreadable.isEmpty());
+    EXPECT_TRUE(collect().unreadable.isEmpty());
     for (const Row& row : rows) EXPECT_TRUE(QFile::exists(spool(row.name))) << row.name;
     EXPECT_TRUE(QFile::exists(spool("other.xml")));
 }
 
 TEST_F(CollectorTest, TakesAHalfWrittenRecordWhenItIsWhole) {
     put("RSX261121120000.xml", record.left(100));
-    EXPECT_EQ(collector_.collect().taken, 0);
+    const auto early = collector_.collect(Collector::When::DuringRun);
+    EXPECT_EQ(early.taken, 0);
+    EXPECT_TRUE(early.unreadable.isEmpty());
     put("RSX261121120000.xml", record);
-    EXPECT_EQ(collector_.collect().taken, 1);
+    EXPECT_EQ(collect().taken, 1);
 }
 
 TEST_F(CollectorTest, ARecordWhoseFileWasLeftBehindCountsOnce) {
     for (int i = 0; i < 2; ++i) {
         put("RSX261121120000.xml", record);
-        EXPECT_EQ(collector_.collect().taken, i == 0 ? 1 : 0);
+        EXPECT_EQ(collect().taken, i == 0 ? 1 : 0);
     }
     put("RSX261121120000.xml", QByteArray(record).replace("dorisch", "lydisch"));
-    EXPECT_EQ(collector_.collect().taken, 1) << "another run of the same second";
+    EXPECT_EQ(collect().taken, 1) << "another run of the same second";
     EXPECT_EQ(store_.results.all().size(), 2);
 }
 
 TEST_F(CollectorTest, AFileStaysWhenTheStoreCannotTakeIt) {
     put("RSX261121120000.xml", record);
     store_.database.run("PRAGMA query_only = 1", {}, [](const auto&) {});
-    EXPECT_THROW(collector_.collect(), StoreError);
+    EXPECT_THROW(collect(), StoreError);
     EXPECT_TRUE(QFile::exists(spool("RSX261121120000.xml")));
     store_.database.run("PRAGMA query_only = 0", {}, [](const auto&) {});
-    EXPECT_EQ(collector_.collect().taken, 1);
+    EXPECT_EQ(collect().taken, 1);
 }
 
 }  // namespace
