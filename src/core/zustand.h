@@ -74,9 +74,9 @@ struct Zustand {
     i16 whlg_anz;                     ///< repetitions since the last answer
     i16 antwort_nr;                   ///< running number of the answer in the record
     Value abbruch_stand;              ///< record written when a training is interrupted
-    base::FixedArray<i16, 5> FalschSkala;  ///< signed codes of the wrong answers, from 1
-    i16 bestAnz;                           ///< best scores kept per scale on write worksheets
-    i16 schalter_frei;                     ///< above 0 once a task has been closed
+    base::FixedArray<i16, 10> FalschSkala;  ///< signed codes of the wrong answers, from 1
+    i16 bestAnz;                            ///< best scores kept per scale on write worksheets
+    i16 schalter_frei;                      ///< above 0 once a task has been closed
 };
 
 /// Slot under which a signed scale code is scored: |code|, for a descending one `skal_anz` + 1
