@@ -29,6 +29,8 @@ class Arbeitsblatt : public core::Formular {
 
     void activate() override;
     void closeBox() override { zurueck_click(); }
+    /// A worksheet that is taken away in the middle of a task falls silent.
+    void unloading() override;
     bool key(form::Key key) override;
     bool claimsEnter() const override { return true; }
 

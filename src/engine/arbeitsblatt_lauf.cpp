@@ -62,6 +62,12 @@ void Arbeitsblatt::Stilllegen() {
     vorfuehrung().Verlassen();
 }
 
+void Arbeitsblatt::unloading() {
+    if (verlassen_) return;
+    verlassen_ = true;
+    Stilllegen();
+}
+
 void Arbeitsblatt::zurueck_click() {
     if (verlassen_) return;
     verlassen_ = true;

@@ -1,0 +1,207 @@
+#include "support/drill_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace determine {
+namespace {
+
+using support::DrillFixture;
+
+std::set<int> openAnswers(const DrillFixture& drill) {
+    std::set<int> open;
+    for (int i = 0; i < 10; ++i)
+        if (drill.open(i)) open.insert(i);
+    return open;
+}
+
+TEST(Answers, OnlyTheScalesOfTheRunAreOffered) {
+    struct Row {
+        const char* name;
+        int category;
+        std::vector<int> chosen;
+        std::set<int> offered;
+    };
+    for (const Row& row : {Row{"five pentatonics", 4, {}, {0, 1, 2, 3, 4}},
+                           {"ten tetrachords", 6, {}, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
+                           {"a choice", 0, {2, -5, 7}, {1, 4, 6}},
+                           {"up and down is one answer", 0, {3, -3, 1}, {0, 2}}})
+        for (const int an_zeig : {0, 1}) {
+            SCOPED_TRACE(row.name);
+            DrillFixture drill;
+            drill.category(row.category);
+            drill.z.ska_ausw = row.chosen.empty() ? 0 : 1;
+            for (std::size_t i = 0; i < row.chosen.size(); ++i) {
+                drill.z.einzel_wahl[static_cast<int>(i)] = row.chosen[i];
+                drill.z.einzelAnz = i;
+            }
+            drill.z.an_zeig = an_zeig;
+            drill.run();
+            EXPECT_TRUE(openAnswers(drill).empty());
+            drill.next();
+            EXPECT_EQ(openAnswers(drill), row.offered);
+            for (int i = 0; i < 10; ++i) {
+                const bool offered = row.offered.contains(i);
+                EXPECT_EQ(drill.control("tonart", i).visible(), offered && an_zeig == 1) << i;
+                EXPECT_EQ(drill.control("skal_pan", i).visible(), offered && an_zeig == 0) << i;
+            }
+        }
+}
+
+TEST(Answers, ThePictureFollowsTheSetting) {
+    for (const auto& [category, final, first] :
+         {std::tuple{0, 1, 7}, {0, 0, 0}, {0, 2, 0}, {1, 1, 21}, {4, 2, 55}, {6, 1, 70}}) {
+        DrillFixture drill;
+        drill.category(category);
+        drill.z.final = final;
+        drill.z.an_zeig = 0;
+        drill.run();
+        EXPECT_EQ(static_cast<form::Picture&>(drill.control("ton_art", 3)).picture(), first + 3);
+    }
+}
+
+TEST(Answers, AWrongOneIsLockedUntilTheTaskIsClosed) {
+    DrillFixture drill;
+    drill.run();
+    drill.next();
+    std::set<int> expected{0, 1, 2, 3, 4, 5, 6};
+    for (int n = 1; n <= 3; ++n) {
+        const int wrong = (drill.z.skala_nr + n) % 7;
+        drill.answer(wrong);
+        expected.erase(wrong);
+        EXPECT_EQ(openAnswers(drill), expected);
+        EXPECT_EQ(drill.caption("ergebnis"), "W232");
+        EXPECT_EQ(drill.control("ergebnis").backColour(),
+                  n % 2 == 1 ? base::colours::red : base::colours::black)
+            << "it blinks";
+    }
+    drill.click("wieder");
+    EXPECT_TRUE(openAnswers(drill).empty()) << "closed while it sounds";
+    drill.wait(drill.taskLength());
+    EXPECT_EQ(openAnswers(drill), expected) << "still locked after a repetition";
+    drill.answer((drill.z.skala_nr + 4) % 7);
+    EXPECT_TRUE(openAnswers(drill).empty()) << "the fourth loses the task";
+    EXPECT_EQ(drill.caption("zaehler", 0) + drill.caption("zaehler", 1), "04");
+    drill.next();
+    EXPECT_EQ(openAnswers(drill).size(), 7U);
+}
+
+TEST(Answers, WithTwoScalesTheFirstWrongOneLoses) {
+    DrillFixture drill;
+    drill.choose({1, 2});
+    drill.z.richtung = 0;
+    drill.run();
+    drill.next();
+    EXPECT_TRUE(drill.answerWrong());
+    EXPECT_EQ(drill.sheet()->aufgZustand(), engine::AufgZustand::Geschlossen);
+    EXPECT_EQ(drill.caption("ergebnis"), drill.programm.katalog.skal_name[0][drill.z.skala_nr]);
+}
+
+/// Many ascending scales and few descending ones allow more wrong answers than four.
+TEST(Answers, EveryChoiceOfScalesCanBeWorkedThrough) {
+    for (const auto& [ascending, descending] : {std::pair{7, 1}, {8, 2}, {8, 4}, {1, 8}, {0, 8}})
+        for (const int modus : {0, 1, 3}) {
+            SCOPED_TRACE(testing::Message()
+                         << ascending << " up " << descending << " down " << modus);
+            DrillFixture drill;
+            drill.category(2);
+            drill.z.uebungsmodus = modus;
+            drill.z.ska_ausw = 1;
+            drill.z.einzelAnz = ascending + descending - 1;
+            for (int i = 0; i < ascending; ++i) drill.z.einzel_wahl[i] = i + 1;
+            for (int i = 0; i < descending; ++i) drill.z.einzel_wahl[ascending + i] = -(i + 1);
+            drill.run();
+            for (int n = 0; n < 3 && drill.control("CmdNextAufg").usable(); ++n) {
+                drill.next();
+                while (drill.answerWrong()) continue;
+                drill.answerRight();
+                ASSERT_NE(drill.sheet(), nullptr);
+            }
+            EXPECT_TRUE(drill.host.faults.empty());
+        }
+}
+
+TEST(Solution, IsNamedByDirectionAndTetrachord) {
+    struct Row {
+        const char* name;
+        int category, richtung, abfolge;
+        std::vector<int> chosen;
+        bool right;
+        std::string text;
+    };
+    for (const Row& row : {Row{"one direction", 0, 0, 0, {1, 2}, true, "%"},
+                           {"both directions", 0, 2, 0, {1, 2}, true, "W132 %"},
+                           {"both, descending", 0, 2, 0, {-1, -2}, true, "W83 %"},
+                           {"a melody has no direction", 0, 2, 1, {1, 2}, true, "%"},
+                           {"a lost task", 0, 2, 0, {1, 2}, false, "%"},
+                           {"tetrachord up", 6, 2, 0, {7, 5}, true, "%W700W377 "},
+                           {"tetrachord down, lost", 6, 1, 0, {-7, -5}, false, "%W700W375 "},
+                           {"tetrachord without modes", 6, 2, 0, {2, 5}, true, "%"}}) {
+        SCOPED_TRACE(row.name);
+        DrillFixture drill;
+        drill.category(row.category);
+        drill.choose({row.chosen[0], row.chosen[1]});
+        drill.z.richtung = row.richtung;
+        drill.z.abfolge = row.abfolge;
+        drill.run();
+        drill.next();
+        for (; drill.z.skala_nr != std::abs(row.chosen[0]) - 1; drill.next()) drill.answerRight();
+        if (row.right)
+            drill.answerRight();
+        else
+            while (drill.answerWrong()) continue;
+        const std::string name = drill.programm.katalog.skal_name[row.category][drill.z.skala_nr];
+        std::string expected = row.text;
+        expected.replace(expected.find('%'), 1, name);
+        EXPECT_EQ(drill.caption("ergebnis"), expected);
+    }
+}
+
+TEST(AnswerTime, BeginsWithTheOpenAnswersAndAddsUpOverRepetitions) {
+    DrillFixture drill;
+    drill.z.uebungsmodus = 1;
+    drill.run();
+    drill.next();
+    drill.wait(1450);
+    drill.click("wieder");  // the silence of 50 ms before it counts too
+    drill.wait(drill.taskLength());
+    drill.wait(1000);
+    drill.answerRight();
+    EXPECT_EQ(drill.z.AntwDau, 25);
+    EXPECT_FLOAT_EQ(drill.z.zeit_malus, 1.2F);
+    drill.next();
+    drill.wait(4000);
+    drill.answerWrong();
+    drill.wait(700);
+    drill.answerRight();
+    EXPECT_EQ(drill.z.AntwDau, 7) << "anew after a wrong answer";
+}
+
+TEST(Keys, DigitsAnswerAndTheOthersMoveOn) {
+    using enum form::Key::Kind;
+    for (const int an_zeig : {0, 1}) {
+        DrillFixture drill;
+        drill.choose({2, 5, 7});
+        drill.z.an_zeig = an_zeig;
+        drill.run();
+        Arbeitsblatt1& sheet = *drill.sheet();
+        sheet.key({Enter});
+        drill.wait(drill.taskLength());
+        sheet.key({Space});
+        EXPECT_EQ(drill.caption("whlgzaehler"), "1");
+        drill.wait(drill.taskLength());
+        EXPECT_FALSE(sheet.key({Digit, 4})) << "there are three answers";
+        for (const auto& [digit, scale] : {std::pair{1, 1}, {2, 4}, {3, 6}})
+            if (scale == drill.z.skala_nr) {
+                EXPECT_TRUE(sheet.key({Digit, digit}));
+            }
+        EXPECT_EQ(drill.caption("zaehler", 0), "1");
+        EXPECT_EQ(drill.caption("zaehler", 1), "0");
+        sheet.key({Escape});
+        EXPECT_EQ(drill.sheet(), nullptr);
+    }
+}
+
+}  // namespace
+}  // namespace determine

@@ -1,0 +1,171 @@
+#include "support/drill_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace determine {
+namespace {
+
+using support::DrillFixture;
+
+/// Indices into the task's notes in the order of sounding.
+std::vector<int> order(const DrillFixture& drill) {
+    const auto& a = drill.sheet()->aufgabe();
+    std::vector<int> indices;
+    for (int i = 0; i < a.tonAnz; ++i)
+        indices.push_back(drill.z.abfolge == 1        ? int(a.ton_abfolg[i])
+                          : drill.z.akt_richtung == 1 ? i
+                                                      : int(a.tonAnz) - 1 - i);
+    return indices;
+}
+
+TEST(Playback, TheNotesSoundInOrderEachOnItsBeatAndForNineTenthsOfIt) {
+    for (const int category : {0, 3, 4, 5, 6})
+        for (const int richtung : {0, 1})
+            for (const int abfolge : {0, 1})
+                for (const int stimmung : {0, 1, 2}) {
+                    SCOPED_TRACE(testing::Message() << category << richtung << abfolge << stimmung);
+                    DrillFixture drill(category);
+                    drill.category(category);
+                    drill.z.richtung = richtung;
+                    drill.z.abfolge = abfolge;
+                    drill.z.stimmung = stimmung;
+                    drill.z.tempoIdx = 8;
+                    drill.run();
+                    for (int i = 0; i < 9; ++i) drill.z.patch[i] = 40 + i;
+                    drill.midiOut.sends.clear();
+                    drill.click("CmdNextAufg");
+                    const auto& a = drill.sheet()->aufgabe();
+                    const auto notes = drill.midiOut.noteOns();
+                    const auto bends = drill.midiOut.sentWith(0xE0);
+                    const auto indices = order(drill);
+                    ASSERT_EQ(notes.size(), indices.size());
+                    ASSERT_EQ(bends.size(), stimmung == 0 ? 0U : indices.size());
+                    for (std::size_t i = 0; i < notes.size(); ++i) {
+                        const int k = indices[i];
+                        EXPECT_EQ(notes[i].data1, a.noten[k]);
+                        EXPECT_EQ(notes[i].time, 333 * static_cast<int>(i));
+                        EXPECT_EQ(notes[i].status, 144 + (stimmung == 0 ? 0 : k + 1));
+                        if (stimmung == 0) continue;
+                        EXPECT_EQ(bends[i].status, 224 + k + 1);
+                        EXPECT_EQ(bends[i].data2, 64 + a.stimmWert[k]);
+                    }
+                    for (const auto& event : drill.midiOut.queued)
+                        if (event.tag >= 1000000) {
+                            EXPECT_EQ(event.time % 333, 300);
+                        }
+                    const auto instruments = drill.midiOut.sentWith(0xC0);
+                    ASSERT_EQ(instruments.size(), 9U);
+                    for (int i = 0; i < 9; ++i)
+                        EXPECT_EQ(instruments[static_cast<std::size_t>(i)].data1, 40 + i);
+                }
+}
+
+TEST(Playback, TheAnswersOpenWhenItsLengthHasPassed) {
+    DrillFixture drill;
+    drill.z.tempoIdx = 5;
+    drill.run();
+    EXPECT_EQ(drill.taskLength(), 4000);
+    drill.click("CmdNextAufg");
+    ASSERT_EQ(drill.midiOut.starts.size(), 1U);
+    drill.wait(3999);
+    EXPECT_FALSE(drill.open(0));
+    EXPECT_FALSE(drill.control("wieder").usable());
+    drill.wait(1);
+    EXPECT_TRUE(drill.open(0));
+    EXPECT_TRUE(drill.control("wieder").usable());
+    EXPECT_EQ(drill.loop.elapsed(), drill.midiOut.starts[0] + 4000);
+    EXPECT_TRUE(drill.midiOut.sounding().empty());
+}
+
+TEST(Playback, AVaryingReferencePitchBendsAllNotesOfATaskAlike) {
+    for (const int stimmung : {0, 1}) {
+        DrillFixture drill;
+        drill.z.frequenz = 1;
+        drill.z.stimmung = stimmung;
+        drill.run();
+        std::set<int> detunes;
+        for (int n = 0; n < 60; ++n) {
+            drill.midiOut.sends.clear();
+            drill.next();
+            const auto bends = drill.midiOut.sentWith(0xE0);
+            ASSERT_EQ(bends.size(), stimmung == 0 ? 1U : 8U);
+            std::set<int> here;
+            for (const auto& bend : bends) {
+                const int channel = bend.status & 0x0F;
+                here.insert(
+                    bend.data2 - 64 -
+                    (stimmung == 0 ? 0 : int(drill.sheet()->aufgabe().stimmWert[channel - 1])));
+            }
+            ASSERT_EQ(here.size(), 1U);
+            detunes.insert(*here.begin());
+            drill.answerRight();
+        }
+        EXPECT_GE(*detunes.begin(), -15);
+        EXPECT_LE(*detunes.rbegin(), 15);
+        EXPECT_GT(detunes.size(), 15U);
+    }
+}
+
+TEST(Repetition, CountsBeforeTheAnswerAndNotAfterIt) {
+    DrillFixture drill;
+    drill.run();
+    drill.next();
+    const auto notes = drill.sheet()->aufgabe().noten[0];
+    for (int n = 1; n <= 3; ++n) {
+        drill.click("wieder");
+        drill.click("wieder");
+        EXPECT_EQ(drill.z.whlgAnz, n) << "the second click finds it disabled";
+        drill.wait(drill.taskLength());
+    }
+    drill.answerWrong();
+    EXPECT_EQ(drill.z.whlgAnz, 3);
+    EXPECT_EQ(drill.z.whlg_anz, 0);
+    drill.answerRight();
+    EXPECT_FALSE(drill.control("wieder").usable());
+    EXPECT_TRUE(drill.control("CmdNextAufg").usable());
+    drill.click("wieder2");
+    EXPECT_FALSE(drill.control("CmdNextAufg").usable()) << "the next task waits for its end";
+    drill.wait(drill.taskLength());
+    EXPECT_TRUE(drill.control("CmdNextAufg").usable());
+    EXPECT_TRUE(drill.control("wieder2").usable());
+    EXPECT_FALSE(drill.open(0)) << "the task stays closed";
+    EXPECT_EQ(drill.caption("whlgzaehler"), "3");
+    EXPECT_EQ(drill.sheet()->aufgabe().noten[0], notes);
+    drill.next();
+    EXPECT_EQ(drill.z.whlgAnz, 0);
+}
+
+TEST(Repetition, AControlHoldsTheAutomaticStepBack) {
+    DrillFixture drill;
+    drill.z.abfrage = 1;
+    drill.run();
+    drill.wait(1800 + 200 + drill.taskLength());
+    drill.answerRight();
+    drill.wait(1700);
+    drill.click("wieder2");
+    EXPECT_FALSE(drill.control("LbNextAufg").visible());
+    const auto starts = drill.midiOut.starts.size();
+    drill.wait(drill.taskLength() + 1700);
+    EXPECT_EQ(drill.midiOut.starts.size(), starts) << "its 1.8 seconds begin anew";
+    drill.wait(300);
+    EXPECT_EQ(drill.midiOut.starts.size(), starts + 1);
+}
+
+TEST(Repetition, AfterTheEndOfATrainingTheLastTaskCanStillBeHeard) {
+    DrillFixture drill;
+    drill.z.uebungsmodus = 1;
+    drill.run();
+    while (drill.sheet()->aufgZustand() != engine::AufgZustand::TrainingBeendet) {
+        drill.next();
+        while (drill.answerWrong()) continue;
+    }
+    drill.click("wieder2");
+    drill.wait(drill.taskLength());
+    EXPECT_TRUE(drill.control("wieder2").usable());
+    EXPECT_FALSE(drill.control("CmdNextAufg").usable());
+}
+
+}  // namespace
+}  // namespace determine
