@@ -34,12 +34,14 @@ class SynthOutput : public sound::MidiOutput {
     }
 
     void open(int id) override {
+        const SoundProblem before = problem();
         if (isOpen()) close();
         if (ports_.empty() && id != mapper) deviceCount();
         player_ = &builtIn_;
         if (isPort(id) && connect(id)) player_ = port_.get();
         setVolume(maxVolume, maxVolume);
         player_->put({.kind = Command::Kind::Reset});
+        if (problem() != before) raiseProblem();
     }
 
     void close() override {
@@ -108,17 +110,18 @@ class SynthOutput : public sound::MidiOutput {
 
     Player::Reports reports() {
         return {.ended = [this](std::uint32_t run) { raiseEnd(run); },
-                .problemChanged =
-                    [this] {
-                        raise([this] {
-                            if (problemChanged) problemChanged();
-                        });
-                    }};
+                .problemChanged = [this] { raiseProblem(); }};
     }
 
     void raiseEnd(std::uint32_t run) {
         raise([this, run] {
             if (run == run_ && queueEmpty) queueEmpty();
+        });
+    }
+
+    void raiseProblem() {
+        raise([this] {
+            if (problemChanged) problemChanged();
         });
     }
 

@@ -28,6 +28,13 @@ class Mail {
         return true;
     }
 
+    /// Waits until a call is there, and leaves it.
+    bool waitForCall() {
+        std::unique_lock lock(mutex_);
+        return arrived_.wait_for(lock, std::chrono::seconds(10),
+                                 [this] { return !calls_.empty(); });
+    }
+
     /// Runs what arrives within the time.
     void runFor(std::chrono::milliseconds time) {
         const auto limit = std::chrono::steady_clock::now() + time;

@@ -123,6 +123,17 @@ TEST(SynthOutput, StoppedQueueTellsNoEndAndAnEmptyOneTellsItAtOnce) {
     EXPECT_EQ(drill.ends, 1);
 }
 
+TEST(SynthOutput, EndThatIsOnItsWayWhenTheQueueIsStoppedIsNotTold) {
+    Drill drill(unpaced("file"));
+    drill.output->open(MidiOutput::mapper);
+    drill.queueNotes(1, 100);
+    drill.output->start();
+    ASSERT_TRUE(drill.mail.waitForCall());
+    drill.output->stop();
+    drill.mail.runFor(50ms);
+    EXPECT_EQ(drill.ends, 0);
+}
+
 TEST(SynthOutput, CallsThatArriveAfterItsEndDoNothing) {
     Drill drill(unpaced("none"));
     drill.output->open(MidiOutput::mapper);
