@@ -1,0 +1,198 @@
+#!/usr/bin/env python3
+"""Checks the includes below src/ against the layers, and those of tests/ and bench/ for their form.
+
+Usage: check_layers.py ROOT        ROOT holds src/. Exit status 1 if anything is wrong.
+
+Faults, each told with file and line:
+  a folder includes, or links, a folder that it may not reach
+  a library other than the standard one is included where it may not be
+  an include of the project is not written "folder/file.h", or there is no such file; tests may
+  name a file of their own folder alone
+  src/ includes something of tests/
+  files include each other in a circle
+"""
+import pathlib
+import re
+import sys
+
+# What a folder may include besides itself; what those may include is open to it, too.
+LAYERS = {
+    "base": [],
+    "form": ["base"],
+    "core": ["form"],
+    "sound": ["core"],
+    "results": ["core"],
+    "engine": ["sound", "results"],
+    "notation": ["engine"],
+    "determine": ["notation"],
+    "setup": ["engine"],
+    "drill": ["determine", "setup"],
+    # Adapters and programs: nothing above may include these.
+    "synth": ["sound"],
+    "hostlink": ["core"],
+    "qt": ["drill"],
+    "sim": ["drill"],
+    "melvora": ["hostlink"],
+    "zepha9": ["drill", "synth", "hostlink", "qt"],
+}
+
+# Libraries by their headers, and the folders that may include them.
+LIBRARIES = [
+    (re.compile(r"Q[A-Z]\w*(/Q\w+)?|Qt\w*|q\w+\.h"), {"hostlink", "qt", "melvora", "zepha9"}),
+    (re.compile(r"fluidsynth(/.*)?\.h"), {"synth"}),
+    (re.compile(r"(rtmidi/)?RtMidi\.h"), {"synth", "melvora"}),
+    (re.compile(r"pugi\w*\.hpp"), {"results", "setup", "sim", "melvora"}),
+    # The operating system: headers of C that the standard library has under another name are
+    # meant too.
+    (re.compile(r"[\w/]+\.h"), {"synth", "hostlink", "qt", "sim", "melvora", "zepha9"}),
+]
+STANDARD = re.compile(r"[a-z_]+")
+GENERATED = re.compile(r"moc_\w+\.cpp|\w+\.moc|ui_\w+\.h")
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]*)"|<([^>]*)>)')
+COMMENT = re.compile(r"/\*.*?\*/", re.DOTALL)
+MODULE = re.compile(r"\bmodule\(\s*(\w+)([^()]*)\)")
+
+
+class Include:
+    """One line of one file. `file` is below ROOT, `name` as written."""
+
+    def __init__(self, file, line, name, quoted):
+        self.file, self.line, self.name, self.quoted = file, line, name, quoted
+        self.folder = file.parts[1]
+
+    def fault(self, text):
+        return f"{self.file}:{self.line}: {text}"
+
+
+def reach(folder):
+    """All folders that a folder may include."""
+    found = {folder}
+    for used in LAYERS[folder]:
+        found |= reach(used)
+    return found
+
+
+def sources(root, top):
+    files = (root / top).rglob("*") if (root / top).is_dir() else []
+    return sorted(f.relative_to(root) for f in files if f.suffix in (".h", ".cpp"))
+
+
+def includes(root, file):
+    text = (root / file).read_text(encoding="utf-8")
+    text = COMMENT.sub(lambda match: "\n" * match[0].count("\n"), text)
+    for number, line in enumerate(text.splitlines(), 1):
+        if match := INCLUDE.match(line):
+            yield Include(file, number, match[1] or match[2], match[1] is not None)
+
+
+def form_fault(root, include):
+    """How an include of the project is written, and whether it leads to a file."""
+    if GENERATED.fullmatch(include.name):
+        return None
+    if include.file.parts[0] != "src" and (root / include.file.parent / include.name).is_file():
+        return None
+    if not re.fullmatch(r"\w+/[\w/]+\.h", include.name):
+        return f'"{include.name}" is not of the form "folder/file.h"'
+    if (root / "src" / include.name).is_file():
+        return None
+    if not (root / "tests" / include.name).is_file():
+        return f'there is no "{include.name}"'
+    return f'src includes "{include.name}" of tests' if include.file.parts[0] == "src" else None
+
+
+def target_of(root, include):
+    """The file that an include leads to, as text; None when the build makes it."""
+    places = [pathlib.Path("src"), include.file.parent, pathlib.Path("tests")]
+    return next((str(place / include.name) for place in places
+                 if (root / place / include.name).is_file()), None)
+
+
+def layer_fault(include):
+    """Whether a folder of src may include what it includes."""
+    if include.quoted:
+        target = include.name.split("/")[0]
+        if target not in LAYERS or target in reach(include.folder):
+            return None
+        return f"{include.folder} may not include {target}: {include.name}"
+    if STANDARD.fullmatch(include.name):
+        return None
+    for pattern, folders in LIBRARIES:
+        if pattern.fullmatch(include.name):
+            return (None if include.folder in folders
+                    else f"{include.folder} may not include <{include.name}>")
+    return f"<{include.name}> belongs to no library that is known; see LIBRARIES"
+
+
+def circles(graph):
+    """Each circle once, as a list that begins with its first file by name."""
+    found, path, done = set(), [], set()
+
+    def visit(file):
+        if file in path:
+            circle = path[path.index(file):]
+            first = circle.index(min(circle))
+            found.add(tuple(circle[first:] + circle[:first]))
+        elif file not in done:
+            path.append(file)
+            for target in graph.get(file, ()):
+                visit(target)
+            path.pop()
+            done.add(file)
+
+    for file in sorted(graph):
+        visit(file)
+    return sorted(found)
+
+
+def link_faults(root):
+    """What the build links must be what the layers allow."""
+    for folder in sorted(LAYERS):
+        script = root / "src" / folder / "CMakeLists.txt"
+        if not script.is_file():
+            continue
+        text = script.read_text(encoding="utf-8")
+        for match in MODULE.finditer(text):
+            words = match[2].split()
+            if "USES" not in words:
+                continue
+            used = words[words.index("USES") + 1:]
+            if "LIBRARIES" in used:
+                used = used[:used.index("LIBRARIES")]
+            line = text.count("\n", 0, match.start()) + 1
+            for name in used:
+                if name not in reach(folder):
+                    yield f"src/{folder}/CMakeLists.txt:{line}: {folder} may not use {name}"
+
+
+def check(root):
+    """All faults below ROOT and the number of files read."""
+    faults, graph = [], {}
+    files = [f for top in ("src", "tests", "bench") for f in sources(root, top)]
+    for file in files:
+        if file.parts[0] == "src" and file.parts[1] not in LAYERS:
+            faults.append(f"{file}:1: the folder {file.parts[1]} has no layer; see LAYERS")
+            continue
+        for include in includes(root, file):
+            fault = form_fault(root, include) if include.quoted else None
+            if fault is None and file.parts[0] == "src":
+                fault = layer_fault(include)
+            if fault:
+                faults.append(include.fault(fault))
+            elif include.quoted and (target := target_of(root, include)):
+                graph.setdefault(str(file), []).append(target)
+    for circle in circles(graph):
+        faults.append(f"{circle[0]}:1: a circle: {' -> '.join((*circle, circle[0]))}")
+    return faults + list(link_faults(root)), len(files)
+
+
+def main():
+    if len(sys.argv) != 2:
+        sys.exit(__doc__.strip())
+    faults, count = check(pathlib.Path(sys.argv[1]))
+    print("\n".join(faults + [f"{count} files read, {len(faults)} faults"]))
+    sys.exit(1 if faults or not count else 0)
+
+
+if __name__ == "__main__":
+    main()
