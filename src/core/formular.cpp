@@ -1,5 +1,7 @@
 #include "core/formular.h"
 
+#include "base/runtime_error.h"
+
 namespace core {
 
 bool Formular::key(form::Key key) {
@@ -16,8 +18,12 @@ void Formular::beschriften(std::initializer_list<Beschriftung> beschriftungen) {
 
 void Formular::failed(const std::string& prozedur, const std::exception& fehler) {
     p.host.HostFehler(logText(prozedur), fehler);
-    p.ports.dialogs.message(form::Icon::Exclamation, "Melvora 2000",
-                            Wort(720) + "\n" + Wort(721) + "\n" + Wort(722) + "\n" + Wort(723));
+    std::string text = Wort(720) + "\n" + Wort(721) + "\n" + Wort(722) + "\n" + Wort(723);
+    // Which path cannot be used, and what to do, is worth more than a look into the log.
+    const auto* laufzeit = dynamic_cast<const base::RuntimeError*>(&fehler);
+    if (laufzeit && laufzeit->number() == static_cast<int>(base::ErrorNumber::PathAccess))
+        text += std::string("\n\n") + fehler.what();
+    p.ports.dialogs.message(form::Icon::Exclamation, "Melvora 2000", text);
     nachFehler(prozedur);
 }
 

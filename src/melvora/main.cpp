@@ -1,4 +1,5 @@
 #include "hostlink/dbus_host.h"
+#include "look/look.h"
 #include "melvora/main_window.h"
 #include "melvora/options.h"
 #include "melvora/server.h"
@@ -107,6 +108,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("melvora");
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setQuitOnLastWindowClosed(false);
+    look::apply(application);
     Options options;
     try {
         options = parseOptions(QApplication::arguments());

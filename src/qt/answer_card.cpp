@@ -1,6 +1,6 @@
 #include "qt/answer_card.h"
 
-#include "qt/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 

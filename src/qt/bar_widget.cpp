@@ -1,6 +1,6 @@
 #include "qt/bar_widget.h"
 
-#include "qt/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 // Push buttons, panels that are buttons or bars, and options.
 #include "qt/bar_widget.h"
 #include "qt/binder.h"
-#include "qt/look.h"
+#include "look/look.h"
 #include "qt/painter_surface.h"
 
 #include <QPushButton>

@@ -2,7 +2,7 @@
 
 #include "qt/bar_widget.h"
 #include "qt/group_frame.h"
-#include "qt/look.h"
+#include "look/look.h"
 #include "qt/painter_surface.h"
 #include "qt/picture_widget.h"
 

@@ -1,6 +1,6 @@
 #include "qt/form_window.h"
 
-#include "qt/look.h"
+#include "look/look.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,6 +1,6 @@
 #include "qt/group_frame.h"
 
-#include "qt/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 

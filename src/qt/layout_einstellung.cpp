@@ -1,4 +1,4 @@
-#include "qt/look.h"
+#include "look/look.h"
 #include "qt/windows.h"
 
 #include <QGridLayout>

@@ -18,8 +18,9 @@ std::string alsText(float v) {
     return {text, std::to_chars(text, text + sizeof text, v).ptr};
 }
 
-[[noreturn]] void nichtGeschrieben(const std::string& datei, const std::string& grund) {
-    throw base::RuntimeError(base::ErrorNumber::PathAccess, datei + ": " + grund);
+[[noreturn]] void nichtGeschrieben(core::Programm& p, const std::string& datei, const std::string& grund) {
+    throw base::RuntimeError(base::ErrorNumber::PathAccess,
+                             core::eingesetzt(p.Wort(815), datei) + " (" + grund + ")");
 }
 
 }  // namespace
@@ -85,10 +86,10 @@ void Skalaxml::SkalaXmlSichern(const std::vector<std::string>& liste) {
     if (!dokument_.save_file(daneben.c_str(), "\t", pugi::format_default, pugi::encoding_utf8)) {
         const std::string grund = std::strerror(errno);
         std::remove(daneben.c_str());
-        nichtGeschrieben(datei_, grund);
+        nichtGeschrieben(p, datei_, grund);
     }
     if (std::rename(daneben.c_str(), datei_.c_str()) != 0)
-        nichtGeschrieben(datei_, std::strerror(errno));
+        nichtGeschrieben(p, datei_, std::strerror(errno));
 }
 
 std::string Skalaxml::text() const {

@@ -3,7 +3,7 @@
 #include "qt/dialogs.h"
 #include "qt/help.h"
 #include "qt/language_files.h"
-#include "qt/look.h"
+#include "look/look.h"
 #include "qt/message_loop.h"
 #include "qt/printer.h"
 #include "qt/windows.h"
@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("zepha9"));
     QApplication::setApplicationVersion(QStringLiteral(MELVORA_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
-    qt::look::apply(application);
+    look::apply(application);
 
     qt::QtMessageLoop loop;
     qt::QtDialogs dialogs;

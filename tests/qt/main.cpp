@@ -1,4 +1,4 @@
-#include "qt/look.h"
+#include "look/look.h"
 
 #include <QApplication>
 
@@ -7,6 +7,6 @@
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
-    qt::look::apply(application);
+    look::apply(application);
     return RUN_ALL_TESTS();
 }

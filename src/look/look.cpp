@@ -1,4 +1,4 @@
-#include "qt/look.h"
+#include "look/look.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace qt::look {
+namespace look {
 
 void apply(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -50,4 +50,4 @@ void colours(QWidget& widget, const QColor& letters, const QColor& background) {
     widget.setPalette(palette);
 }
 
-}  // namespace qt::look
+}  // namespace look

@@ -5,9 +5,7 @@
 
 class QApplication;
 
-namespace qt {
-
-/// The calm look that all windows share.
+/// The calm look that the windows of both programs share.
 namespace look {
 
 inline const QColor page{0xF5, 0xF4, 0xF1};
@@ -28,5 +26,3 @@ void font(QWidget& widget, double factor, bool bold = false);
 void colours(QWidget& widget, const QColor& letters, const QColor& background = {});
 
 }  // namespace look
-
-}  // namespace qt
