@@ -30,15 +30,16 @@ LAYERS = {
     # Adapters and programs: nothing above may include these.
     "synth": ["sound"],
     "hostlink": ["core"],
-    "qt": ["drill"],
+    "look": [],
+    "qt": ["drill", "look"],
     "sim": ["drill"],
-    "melvora": ["hostlink"],
+    "melvora": ["hostlink", "look"],
     "zepha9": ["drill", "synth", "hostlink", "qt"],
 }
 
 # Libraries by their headers, and the folders that may include them.
 LIBRARIES = [
-    (re.compile(r"Q[A-Z]\w*(/Q\w+)?|Qt\w*|q\w+\.h"), {"hostlink", "qt", "melvora", "zepha9"}),
+    (re.compile(r"Q[A-Z]\w*(/Q\w+)?|Qt\w*|q\w+\.h"), {"hostlink", "look", "qt", "melvora", "zepha9"}),
     (re.compile(r"fluidsynth(/.*)?\.h"), {"synth"}),
     (re.compile(r"(rtmidi/)?RtMidi\.h"), {"synth", "melvora"}),
     (re.compile(r"pugi\w*\.hpp"), {"results", "setup", "sim", "melvora"}),

@@ -26,7 +26,8 @@ i16 erlaubteFehler(const core::Zustand& z, int verschiedeneSkalen) {
     return auf > 4 && ab > 4 ? 4 : auf - 1;
 }
 
-float FortschrittWerten(core::Zustand& z, results::Wertung& wertung, Matbox& matbox, i16 fehlerMax) {
+float FortschrittWerten(core::Zustand& z, results::Wertung& wertung, Matbox& matbox,
+                        i16 fehlerMax) {
     const i16 code = (z.skala_nr + 1) * z.akt_richtung;
     const auto wiederholt = static_cast<float>(int(z.whlgAnz));
     float w = 0;

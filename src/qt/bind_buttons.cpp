@@ -1,7 +1,7 @@
 // Push buttons, panels that are buttons or bars, and options.
+#include "look/look.h"
 #include "qt/bar_widget.h"
 #include "qt/binder.h"
-#include "look/look.h"
 #include "qt/painter_surface.h"
 
 #include <QPushButton>

@@ -1,6 +1,6 @@
 // Combos, lists and sliders.
-#include "qt/binder.h"
 #include "look/look.h"
+#include "qt/binder.h"
 #include "qt/painter_surface.h"
 
 #include <QApplication>

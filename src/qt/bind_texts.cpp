@@ -1,6 +1,6 @@
 // Labels and read-only texts.
-#include "qt/binder.h"
 #include "look/look.h"
+#include "qt/binder.h"
 #include "qt/painter_surface.h"
 
 #include <QLabel>

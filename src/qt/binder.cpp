@@ -1,8 +1,8 @@
 #include "qt/binder.h"
 
+#include "look/look.h"
 #include "qt/bar_widget.h"
 #include "qt/group_frame.h"
-#include "look/look.h"
 #include "qt/painter_surface.h"
 #include "qt/picture_widget.h"
 

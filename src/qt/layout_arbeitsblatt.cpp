@@ -1,5 +1,5 @@
-#include "qt/answer_card.h"
 #include "look/look.h"
+#include "qt/answer_card.h"
 #include "qt/painter_surface.h"
 #include "qt/windows.h"
 

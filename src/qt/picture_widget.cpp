@@ -1,7 +1,7 @@
 #include "qt/picture_widget.h"
 
-#include "notation/bild.h"
 #include "look/look.h"
+#include "notation/bild.h"
 #include "qt/painter_surface.h"
 
 #include <QEvent>

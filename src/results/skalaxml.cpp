@@ -18,7 +18,8 @@ std::string alsText(float v) {
     return {text, std::to_chars(text, text + sizeof text, v).ptr};
 }
 
-[[noreturn]] void nichtGeschrieben(core::Programm& p, const std::string& datei, const std::string& grund) {
+[[noreturn]] void nichtGeschrieben(core::Programm& p, const std::string& datei,
+                                   const std::string& grund) {
     throw base::RuntimeError(base::ErrorNumber::PathAccess,
                              core::eingesetzt(p.Wort(815), datei) + " (" + grund + ")");
 }
