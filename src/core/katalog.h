@@ -139,7 +139,10 @@ static_assert([] {
     for (int typ = 0; typ < kategorienAnz; ++typ)
         for (int nr = 0; nr <= kategorien[static_cast<std::size_t>(typ)].skal_max; ++nr) {
             ++scales;
-            if (rotiert(typ) == (eigenesMuster(typ, nr) != nullptr)) return false;
+            const bool eigen = std::ranges::any_of(eigeneMuster, [&](const Skala& s) {
+                return s.skal_typ == typ && s.skala_nr == nr;
+            });
+            if (rotiert(typ) == eigen) return false;
         }
     return scales == 54;
 }());
