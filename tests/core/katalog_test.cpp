@@ -113,18 +113,5 @@ TEST(KatalogTables, NoPictureBelongsToTwoCategories) {
     EXPECT_EQ(owner.size(), 73U) << "19 scales have a second picture";
 }
 
-TEST(KatalogTables, TempoLabelsTellTheirLength) {
-    for (std::size_t i = 0; i < tempo_name.size(); ++i) {
-        const std::string label = tempo_name[i];
-        EXPECT_EQ(label.size(), 17U) << label;
-        EXPECT_EQ(60000 / std::stoi(label), tempo_dauer[i]) << label;
-    }
-}
-
-TEST(KatalogTables, ThePythagoreanThirdDiffersInTheMelodicMinor) {
-    for (int typ = 0; typ < kategorienAnz; ++typ)
-        EXPECT_EQ(stufenStimm(typ), (std::array{-2, -1, typ == 1 ? 4 : 1, -3, -1, 0, 1})) << typ;
-}
-
 }  // namespace
 }  // namespace core

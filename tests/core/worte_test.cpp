@@ -34,10 +34,5 @@ TEST(Worte, WithoutAListEverythingIsVoid) {
     EXPECT_EQ(worte.Wort(1), "VOID");
 }
 
-TEST(Eingesetzt, PutsTheValueInPlaceOnce) {
-    EXPECT_EQ(eingesetzt("a %1 b", "%1"), "a %1 b");
-    EXPECT_EQ(eingesetzt("plain", "x"), "plain");
-}
-
 }  // namespace
 }  // namespace core

@@ -49,18 +49,6 @@ TEST(Answers, OnlyTheScalesOfTheRunAreOffered) {
         }
 }
 
-TEST(Answers, ThePictureFollowsTheSetting) {
-    for (const auto& [category, final, first] :
-         {std::tuple{0, 1, 7}, {0, 0, 0}, {0, 2, 0}, {1, 1, 21}, {4, 2, 55}, {6, 1, 70}}) {
-        DrillFixture drill;
-        drill.category(category);
-        drill.z.final = final;
-        drill.z.an_zeig = 0;
-        drill.run();
-        EXPECT_EQ(static_cast<form::Picture&>(drill.control("ton_art", 3)).picture(), first + 3);
-    }
-}
-
 TEST(Answers, AWrongOneIsLockedUntilTheTaskIsClosed) {
     DrillFixture drill;
     drill.run();
@@ -85,17 +73,6 @@ TEST(Answers, AWrongOneIsLockedUntilTheTaskIsClosed) {
     EXPECT_EQ(drill.caption("zaehler", 0) + drill.caption("zaehler", 1), "04");
     drill.next();
     EXPECT_EQ(openAnswers(drill).size(), 7U);
-}
-
-TEST(Answers, WithTwoScalesTheFirstWrongOneLoses) {
-    DrillFixture drill;
-    drill.choose({1, 2});
-    drill.z.richtung = 0;
-    drill.run();
-    drill.next();
-    EXPECT_TRUE(drill.answerWrong());
-    EXPECT_EQ(drill.sheet()->aufgZustand(), engine::AufgZustand::Geschlossen);
-    EXPECT_EQ(drill.caption("ergebnis"), drill.programm.katalog.skal_name[0][drill.z.skala_nr]);
 }
 
 /// Many ascending scales and few descending ones allow more wrong answers than four.

@@ -67,12 +67,5 @@ TEST(MelodikFolge, NotesThatAllowNoMelodyAreRefusedInsteadOfTriedForEver) {
     EXPECT_THROW(MelodikFolge(a, 0, rnd), base::RuntimeError);
 }
 
-TEST(Unsanglich, TheMinorSixthIsAllowedOnlyDownward) {
-    std::set<int> awkward;
-    for (int step = -13; step <= 13; ++step)
-        if (unsanglich(60, 60 + step)) awkward.insert(step);
-    EXPECT_EQ(awkward, (std::set{-11, -10, -9, -6, 6, 8, 9, 10, 11}));
-}
-
 }  // namespace
 }  // namespace engine

@@ -106,17 +106,5 @@ TEST(Combo, KeepsItsChoiceThroughChangesOfTheList) {
     EXPECT_THROW(combo.setListIndex(-2), base::RuntimeError);
 }
 
-TEST(ListBox, TheHandlerFindsWhatWasClicked) {
-    Bench bench;
-    ListBox& list = bench.form.list;
-    std::string clicked;
-    list.onClick = {"click.", [&] { clicked = list.item(list.clicked()).text; }};
-    list.add("a", 1);
-    list.add("b", -2);
-    list.click(1);
-    EXPECT_EQ(clicked, "b");
-    EXPECT_THROW(list.click(2), base::RuntimeError);
-}
-
 }  // namespace
 }  // namespace form

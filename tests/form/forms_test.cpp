@@ -65,12 +65,14 @@ TEST(Forms, AFormUnloadedWhileItsHandlerWaitsIsNotDestroyedUnderIt) {
     EXPECT_EQ(std::find(bench.diary.begin(), wentOn, "bench destroyed"), wentOn);
 }
 
-TEST(Forms, AModalFormHoldsItsCallerUntilItIsHidden) {
+TEST(Forms, AModalFormHoldsItsCallerFromItsShowToItsHiding) {
     Bench bench;
-    bench.form.timer.onTick = {"tick.", [&] { bench.forms.hide("bench"); }};
+    bench.form.timer.onTick = {"tick.", [&] { bench.forms.show("bench"); }};
+    bench.form.other.onTick = {"tick.", [&] { bench.forms.hide("bench"); }};
     bench.form.timer.start();
-    bench.forms.showModal("bench");
-    EXPECT_EQ(bench.loop.elapsed(), 100);
+    bench.form.other.start();
+    bench.forms.runModal("bench");
+    EXPECT_EQ(bench.loop.elapsed(), 250);
     EXPECT_NE(bench.forms.loaded("bench"), nullptr);
 }
 

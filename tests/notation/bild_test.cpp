@@ -133,22 +133,5 @@ TEST(LedgerLines, LeadFromTheStaffToTheNote) {
     }
 }
 
-TEST(Accidentals, EachHasAShapeOfItsOwnLeftOfTheHead) {
-    std::vector<std::vector<support::RecordingSurface::Line>> shapes;
-    for (const int sign : {-2, -1, 1, 2}) {
-        support::RecordingSurface surface;
-        VorzeichenMalen(surface, 100, 80, sign);
-        EXPECT_EQ(std::ranges::count(shapes, surface.lines), 0) << sign;
-        shapes.push_back(surface.lines);
-        for (const auto& line : surface.lines) {
-            EXPECT_LT(std::max(line.x1, line.x2), 96) << sign;
-            EXPECT_NEAR(line.y1, 80, 18) << sign;
-        }
-    }
-    support::RecordingSurface none;
-    VorzeichenMalen(none, 100, 80, 0);
-    EXPECT_TRUE(none.lines.empty());
-}
-
 }  // namespace
 }  // namespace notation

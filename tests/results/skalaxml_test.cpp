@@ -60,6 +60,7 @@ TEST(Record, TheSameSecondIsTheSameFileAndTheLaterStays) {
 
 TEST(Record, AFolderThatIsGoneIsToldWithItsPath) {
     support::DrillFixture drill;
+    drill.words.texts["815s"] = "not to %1";
     fs::remove_all(drill.folder);
     drill.wertung.xml.SkalaXmlNeu();
     try {

@@ -116,6 +116,18 @@ TEST(Testergebnis, PrintsOnceInWhiteAndTellsWhatFailed) {
     }
 }
 
+TEST(Testergebnis, AFaultWhileItFillsStillLetsItBeLeft) {
+    ResultForm result;
+    result.drill.wertung.auswertung.init_arr(2, 1);
+    result.drill.programm.forms.load("einstellung1");
+    result.drill.later(500, [&] {
+        auto* form = result.drill.programm.forms.loaded("testergebnis");
+        if (form) static_cast<form::Button*>(form->find("cmdOK"))->click();
+    });
+    EXPECT_NO_THROW(result.drill.programm.forms.runModal("testergebnis"));
+    EXPECT_EQ(result.drill.host.faults.size(), 1U);
+}
+
 TEST(Testergebnis, LeavesToTheSetUpForm) {
     ResultForm result;
     result.drill.programm.forms.load("einstellung1");

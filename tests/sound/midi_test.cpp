@@ -1,8 +1,6 @@
 #include "sound/midi.h"
 
-#include "base/runtime_error.h"
 #include "core/bench_programm.h"
-#include "sound/klang.h"
 #include "support/recording_midi.h"
 
 #include <gtest/gtest.h>
@@ -36,10 +34,6 @@ TEST_F(MidiTest, TakesTheHostsDeviceOrTheLastOfTheList) {
         own.MidiInit(out);
         EXPECT_EQ(out.opened, device);
     }
-}
-
-TEST_F(MidiTest, NothingSoundsBeforeADeviceIsOpen) {
-    EXPECT_THROW(midi.MidiReset(), base::RuntimeError);
 }
 
 TEST_F(MidiTest, ANoteIsAnOnAndAnOffWithItsTagAMillionHigher) {
@@ -135,17 +129,6 @@ TEST_F(MidiTest, TheQueueEndsWithItsLastEvent) {
     bench.loop.advance(350);
     EXPECT_EQ(ended, 1);
     EXPECT_TRUE(out.sounding().empty());
-}
-
-TEST(Klangliste, ListsEveryProgramOnce) {
-    EXPECT_EQ(std::set<std::string>(klangNamen.begin(), klangNamen.end()).size(), 128U);
-    for (const auto& [program, name] :
-         {std::pair<std::size_t, const char*>{0, "Acoustic Grand Piano"},
-          {24, "Acoustic Guitar (nylon)"},
-          {40, "Violin"},
-          {73, "Flute"},
-          {127, "Gunshot"}})
-        EXPECT_STREQ(klangNamen[program], name);
 }
 
 }  // namespace

@@ -13,6 +13,7 @@ class Words final : public core::SprachObjekt {
         if (list_.lacking.contains(key) || key.empty() || key.back() != 's' ||
             key.find(' ') != std::string::npos)
             throw std::out_of_range(key);
+        if (const auto it = list_.texts.find(key); it != list_.texts.end()) return it->second;
         return letter_ + key.substr(0, key.size() - 1);
     }
 
