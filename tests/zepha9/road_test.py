@@ -1,0 +1,147 @@
+#!/usr/bin/env python3
+"""The road of a user through both programs, in real windows: usage road_test.py BINARIES
+
+Needs Xvfb and xdotool. Every test has a screen, a data folder and a socket of its own.
+"""
+import os
+import pathlib
+import signal
+import sqlite3
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+import wave
+
+BINARIES = pathlib.Path(sys.argv.pop(1))
+PATIENCE = 60  # seconds until something that must happen counts as missing
+
+
+def until(what, true, patience=PATIENCE):
+    end = time.monotonic() + patience
+    while time.monotonic() < end:
+        found = true()
+        if found:
+            return found
+        time.sleep(0.05)
+    raise AssertionError(f"{what}: not within {patience} s")
+
+
+class Road(unittest.TestCase):
+    display = 90 + os.getpid() % 400
+
+    def setUp(self):
+        Road.display += 1
+        self.folder = tempfile.TemporaryDirectory()
+        self.home = pathlib.Path(self.folder.name)
+        self.data = self.home / "data"
+        self.wav = self.home / "sound.wav"
+        self.environment = dict(
+            os.environ, DISPLAY=f":{self.display}", HOME=str(self.home), QT_QPA_PLATFORM="xcb",
+            XDG_RUNTIME_DIR=str(self.home), MELVORA_HOST_ADDRESS=f"unix:path={self.home}/host",
+            MELVORA_AUDIO_DRIVER="file", MELVORA_AUDIO_FILE=str(self.wav))
+        self.programs = []
+        self.start("Xvfb", f":{self.display}", "-screen", "0", "1024x768x24")
+        until("a screen", lambda: self.tool("getmouselocation") is not None)
+
+    def tearDown(self):
+        for program in reversed(self.programs):
+            program.kill()
+            program.wait()
+        subprocess.run(["pkill", "-9", "-f", str(self.home)], check=False)
+        self.folder.cleanup()
+
+    def start(self, program, *arguments):
+        path = BINARIES / program
+        command = [str(path) if path.exists() else program, *arguments]
+        self.programs.append(subprocess.Popen(
+            command, env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        return self.programs[-1]
+
+    def tool(self, *arguments):
+        done = subprocess.run(["xdotool", *arguments], env=self.environment, capture_output=True,
+                              text=True, check=False)
+        return done.stdout if done.returncode == 0 else None
+
+    def window(self, name):
+        """Waits for a window and gives it the keys."""
+        found = until(name, lambda: self.tool("search", "--onlyvisible", "--name", name)).split()[0]
+        self.tool("windowfocus", "--sync", found)
+        return found
+
+    def key(self, *keys):
+        for key in keys:
+            self.tool("key", key)
+            time.sleep(0.15)
+
+    def rows(self, query):
+        with sqlite3.connect(self.data / "melvora.sqlite") as store:
+            return store.execute(query).fetchall()
+
+    def host(self, *arguments):
+        return self.start("melvora", "--data", str(self.data), "--language", "English", *arguments)
+
+    def play_a_task(self):
+        """From the start form to a worksheet whose first task has sounded."""
+        self.window("Scales: Basic settings")
+        self.key("Return")
+        self.window("Identify scales: Setup")
+        self.key("Return")
+        self.window("^Identify scales$")
+        self.key("Return")
+        time.sleep(12.8)
+
+    def test_from_the_menu_to_a_kept_result(self):
+        self.host("--start", "zepha9")
+        self.play_a_task()
+        self.key("1", "2", "3", "4", "5", "6", "7")  # four wrong ones close it, if none is right
+        self.key("Escape")
+        self.window("Identify scales: Setup")
+        self.key("Escape")
+        self.window("Scales: Basic settings")
+        self.key("Escape")
+        self.window("Melvora")
+        results = until("a result", lambda: self.rows("SELECT exercise, answered, content FROM results"))
+        self.assertEqual(len(results), 1)
+        self.assertEqual(results[0][:2], ("identify", 1))
+        self.assertIn('programm="ZEPHA9"', results[0][2])
+        self.assertEqual(list((self.data / "spool").iterdir()), [])
+        log = [row[0] for row in self.rows("SELECT content FROM log WHERE kind = 'message'")]
+        self.assertIn("zepha9; uebungs_typ=1", log)
+        self.assertEqual(self.rows("SELECT content FROM log WHERE kind = 'error'"), [])
+        with wave.open(str(self.wav)) as sound:
+            frames = sound.readframes(sound.getnframes())
+        self.assertGreater(max(frames), 0, "the task was heard")
+
+    def test_a_run_outlives_its_host(self):
+        host = self.host("--start", "zepha9")
+        self.play_a_task()
+        host.send_signal(signal.SIGKILL)
+        host.wait()
+        self.key("1", "2", "3", "4", "5", "6", "7", "Escape")
+        self.window("Identify scales: Setup")
+        kept = list((self.data / "spool").glob("RSX*.xml"))
+        self.assertEqual(len(kept), 1, "the record waits for the next host")
+        self.key("Escape")
+        self.window("Scales: Basic settings")
+        self.key("Escape")
+        self.host()
+        until("the record", lambda: self.rows("SELECT 1 FROM results"))
+        self.assertFalse(kept[0].exists())
+
+    def test_the_menu_returns_when_the_module_dies(self):
+        self.host("--start", "zepha9")
+        self.window("Scales: Basic settings")
+        subprocess.run(["pkill", "-9", "-f", str(BINARIES / "zepha9")], check=True)
+        self.window("Melvora")
+
+    def test_without_a_host_the_module_says_so_and_ends(self):
+        module = self.start("zepha9")
+        self.window("Melvora 2000")
+        self.key("Return")
+        self.assertEqual(module.wait(PATIENCE), 9)
+
+
+if __name__ == "__main__":
+    unittest.main()
