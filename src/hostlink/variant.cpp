@@ -10,6 +10,11 @@ namespace hostlink {
 
 namespace {
 
+bool isText(const core::Value& value) {
+    return value.visit(
+        [](const auto& held) { return std::is_same_v<std::decay_t<decltype(held)>, std::string>; });
+}
+
 struct AsVariant {
     QVariant operator()(std::monostate) const { return QVariant::fromValue<uchar>(0); }
     QVariant operator()(bool truth) const { return truth; }
@@ -19,12 +24,28 @@ struct AsVariant {
     QVariant operator()(double number) const { return number; }
     QVariant operator()(const std::string& text) const { return QString::fromUtf8(text.c_str()); }
     QVariant operator()(const core::Value::Array& items) const {
+        if (!items.empty() && std::ranges::all_of(items, isText)) return texts(items);
         QVariantList list;
         list.reserve(static_cast<qsizetype>(items.size()));
         for (const auto& item : items) list.append(toVariant(item));
         return list;
     }
+
+  private:
+    static QStringList texts(const core::Value::Array& items) {
+        QStringList list;
+        list.reserve(static_cast<qsizetype>(items.size()));
+        for (const auto& item : items) list.append(QString::fromUtf8(item.text().c_str()));
+        return list;
+    }
 };
+
+core::Value fromTexts(const QStringList& list) {
+    core::Value::Array items;
+    items.reserve(static_cast<std::size_t>(list.size()));
+    for (const QString& text : list) items.emplace_back(text.toStdString());
+    return core::Value(std::move(items));
+}
 
 std::optional<core::Value> fromList(const QVariantList& list) {
     core::Value::Array items;
@@ -38,6 +59,8 @@ std::optional<core::Value> fromList(const QVariantList& list) {
 }
 
 std::optional<core::Value> fromArgument(const QDBusArgument& argument) {
+    if (argument.currentSignature() == QLatin1String("as"))
+        return fromTexts(qdbus_cast<QStringList>(argument));
     if (argument.currentSignature() != QLatin1String("av")) return {};
     return fromList(qdbus_cast<QVariantList>(argument));
 }
@@ -76,6 +99,7 @@ std::optional<core::Value> fromVariant(const QVariant& variant) {
         case QMetaType::QString:
             return core::Value(variant.toString().toStdString());
         case QMetaType::QStringList:
+            return fromTexts(variant.toStringList());
         case QMetaType::QVariantList:
             return fromList(variant.toList());
         default:

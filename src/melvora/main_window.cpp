@@ -27,7 +27,8 @@ MainWindow::MainWindow(Host& host)
     }
     retranslate();
     fill(Start);
-    resize(sizeHint().expandedTo({760, 560}));
+    resize(sizeHint().expandedTo(
+        {100 * fontMetrics().averageCharWidth(), 36 * fontMetrics().height()}));
 
     connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::fill);
     connect(&host_, &Host::languageChanged, this, &MainWindow::retranslate);

@@ -10,7 +10,8 @@ namespace melvora {
 
 namespace {
 
-constexpr int columnWidth = 600;
+/// Greatest width of the page's column in average characters.
+constexpr int columnWidth = 90;
 
 /// A combo that asks for its entries before it unfolds.
 class FreshCombo final : public QComboBox {
@@ -73,14 +74,14 @@ StartPage::StartPage(Host& host, QWidget* parent)
 }
 
 void StartPage::layOut() {
-    title_->setFont(scaled(font(), 2.4, QFont::Light));
+    title_->setFont(scaled(font(), 2.2));
     subtitle_->setForegroundRole(QPalette::PlaceholderText);
     start_->setFont(scaled(font(), 1.4, QFont::DemiBold));
     start_->setMinimumHeight(3 * fontMetrics().height() + 8);
     start_->setDefault(true);
     start_->setAutoDefault(true);
     QPalette accent = palette();
-    accent.setColor(QPalette::Button, accent.color(QPalette::Highlight).darker(150));
+    accent.setColor(QPalette::Button, accent.color(QPalette::Highlight));
     accent.setColor(QPalette::ButtonText, accent.color(QPalette::HighlightedText));
     accent.setColor(QPalette::Disabled, QPalette::Button, palette().color(QPalette::Button));
     accent.setColor(QPalette::Disabled, QPalette::ButtonText,
@@ -128,7 +129,7 @@ void StartPage::layOut() {
     column->addStretch(2);
 
     auto* middle = new QWidget(this);
-    middle->setMaximumWidth(columnWidth);
+    middle->setMaximumWidth(columnWidth * fontMetrics().averageCharWidth());
     middle->setLayout(column);
     column->setContentsMargins(0, 0, 0, 0);
     auto* page = new QHBoxLayout(this);
