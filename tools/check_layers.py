@@ -28,12 +28,13 @@ LAYERS = {
     "setup": ["engine"],
     "drill": ["determine", "setup"],
     # Adapters and programs: nothing above may include these.
-    "synth": ["sound"],
+    "synth": ["sound", "ports"],
     "hostlink": ["core"],
     "look": [],
+    "ports": [],
     "qt": ["drill", "look"],
     "sim": ["drill"],
-    "melvora": ["hostlink", "look"],
+    "melvora": ["hostlink", "look", "ports"],
     "zepha9": ["drill", "synth", "hostlink", "qt"],
 }
 
@@ -41,11 +42,11 @@ LAYERS = {
 LIBRARIES = [
     (re.compile(r"Q[A-Z]\w*(/Q\w+)?|Qt\w*|q\w+\.h"), {"hostlink", "look", "qt", "melvora", "zepha9"}),
     (re.compile(r"fluidsynth(/.*)?\.h"), {"synth"}),
-    (re.compile(r"(rtmidi/)?RtMidi\.h"), {"synth", "melvora"}),
+    (re.compile(r"(rtmidi/)?RtMidi\.h"), {"ports"}),
     (re.compile(r"pugi\w*\.hpp"), {"results", "setup", "sim", "melvora"}),
     # The operating system: headers of C that the standard library has under another name are
     # meant too.
-    (re.compile(r"[\w/]+\.h"), {"synth", "hostlink", "qt", "sim", "melvora", "zepha9"}),
+    (re.compile(r"[\w/]+\.h"), {"ports", "synth", "hostlink", "qt", "sim", "melvora", "zepha9"}),
 ]
 STANDARD = re.compile(r"[a-z_]+")
 GENERATED = re.compile(r"moc_\w+\.cpp|\w+\.moc|ui_\w+\.h")

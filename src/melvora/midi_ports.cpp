@@ -1,26 +1,17 @@
 #include "melvora/midi_ports.h"
 
-#include <QFile>
-#include <QRegularExpression>
+#include "ports/midi_ports.h"
 
-#include <RtMidi.h>
+#include <QRegularExpression>
 
 #include <algorithm>
 
 namespace melvora {
 
 QStringList midiPorts() {
-    QStringList ports;
-    if (!QFile::exists("/dev/snd/seq")) return ports;
-    try {
-        RtMidiOut output(RtMidi::LINUX_ALSA, "Melvora");
-        output.setErrorCallback([](RtMidiError::Type, const std::string&, void*) {});
-        for (unsigned i = 0; i < output.getPortCount(); ++i)
-            ports.append(QString::fromStdString(output.getPortName(i)));
-    } catch (const RtMidiError&) {
-        ports.clear();
-    }
-    return ports;
+    QStringList names;
+    for (const std::string& name : ports::portNames()) names.append(QString::fromStdString(name));
+    return names;
 }
 
 QString steadyName(const QString& port) {

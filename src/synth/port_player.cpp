@@ -20,7 +20,7 @@ constexpr int restVelocity = 64;
 
 }  // namespace
 
-PortPlayer::PortPlayer(SendBytes port, Reports reports)
+PortPlayer::PortPlayer(ports::SendBytes port, Reports reports)
     : port_(std::move(port)),
       reports_(std::move(reports)),
       sequencer_((quietFluidLog(), made(new_fluid_sequencer2(0), "a sequencer"))),

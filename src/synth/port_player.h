@@ -1,7 +1,7 @@
 #pragma once
 #include "synth/fluid_handle.h"
 #include "synth/fluid_queue.h"
-#include "synth/midi_ports.h"
+#include "ports/midi_ports.h"
 #include "synth/player.h"
 
 #include <array>
@@ -17,7 +17,7 @@ class PortPlayer : public Player {
     static constexpr unsigned leadIn = 5;
 
     /// Throws FluidError.
-    PortPlayer(SendBytes port, Reports reports);
+    PortPlayer(ports::SendBytes port, Reports reports);
     ~PortPlayer() override;
 
     void put(Command command) override { mailbox_.put(std::move(command)); }
@@ -37,7 +37,7 @@ class PortPlayer : public Player {
     void forward(fluid_event_t* event);
     void send(int status, int data1, int data2);
 
-    SendBytes port_;
+    ports::SendBytes port_;
     Reports reports_;
     Mailbox mailbox_;
     FluidSequencer sequencer_;

@@ -1,6 +1,6 @@
 #include "synth/synth_output.h"
 
-#include "synth/midi_ports.h"
+#include "ports/midi_ports.h"
 #include "synth/port_player.h"
 #include "synth/synth_player.h"
 
@@ -23,7 +23,7 @@ class SynthOutput : public sound::MidiOutput {
         : post_(std::move(post)), builtIn_(std::move(options), reports()) {}
 
     int deviceCount() override {
-        ports_ = portNames();
+        ports_ = ports::portNames();
         portId_ = mapper;
         return static_cast<int>(ports_.size());
     }
@@ -101,7 +101,7 @@ class SynthOutput : public sound::MidiOutput {
     bool connect(int id) {
         if (port_ && portId_ == id) return true;
         port_.reset();
-        SendBytes bytes = openPort(ports_[static_cast<std::size_t>(id)]);
+        ports::SendBytes bytes = ports::openPort(ports_[static_cast<std::size_t>(id)]);
         if (!bytes) return false;
         port_ = std::make_unique<PortPlayer>(std::move(bytes), reports());
         portId_ = id;

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace synth {
+namespace ports {
 
 /// Sends one whole MIDI message to a port. Never throws: what a port that was unplugged is sent is
 /// lost.
@@ -16,4 +16,4 @@ std::vector<std::string> portNames();
 /// Connects to the port with that name; null when it is not there any more.
 SendBytes openPort(const std::string& name);
 
-}  // namespace synth
+}  // namespace ports

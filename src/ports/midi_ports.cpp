@@ -1,11 +1,11 @@
-#include "synth/midi_ports.h"
+#include "ports/midi_ports.h"
 
 #include <RtMidi.h>
 #include <unistd.h>
 
 #include <memory>
 
-namespace synth {
+namespace ports {
 
 namespace {
 
@@ -53,4 +53,4 @@ SendBytes openPort(const std::string& name) {
     return nullptr;
 }
 
-}  // namespace synth
+}  // namespace ports
