@@ -19,7 +19,7 @@ SOUND = {
     "src/sound/midi.h": '#include "core/programm.h"\n',
     "src/engine/task.h": '#include "base/i16.h"\n#include "sound/midi.h"\n',
     "src/drill/drill.h": '#include "engine/task.h"\n',
-    "src/synth/player.cpp": "#include <RtMidi.h>\n#include <fluidsynth.h>\n#include <unistd.h>\n",
+    "src/synth/player.cpp": "#include <fluidsynth.h>\n#include <unistd.h>\n",
     "src/qt/window.cpp": '#include "drill/drill.h"\n#include <QWidget>\n#include "window.moc"\n',
     "tests/support/fake.h": '#include "drill/drill.h"\n',
     "tests/qt/window_test.cpp": '#include "stage.h"\n#include "support/fake.h"\n',
