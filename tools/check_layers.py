@@ -25,7 +25,7 @@ LAYERS = {
     "engine": ["sound", "results"],
     "notation": ["engine"],
     "determine": ["notation"],
-    "setup": ["engine"],
+    "setup": ["sound", "results"],
     "drill": ["determine", "setup"],
     # Adapters and programs: nothing above may include these.
     "synth": ["sound", "ports"],

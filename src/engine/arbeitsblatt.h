@@ -180,11 +180,4 @@ class Arbeitsblatt : public core::Formular {
     form::Timer testtimer{*this, {"testtimer"}, 5000};
 };
 
-/// Offers the continuation of a saved training on a set-up form, or takes the offer away, and
-/// selects a mode through its handler. Does nothing when that form is not loaded.
-void FortsetzungAnbieten(core::Programm& p, const std::string& formular, bool vorhanden, int modus);
-
-/// Stands in place of the continuation while there is none.
-inline constexpr const char* keineFortsetzung = "---------------";
-
 }  // namespace engine

@@ -1,19 +1,10 @@
 // The end of a run: the exam clock, leaving, and what is kept.
+#include "core/fortsetzung.h"
 #include "engine/arbeitsblatt.h"
 
 namespace engine {
 
 namespace colours = base::colours;
-
-void FortsetzungAnbieten(core::Programm& p, const std::string& formular, bool vorhanden,
-                         int modus) {
-    const form::Form* einstellung = p.forms.loaded(formular);
-    auto* combo =
-        einstellung ? static_cast<form::Combo*>(einstellung->find("training_Combo")) : nullptr;
-    if (!combo || combo->count() <= core::modus::fortsetzung) return;
-    combo->setText(core::modus::fortsetzung, vorhanden ? p.Wort(565) : keineFortsetzung);
-    combo->setListIndex(modus);
-}
 
 std::string Arbeitsblatt::einstellungsform() const {
     return z.theoriewahl == 0 ? "einstellung1" : "einstellung1b";
@@ -30,7 +21,7 @@ void Arbeitsblatt::WeiterAnbieten() {
 void Arbeitsblatt::TrainingsstandLoeschen() {
     setPointer(form::Pointer::Hourglass);
     p.host.HostSichern("A" + satz(), core::Value::Array{"False"});
-    FortsetzungAnbieten(p, einstellungsform(), false, core::modus::training);
+    core::FortsetzungAnbieten(p, einstellungsform(), false, core::modus::training);
     setPointer(form::Pointer::Arrow);
 }
 

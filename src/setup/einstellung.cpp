@@ -1,7 +1,7 @@
 // Opening of the set-up form: wiring, load values, contents and captions.
 #include "setup/einstellung.h"
 
-#include "engine/arbeitsblatt.h"
+#include "core/fortsetzung.h"
 #include "sound/klang.h"
 
 namespace setup {
@@ -139,7 +139,7 @@ void Einstellung::CombosFuellen() {
     for (int typ = 0; typ < typen; ++typ) skal_typ_cmb.add(p.katalog.skal_typ_name[typ], ohneDaten);
     skal_typ_cmb.setListIndex(0);
     for (int modus = 0; modus < 5; ++modus)
-        training_Combo.add(modus == core::modus::fortsetzung ? engine::keineFortsetzung
+        training_Combo.add(modus == core::modus::fortsetzung ? core::keineFortsetzung
                                                              : p.katalog.modus_name[modus]);
     training_Combo.setListIndex(0);
     for (int n = 1; n <= 5; ++n) prfnr_Comb.add(Wort(426) + zahl(n), ohneDaten);

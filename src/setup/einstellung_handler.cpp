@@ -1,5 +1,5 @@
 // What the choices of the set-up form do.
-#include "engine/arbeitsblatt.h"
+#include "core/fortsetzung.h"
 #include "setup/einstellung.h"
 #include "sound/klang.h"
 
@@ -71,7 +71,7 @@ void Einstellung::HSliderVolume_change() {
 void Einstellung::ska_ausw_click(int index) { z.ska_ausw = index; }
 
 void Einstellung::training_Combo_click() {
-    if (training_Combo.text() == engine::keineFortsetzung) {
+    if (training_Combo.text() == core::keineFortsetzung) {
         training_Combo.setListIndex(core::modus::training);
         return;
     }

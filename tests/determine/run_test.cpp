@@ -1,3 +1,4 @@
+#include "core/fortsetzung.h"
 #include "support/drill_fixture.h"
 
 #include <gtest/gtest.h>
@@ -61,7 +62,7 @@ TEST(Training, APerfectLearnerReachesTheGoalAndAHopelessOneDoesNot) {
         EXPECT_EQ(drill.host.records["zepha9/A1"], core::Value(core::Value::Array{"False"}));
         auto& combo = *static_cast<form::Combo*>(
             drill.programm.forms.loaded("einstellung1")->find("training_Combo"));
-        EXPECT_EQ(combo.item(2).text, engine::keineFortsetzung);
+        EXPECT_EQ(combo.item(2).text, core::keineFortsetzung);
         EXPECT_EQ(combo.listIndex(), 1);
         drill.click("zurueck");
         expectHome(drill);

@@ -1,0 +1,16 @@
+#include "core/fortsetzung.h"
+
+#include "form/controls.h"
+
+namespace core {
+
+void FortsetzungAnbieten(Programm& p, const std::string& formular, bool vorhanden, int gewaehlt) {
+    const form::Form* einstellung = p.forms.loaded(formular);
+    auto* combo =
+        einstellung ? static_cast<form::Combo*>(einstellung->find("training_Combo")) : nullptr;
+    if (!combo || combo->count() <= modus::fortsetzung) return;
+    combo->setText(modus::fortsetzung, vorhanden ? p.Wort(565) : keineFortsetzung);
+    combo->setListIndex(gewaehlt);
+}
+
+}  // namespace core
