@@ -28,6 +28,8 @@ class Simulation {
     Outcome run();
     /// The record of the last run.
     std::string record() const { return drill_.wertung.xml.text(); }
+    /// What is simulated, between runs.
+    drill::Drill& drill() { return drill_; }
 
   private:
     /// Message boxes are answered at once, with no.

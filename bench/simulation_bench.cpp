@@ -1,0 +1,55 @@
+#include "sim/simulation.h"
+
+#include <benchmark/benchmark.h>
+
+#include <stdexcept>
+
+namespace {
+
+void simulate(benchmark::State& state, const std::vector<const char*>& arguments) {
+    const sim::Options options = sim::parseOptions(arguments);
+    sim::Simulation simulation(options);
+    std::int64_t tasks = 0;
+    for (auto _ : state) {
+        const sim::Outcome outcome = simulation.run();
+        if (!outcome.fault.empty()) throw std::runtime_error(outcome.fault);
+        tasks += outcome.tasks;
+    }
+    state.SetItemsProcessed(tasks);
+}
+BENCHMARK_CAPTURE(simulate, long_run, {"--tasks", "20000", "--learner", "random:0.7"})
+    ->Name("tasks/one_long_run")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(simulate, training, {"--set", "uebungsmodus=1", "--learner", "random:0.7"})
+    ->Name("tasks/trainings")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(simulate, exam,
+                  {"--set", "uebungsmodus=4", "--set", "abfrage=1", "--learner", "random:0.7"})
+    ->Name("tasks/exams")
+    ->Unit(benchmark::kMillisecond);
+
+constexpr int lessons = 10000;
+
+/// Saving of a record, file included.
+void saveRecord(benchmark::State& state) {
+    const std::array arguments{"--tasks", "1"};
+    const sim::Options options = sim::parseOptions(arguments);
+    sim::Simulation simulation(options);
+    results::Skalaxml& record = simulation.drill().wertung.xml;
+    for (auto _ : state) {
+        state.PauseTiming();
+        record.SkalaXmlNeu();
+        for (int i = 0; i < lessons; ++i) {
+            record.LektionNeu("dorisch");
+            record.AntwortNeu(record.lektion(), 1);
+            const auto answer = record.AntwortSchluss();
+            record.AntwortEigenschaft(answer, "Antwort", "true");
+            record.AntwortEigenschaft(answer, "Skala", "dorisch");
+        }
+        state.ResumeTiming();
+        record.SkalaXmlSichern({"2", "Tempo", "60"});
+    }
+}
+BENCHMARK(saveRecord)->Name("record/save_10000_lessons")->Unit(benchmark::kMillisecond);
+
+}  // namespace
