@@ -67,7 +67,7 @@ std::optional<core::Value> fromArgument(const QDBusArgument& argument) {
 
 std::optional<core::Value> fromUnsigned(qulonglong number) {
     if (number > static_cast<qulonglong>(std::numeric_limits<std::int64_t>::max())) return {};
-    return core::Value(static_cast<std::int64_t>(number));
+    return std::make_optional<core::Value>(static_cast<std::int64_t>(number));
 }
 
 }  // namespace
@@ -82,22 +82,23 @@ std::optional<core::Value> fromVariant(const QVariant& variant) {
         return fromArgument(variant.value<QDBusArgument>());
     switch (type.id()) {
         case QMetaType::Bool:
-            return core::Value(variant.toBool());
+            return std::make_optional<core::Value>(variant.toBool());
         case QMetaType::UChar:
-            if (variant.value<uchar>() == 0) return core::Value();
-            return core::Value(static_cast<std::int64_t>(variant.value<uchar>()));
+            if (variant.value<uchar>() == 0) return std::make_optional<core::Value>();
+            return std::make_optional<core::Value>(
+                static_cast<std::int64_t>(variant.value<uchar>()));
         case QMetaType::Short:
         case QMetaType::Int:
         case QMetaType::LongLong:
-            return core::Value(static_cast<std::int64_t>(variant.toLongLong()));
+            return std::make_optional<core::Value>(static_cast<std::int64_t>(variant.toLongLong()));
         case QMetaType::UShort:
         case QMetaType::UInt:
         case QMetaType::ULongLong:
             return fromUnsigned(variant.toULongLong());
         case QMetaType::Double:
-            return core::Value(variant.toDouble());
+            return std::make_optional<core::Value>(variant.toDouble());
         case QMetaType::QString:
-            return core::Value(variant.toString().toStdString());
+            return std::make_optional<core::Value>(variant.toString().toStdString());
         case QMetaType::QStringList:
             return fromTexts(variant.toStringList());
         case QMetaType::QVariantList:

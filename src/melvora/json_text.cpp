@@ -26,18 +26,18 @@ struct AsJson {
 std::optional<core::Value> valueOf(const QJsonValue& json) {
     switch (json.type()) {
         case QJsonValue::Null:
-            return core::Value();
+            return std::make_optional<core::Value>();
         case QJsonValue::Bool:
-            return core::Value(json.toBool());
+            return std::make_optional<core::Value>(json.toBool());
         case QJsonValue::Double:
-            return core::Value(static_cast<std::int64_t>(json.toInteger()));
+            return std::make_optional<core::Value>(static_cast<std::int64_t>(json.toInteger()));
         case QJsonValue::String:
-            return core::Value(json.toString().toStdString());
+            return std::make_optional<core::Value>(json.toString().toStdString());
         case QJsonValue::Object: {
             bool isNumber = false;
             const double number = json["real"].toString().toDouble(&isNumber);
             if (!isNumber) return {};
-            return core::Value(number);
+            return std::make_optional<core::Value>(number);
         }
         case QJsonValue::Array: {
             core::Value::Array items;

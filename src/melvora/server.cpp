@@ -39,7 +39,8 @@ Server::~Server() {
 
 bool Server::Request(const QString& key, const QDBusVariant& argument, const QDBusVariant& standard,
                      QDBusVariant& result) {
-    core::Value value = hostlink::fromVariant(standard.variant()).value_or(core::Value());
+    core::Value value;
+    if (auto given = hostlink::fromVariant(standard.variant())) value = std::move(*given);
     const bool answer = requests_.answer(key, hostlink::fromVariant(argument.variant()), value);
     result = QDBusVariant(hostlink::toVariant(value));
     return answer;
