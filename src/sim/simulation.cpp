@@ -24,14 +24,15 @@ Simulation::Simulation(const Options& options, std::ostream* trace)
       drill_({loop_, dialogs_, printer_, help_, host_.factory(), &words_},
              {"", folder_.path().string(), "simulation"}, output_, options.seed),
       // Its chance is its own, so that the same tasks can be given to different learners.
-      pupil_(loop_, options.learner, drill_.programm.zustand, ~options.seed) {
+      pupil_(loop_, options.learner, drill_.programm.zustand, ~options.seed),
+      road_(drill_, worksheet_) {
     if (!drill_.programm.forms.knows(options.form))
         throw UsageError("the drill has no form \"" + options.form + "\"");
     if (state_.uebungsmodus == core::modus::ausprobieren && options.tasks == 0)
         throw UsageError("uebungsmodus 0 does not end by itself: --tasks is needed");
     made_ = drill_.programm.forms.made.connect([this](form::Form& form) { made(form); });
     gone_ = drill_.programm.forms.gone.connect([this](form::Form& form) { gone(form); });
-    startUp();
+    if (!options.throughSetup) startUp();
 }
 
 /// What the start form and the opening of a set-up form do.
@@ -65,7 +66,10 @@ Outcome Simulation::run() {
     faults_ = host_.faults().size();
     dialogs_.messages.clear();
     const std::int64_t begin = lastTurn_ = loop_.elapsed();
-    openWorksheet();
+    if (options_.throughSetup)
+        road_.go(options_.assignments, state_);
+    else
+        openWorksheet();
     loop_.runUntil([this] {
         if (loop_.elapsed() - lastTurn_ > day) throw std::logic_error("the run stands still");
         return over_;

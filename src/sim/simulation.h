@@ -4,6 +4,7 @@
 #include "sim/options.h"
 #include "sim/outcome.h"
 #include "sim/pupil.h"
+#include "sim/setup_road.h"
 #include "sim/temp_folder.h"
 #include "sim/trace.h"
 #include "sim/words.h"
@@ -69,6 +70,7 @@ class Simulation {
     TracedOutput output_;
     drill::Drill drill_;
     Pupil pupil_;
+    SetupRoad road_;
 
     const engine::Arbeitsblatt* sheet_ = nullptr;
     Outcome outcome_;
