@@ -3,6 +3,7 @@
 #include "form/controls.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -10,12 +11,17 @@
 namespace form {
 
 base::Moment VirtualTime::now() const {
-    constexpr std::int64_t day = 24LL * 60 * 60 * 1000;
+    constexpr std::int64_t dayLength = 24LL * 60 * 60 * 1000;
     const std::int64_t total = ((start_.hour * 60LL + start_.minute) * 60 + start_.second) * 1000 +
                                start_.millisecond + elapsed_;
-    const auto inDay = static_cast<int>(total % day);
+    const auto inDay = static_cast<int>(total % dayLength);
     base::Moment moment = start_;
-    moment.day += static_cast<int>(total / day);
+    using namespace std::chrono;
+    const year_month_day date{sys_days(year(start_.year) / start_.month / start_.day) +
+                              days(total / dayLength)};
+    moment.year = int(date.year());
+    moment.month = static_cast<int>(unsigned(date.month()));
+    moment.day = static_cast<int>(unsigned(date.day()));
     moment.hour = inDay / 3600000;
     moment.minute = inDay / 60000 % 60;
     moment.second = inDay / 1000 % 60;
