@@ -161,9 +161,8 @@ void BildMalen(Flaeche& ziel, int nummer) {
     int x = links;
     for (const Ton& ton : toene) {
         const int y = yImViolinschluessel(ton);
-        const int k = y / 4;
         HilfslinienMalen(flaeche, x, y, obersteLinie - 2, obersteLinie + 10);
-        NotenkopfMalen(flaeche, x, y, base::colours::black, k > obersteLinie && k % 2 == 1);
+        NotenkopfMalen(flaeche, x, y, base::colours::black);
         VorzeichenMalen(flaeche, x, y, vorzeichen(ton.qz));
         x += schritt;
     }

@@ -1,7 +1,6 @@
 #include "notation/noten.h"
 
-#include <array>
-#include <span>
+#include "notation/kurve.h"
 
 namespace notation {
 
@@ -9,47 +8,52 @@ namespace {
 
 constexpr Colour schwarz = base::colours::black;
 
-/// A stroke relative to an anchor.
+/// A stroke relative to the note head.
 struct Strich {
-    int x1, y1, x2, y2;
+    double x1, y1, x2, y2, breite;
 };
 
-void malen(Flaeche& flaeche, int x, int y, std::span<const Strich> striche,
-           Colour farbe = schwarz) {
-    for (const Strich& s : striche) flaeche.linie(x + s.x1, y + s.y1, x + s.x2, y + s.y2, farbe, 1);
+template <std::size_t n>
+void malen(Flaeche& flaeche, double x, double y, const std::array<Strich, n>& striche) {
+    for (const Strich& s : striche)
+        flaeche.linie(x + s.x1, y + s.y1, x + s.x2, y + s.y2, schwarz, s.breite);
 }
 
-constexpr std::array kopf{Strich{0, -4, 4, -4},  Strich{-2, -3, 5, -3}, Strich{-3, -2, 5, -2},
-                          Strich{-4, -1, 5, -1}, Strich{-4, 0, 5, 0},   Strich{-4, 1, 4, 1},
-                          Strich{-4, 2, 3, 2},   Strich{-3, 3, 1, 3}};
+constexpr double beAbstand = 8;
+constexpr Strich beHals{-12.5, -15, -12.5, 5, 1.2};
+constexpr std::array beBauch{Punkt{-12.5, 5, 1}, Punkt{-8.8, 1.6, 1.5}, Punkt{-7.2, -1.8, 1.9},
+                             Punkt{-9.2, -3.7, 1.8}, Punkt{-12.3, -1.4, 1}};
 
-constexpr std::array be{Strich{0, 1, 0, 22},  Strich{2, 12, 5, 12}, Strich{1, 13, 6, 13},
-                        Strich{4, 14, 7, 14}, Strich{4, 15, 7, 15}, Strich{4, 16, 6, 16},
-                        Strich{4, 17, 6, 17}, Strich{3, 18, 5, 18}, Strich{2, 19, 3, 20},
-                        Strich{1, 20, 2, 21}};
+void be(Flaeche& flaeche, double x, double y) {
+    malen(flaeche, x, y, std::array{beHals});
+    kurveMalen(flaeche, x, y, beBauch);
+}
 
-constexpr std::array kreuzStaemme{Strich{0, 1, 0, 23}, Strich{3, 0, 3, 22}};
-constexpr std::array kreuzBalken{Strich{-1, 8, -1, 11}, Strich{1, 7, 1, 10}, Strich{2, 7, 2, 10},
-                                 Strich{4, 6, 4, 9}};
+constexpr std::array kreuz{Strich{-12, -9.5, -12, 11, 1.1}, Strich{-8.6, -11, -8.6, 9.5, 1.1},
+                           Strich{-13.8, -2.8, -6.8, -4.9, 2.3},
+                           Strich{-13.8, 4.9, -6.8, 2.8, 2.3}};
 
-constexpr std::array doppelkreuzBlock{Strich{0, 0, 3, 0}, Strich{0, 1, 3, 1}, Strich{0, 2, 3, 2}};
-constexpr std::array doppelkreuzMitte{Strich{3, 3, 5, 3}, Strich{3, 4, 5, 4}};
+constexpr std::array doppelkreuz{Strich{-13, -3, -7.4, 3, 1.6}, Strich{-13, 3, -7.4, -3, 1.6}};
 
-constexpr std::array aufloesungStaemme{Strich{0, 1, 0, 18}, Strich{4, 6, 4, 23}};
-constexpr std::array aufloesungBlock{Strich{1, 10, 2, 10}, Strich{1, 9, 3, 9}, Strich{1, 8, 4, 8},
-                                     Strich{2, 7, 4, 7}, Strich{3, 6, 4, 6}};
+void doppelkreuzMalen(Flaeche& flaeche, double x, double y) {
+    malen(flaeche, x, y, doppelkreuz);
+    for (const Strich& s : doppelkreuz) {
+        flaeche.scheibe(x + s.x1, y + s.y1, 1.5, schwarz);
+        flaeche.scheibe(x + s.x2, y + s.y2, 1.5, schwarz);
+    }
+}
 
 }  // namespace
 
-void NotenkopfMalen(Flaeche& flaeche, int x, int y, Colour farbe, bool imZwischenraum) {
-    malen(flaeche, x, y, std::span(kopf).subspan(imZwischenraum ? 1 : 0), farbe);
+void NotenkopfMalen(Flaeche& flaeche, int x, int y, Colour farbe) {
+    flaeche.linie(x - 1.6, y + 0.7, x + 2.2, y - 0.7, farbe, 6.6);
 }
 
 int HilfslinienMalen(Flaeche& flaeche, int x, int y, int oben, int unten) {
     const int k = y / 4;
     int zaehler = 0;
     const auto hilfslinie = [&](int j) {
-        flaeche.linie(x - 6, 4 * j, x + 7, 4 * j, schwarz, 1);
+        flaeche.linie(x - 7, 4 * j, x + 8, 4 * j, schwarz, 1);
         zaehler += 4;
     };
     for (int j = oben; j >= k; j -= 2) hilfslinie(j);
@@ -57,43 +61,22 @@ int HilfslinienMalen(Flaeche& flaeche, int x, int y, int oben, int unten) {
     return zaehler;
 }
 
-void BeMalen(Flaeche& flaeche, int x, int y) { malen(flaeche, x, y, be); }
-
-void DoppelBeMalen(Flaeche& flaeche, int x, int y) {
-    BeMalen(flaeche, x, y);
-    BeMalen(flaeche, x + 8, y);
-}
-
-void KreuzMalen(Flaeche& flaeche, int x, int y) {
-    malen(flaeche, x, y, kreuzStaemme);
-    malen(flaeche, x, y, kreuzBalken);
-    malen(flaeche, x, y + 8, kreuzBalken);
-}
-
-void DoppelKreuzMalen(Flaeche& flaeche, int x, int y) {
-    for (const int dx : {0, 5})
-        for (const int dy : {0, 5}) malen(flaeche, x + dx, y + dy, doppelkreuzBlock);
-    malen(flaeche, x, y, doppelkreuzMitte);
-}
-
-void AufloesungMalen(Flaeche& flaeche, int x, int y) {
-    malen(flaeche, x, y, aufloesungStaemme);
-    malen(flaeche, x, y, aufloesungBlock);
-    malen(flaeche, x, y + 7, aufloesungBlock);
-}
-
 void VorzeichenMalen(Flaeche& flaeche, int x, int y, int vorzeichen) {
     switch (vorzeichen) {
         case -2:
-            return DoppelBeMalen(flaeche, x - 22, y - 17);
+            be(flaeche, x - beAbstand, y);
+            [[fallthrough]];
         case -1:
-            return BeMalen(flaeche, x - 15, y - 17);
+            be(flaeche, x, y);
+            break;
         case 1:
-            return KreuzMalen(flaeche, x - 14, y - 12);
+            malen(flaeche, x, y, kreuz);
+            break;
         case 2:
-            return DoppelKreuzMalen(flaeche, x - 14, y - 4);
+            doppelkreuzMalen(flaeche, x, y);
+            break;
         default:
-            return;
+            break;
     }
 }
 

@@ -5,22 +5,17 @@ namespace notation {
 
 using base::Colour;
 
-/// Note head around (x, y). @param imZwischenraum it stands in a space of the staff or below: its
-/// top row would touch the line above and is left out.
-void NotenkopfMalen(Flaeche& flaeche, int x, int y, Colour farbe, bool imZwischenraum);
+// Everything is drawn for a staff whose lines lie 8 logical pixels apart.
+
+/// Note head around (x, y): 10 wide, 8 high.
+void NotenkopfMalen(Flaeche& flaeche, int x, int y, Colour farbe);
 
 /// Ledger lines from the staff to a note. @param oben, unten first ledger position above and below
 /// the staff, in steps of 4 pixels. @return 4 for each line drawn.
 int HilfslinienMalen(Flaeche& flaeche, int x, int y, int oben, int unten);
 
-// Accidentals at an anchor: left edge and top of the glyph.
-void BeMalen(Flaeche& flaeche, int x, int y);
-void DoppelBeMalen(Flaeche& flaeche, int x, int y);
-void KreuzMalen(Flaeche& flaeche, int x, int y);
-void DoppelKreuzMalen(Flaeche& flaeche, int x, int y);
-void AufloesungMalen(Flaeche& flaeche, int x, int y);
-
-/// The accidental -2..2 before a note head at (x, y); nothing for 0.
+/// The accidental -2..2 before a note head at (x, y): from double flat to double sharp, nothing for
+/// 0. It reaches at most 21 to the left of x.
 void VorzeichenMalen(Flaeche& flaeche, int x, int y, int vorzeichen);
 
 /// Treble clef, curled around y = 88; x from 12 to 30.

@@ -1,41 +1,10 @@
-// The clefs: curves through a few points, drawn as short strokes of changing width.
+// The clefs.
+#include "notation/kurve.h"
 #include "notation/noten.h"
-
-#include <array>
-#include <cstddef>
 
 namespace notation {
 
 namespace {
-
-struct Punkt {
-    double x, y, breite;
-};
-
-/// A smooth curve through all points (Catmull-Rom), its width running along.
-template <std::size_t n>
-void kurveMalen(Flaeche& flaeche, const std::array<Punkt, n>& punkte) {
-    constexpr int teile = 8;
-    const auto an = [&](std::ptrdiff_t i) -> const Punkt& {
-        return punkte[static_cast<std::size_t>(i < 0                    ? 0
-                                               : i >= std::ptrdiff_t{n} ? std::ptrdiff_t{n} - 1
-                                                                        : i)];
-    };
-    const auto mischen = [](double p0, double p1, double p2, double p3, double t) {
-        return 0.5 * (2 * p1 + (p2 - p0) * t + (2 * p0 - 5 * p1 + 4 * p2 - p3) * t * t +
-                      (3 * p1 - p0 - 3 * p2 + p3) * t * t * t);
-    };
-    Punkt vorher = punkte[0];
-    for (std::ptrdiff_t i = 0; i + 1 < std::ptrdiff_t{n}; ++i)
-        for (int teil = 1; teil <= teile; ++teil) {
-            const double t = static_cast<double>(teil) / teile;
-            const Punkt jetzt{mischen(an(i - 1).x, an(i).x, an(i + 1).x, an(i + 2).x, t),
-                              mischen(an(i - 1).y, an(i).y, an(i + 1).y, an(i + 2).y, t),
-                              an(i).breite + (an(i + 1).breite - an(i).breite) * t};
-            flaeche.linie(vorher.x, vorher.y, jetzt.x, jetzt.y, base::colours::black, jetzt.breite);
-            vorher = jetzt;
-        }
-}
 
 /// From the curl round the G line outward, up to the loop at the top, and down the stem to the
 /// foot.
@@ -52,7 +21,7 @@ constexpr std::array violinschluessel{
 }  // namespace
 
 void ViolinschluesselMalen(Flaeche& flaeche) {
-    kurveMalen(flaeche, violinschluessel);
+    kurveMalen(flaeche, 0, 0, violinschluessel);
     flaeche.scheibe(18.2, 105.2, 2.6, base::colours::black);
 }
 

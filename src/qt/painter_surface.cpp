@@ -4,8 +4,7 @@ namespace qt {
 
 void PainterSurface::linie(double x1, double y1, double x2, double y2, base::Colour farbe,
                            double breite) {
-    // A little overlap, or rows of strokes show stripes at odd scales.
-    painter_.setPen(QPen(colour(farbe), breite * 1.1, Qt::SolidLine, Qt::RoundCap));
+    painter_.setPen(QPen(colour(farbe), breite, Qt::SolidLine, Qt::RoundCap));
     if (x1 == x2 && y1 == y2)
         painter_.drawPoint(QPointF(x1, y1));
     else
