@@ -149,6 +149,7 @@ TEST(Windows, TheWholeRoadByKeyboard) {
     stage.press("arbeitsblatt1", Qt::Key_Space);
     stage.wait(13000);
     EXPECT_EQ(stage.widget<QLabel>("arbeitsblatt1", "whlgzaehler").text(), "1");
+    keepPicture(stage.window("arbeitsblatt1"), "worksheet");
     const int right = stage.drill.programm.zustand.skala_nr;
     stage.press("arbeitsblatt1", static_cast<Qt::Key>(Qt::Key_1 + right));
     EXPECT_EQ(stage.widget<QLabel>("arbeitsblatt1", "zaehler_0").text(), "1");
