@@ -67,6 +67,8 @@ TEST(Tones, OneFinalOrOneSignatureHoldsForTheWholeRun) {
             }
             EXPECT_EQ(finals.size() == 1, final == 1);
             EXPECT_EQ(signatures.size() == 1, final == 0);
+            EXPECT_EQ(final == 1 ? finals.begin()->first : signatures.begin()->first,
+                      final == 1 ? int(draw.a.finalis) : int(draw.a.transp));
         }
 }
 
