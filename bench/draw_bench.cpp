@@ -38,7 +38,7 @@ void drawAfter(benchmark::State& state) {
     Training training;
     for (int i = 0; i < state.range(0); ++i) training.task();
     const int bar = training.bar();
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         training.wahl.Ziehen(bar);
         benchmark::DoNotOptimize(training.z.skala_nr);
     }
@@ -48,7 +48,7 @@ BENCHMARK(drawAfter)->Name("draw/after_tasks")->Arg(0)->Arg(10)->Arg(1000)->Arg(
 /// Draw, weight and rebuilding of the pool.
 void drawAndWeigh(benchmark::State& state) {
     Training training;
-    for (auto _ : state) training.task();
+    for ([[maybe_unused]] const auto _ : state) training.task();
 }
 BENCHMARK(drawAndWeigh)->Name("draw/and_weigh");
 
@@ -56,7 +56,7 @@ BENCHMARK(drawAndWeigh)->Name("draw/and_weigh");
 void drawMelody(benchmark::State& state) {
     Training training;
     training.z.abfolge = 1;
-    for (auto _ : state) training.wahl.Ziehen(50);
+    for ([[maybe_unused]] const auto _ : state) training.wahl.Ziehen(50);
 }
 BENCHMARK(drawMelody)->Name("draw/melody");
 

@@ -10,7 +10,7 @@ void simulate(benchmark::State& state, const std::vector<const char*>& arguments
     const sim::Options options = sim::parseOptions(arguments);
     sim::Simulation simulation(options);
     std::int64_t tasks = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const sim::Outcome outcome = simulation.run();
         if (!outcome.fault.empty()) throw std::runtime_error(outcome.fault);
         tasks += outcome.tasks;
@@ -36,7 +36,7 @@ void saveRecord(benchmark::State& state) {
     const sim::Options options = sim::parseOptions(arguments);
     sim::Simulation simulation(options);
     results::Skalaxml& record = simulation.drill().wertung.xml;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         state.PauseTiming();
         record.SkalaXmlNeu();
         for (int i = 0; i < lessons; ++i) {

@@ -1,6 +1,7 @@
 // Starts a program and prints its process number and the milliseconds until it has mapped a window
 // and until something stands in it: `window_time PROGRAM [ARGUMENT...]`. The program goes on.
 #include <spawn.h>
+#include <unistd.h>
 #include <xcb/xcb.h>
 
 #include <algorithm>
@@ -10,8 +11,6 @@
 #include <memory>
 #include <stdexcept>
 #include <thread>
-
-extern char** environ;
 
 namespace {
 

@@ -23,6 +23,7 @@ constexpr std::array worksheets{
 // MIDI notes: the highest that a set-up form offers, and what no task may reach.
 constexpr int highest = 96;
 constexpr int beyond = 120;
+constexpr int mostChosen = decltype(Zustand::einzel_wahl)::size();
 constexpr std::array allFields{
     Field{"theoriewahl", &Zustand::theoriewahl, 0, 1},
     Field{"ueb_typ", &Zustand::ueb_typ, 1, 4},
@@ -48,9 +49,8 @@ void chooseScales(Zustand& z, const std::string& list) {
     int count = 0;
     for (std::size_t at = 0; at <= list.size();) {
         const std::size_t comma = std::min(list.find(',', at), list.size());
-        if (count == z.einzel_wahl.size())
-            throw UsageError("einzel_wahl: more than " + std::to_string(z.einzel_wahl.size()) +
-                             " scales");
+        if (count == mostChosen)
+            throw UsageError("einzel_wahl: more than " + std::to_string(mostChosen) + " scales");
         const auto code = wholeNumber("einzel_wahl", list.substr(at, comma - at),
                                       -core::katalog::maxSkalen, core::katalog::maxSkalen);
         z.einzel_wahl[count++] = code;
@@ -61,7 +61,8 @@ void chooseScales(Zustand& z, const std::string& list) {
 }
 
 void assign(Zustand& z, const Assignment& assignment) {
-    const auto& [name, value] = assignment;
+    const std::string& name = assignment.field;
+    const std::string& value = assignment.value;
     if (name == "einzel_wahl") return chooseScales(z, value);
     const auto field =
         std::ranges::find_if(allFields, [&](const Field& f) { return name == f.name; });
@@ -117,8 +118,8 @@ core::Zustand exerciseState(const Worksheet& sheet, const std::vector<Assignment
                          std::to_string(beyond));
     if (!given.contains("FrquMaxAkt"))
         z.FrquMaxAkt = std::min(int(z.FrquMinAkt + 12 * (z.oktAnz + 2)), highest);
-    for (int i = 0; i < z.tempo_dauer.size(); ++i)
-        z.tempo_dauer[i] = core::katalog::tempo_dauer[static_cast<std::size_t>(i)];
+    int i = 0;
+    for (const int duration : core::katalog::tempo_dauer) z.tempo_dauer[i++] = duration;
     return z;
 }
 

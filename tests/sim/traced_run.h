@@ -16,6 +16,7 @@ inline Options options(const std::string& line) {
     std::istringstream words(line);
     const std::vector<std::string> split{std::istream_iterator<std::string>(words), {}};
     std::vector<const char*> arguments;
+    arguments.reserve(split.size());
     for (const std::string& word : split) arguments.push_back(word.c_str());
     return parseOptions(arguments);
 }
