@@ -43,9 +43,14 @@ TEST(Leaving, InEveryWaitAndWhileItSoundsLeavesNoNote) {
             SCOPED_TRACE(std::string(way.button) + " " + std::to_string(after));
             DrillFixture drill;
             prepare(drill, way);
-            drill.later(after, [&] { drill.click("zurueck"); });
+            std::size_t starts = 0;
+            drill.later(after, [&] {
+                drill.click("zurueck");
+                starts = drill.midiOut.starts.size();
+            });
             drill.click(way.button);
             drill.wait(3000);
+            EXPECT_EQ(drill.midiOut.starts.size(), starts);
             expectQuietHome(drill);
         }
 }
