@@ -1,7 +1,7 @@
 #pragma once
+#include "ports/midi_ports.h"
 #include "synth/fluid_handle.h"
 #include "synth/fluid_queue.h"
-#include "ports/midi_ports.h"
 #include "synth/player.h"
 
 #include <array>
