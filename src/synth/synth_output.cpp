@@ -39,9 +39,9 @@ class SynthOutput : public sound::MidiOutput {
         if (ports_.empty() && id != mapper) deviceCount();
         player_ = &builtIn_;
         if (isPort(id) && connect(id)) player_ = port_.get();
+        if (problem() != before) raiseProblem();
         setVolume(maxVolume, maxVolume);
         player_->put({.kind = Command::Kind::Reset});
-        if (problem() != before) raiseProblem();
     }
 
     void close() override {
