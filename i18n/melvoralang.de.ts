@@ -179,7 +179,7 @@
 <message id="815s"><translation>Das Ergebnis konnte nicht nach %1 geschrieben werden. Schaffen Sie Speicherplatz oder wählen Sie einen anderen Ordner; das Ergebnis bleibt auf dem Bildschirm.</translation></message>
 <message id="816s"><translation>Hilfe</translation></message>
 <message id="817s"><translation>%1 von 15 gewählt</translation></message>
-<message id="818s"><translation>Training: %1 % des Wegs zum Ziel</translation></message>
+<message id="818s"><translation>Training: noch %1 Punkte bis zum Ziel, bei %2 ist es verfehlt</translation></message>
 <message id="819s"><translation>Ergebnisse: aufwärts</translation></message>
 <message id="820s"><translation>Einstellungen</translation></message>
 <message id="821s"><translation>Grunddaten</translation></message>
@@ -194,6 +194,17 @@
 <message id="830s"><translation>Einstellungen Speichern</translation></message>
 <message id="831s"><translation>Drucken fehlgeschlagen: %1</translation></message>
 <message id="832s"><translation>Wiederholungen</translation></message>
+<message id="833s"><translation>Schwächste zuerst</translation></message>
+<message id="834s"><translation>Die Einstellungen konnten nicht nach %1 geschrieben werden. Wählen Sie einen anderen Ordner; eine ältere Datei ist unverändert.</translation></message>
+<message id="835s"><translation>%1 ist keine lesbare Einstellungsdatei.</translation></message>
+<message id="836s"><translation>Speichereinstellungen</translation></message>
+<message id="837s"><translation>Speichern unter:</translation></message>
+<message id="838s"><translation>Beschreibung:</translation></message>
+<message id="839s"><translation>Einstellungen laden</translation></message>
+<message id="840s"><translation>File laden::</translation></message>
+<message id="841s"><translation>Einstellungen speichern unter</translation></message>
+<message id="842s"><translation>Melvora Settings</translation></message>
+<message id="843s"><translation>Prüfung</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Ergebnisse</translation></message>
 <message id="902s"><translation>Protokoll</translation></message>
@@ -257,5 +268,15 @@
 <message id="960s"><translation>Alle Arten</translation></message>
 <message id="961s"><translation>Noch keine Benutzer. Mit „Neu“ legen Sie den ersten an.</translation></message>
 <message id="962s"><translation>Text suchen</translation></message>
+<message id="963s"><translation>Gespeicherte Trainings: %1</translation></message>
+<message id="964s"><translation>Gespeichert am</translation></message>
+<message id="965s"><translation>&amp;Training löschen …</translation></message>
+<message id="966s"><translation>Keine gespeicherten Trainings</translation></message>
+<message id="967s"><translation>Das gespeicherte Training „%1“ löschen (Benutzer: %2)? Es kann dann nicht mehr fortgesetzt werden.</translation></message>
+<message id="968s"><translation>Solange ein Übungsprogramm läuft, kann kein Training gelöscht werden.</translation></message>
+<message id="969s"><translation>ohne Anmeldung</translation></message>
+<message id="970s"><translation>Diese Datei mit Einstellungen ist nicht lesbar: %1</translation></message>
+<message id="971s"><translation>Das Übungsprogramm „%1“ läuft gerade. Verlassen Sie es zuerst, dann lässt sich diese Datei öffnen: %2</translation></message>
+<message id="972s"><translation>%1: %2</translation></message>
 </context>
 </TS>

@@ -179,7 +179,7 @@
 <message id="815s"><translation>The result record could not be written to %1. Free some space or choose another folder; the result stays on screen.</translation></message>
 <message id="816s"><translation>Help</translation></message>
 <message id="817s"><translation>%1 of 15 chosen</translation></message>
-<message id="818s"><translation>Training: %1 % of the way to the goal</translation></message>
+<message id="818s"><translation>Training: %1 points to the goal; at %2 it is missed</translation></message>
 <message id="819s"><translation>Results: ascending</translation></message>
 <message id="820s"><translation>Settings</translation></message>
 <message id="821s"><translation>Basic data</translation></message>
@@ -194,6 +194,17 @@
 <message id="830s"><translation>Save settings</translation></message>
 <message id="831s"><translation>Printing failed: %1</translation></message>
 <message id="832s"><translation>Repeats</translation></message>
+<message id="833s"><translation>Weakest first</translation></message>
+<message id="834s"><translation>The settings could not be written to %1. Choose another folder; an older file is unchanged.</translation></message>
+<message id="835s"><translation>%1 is not a readable settings file.</translation></message>
+<message id="836s"><translation>Save settings</translation></message>
+<message id="837s"><translation>Save as:</translation></message>
+<message id="838s"><translation>Description:</translation></message>
+<message id="839s"><translation>Load settings</translation></message>
+<message id="840s"><translation>Load file::</translation></message>
+<message id="841s"><translation>Save settings as</translation></message>
+<message id="842s"><translation>Melvora Settings</translation></message>
+<message id="843s"><translation>Exam</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Results</translation></message>
 <message id="902s"><translation>Log</translation></message>
@@ -257,5 +268,15 @@
 <message id="960s"><translation>All kinds</translation></message>
 <message id="961s"><translation>No users yet. Create the first one with “New”.</translation></message>
 <message id="962s"><translation>Search text</translation></message>
+<message id="963s"><translation>Saved trainings: %1</translation></message>
+<message id="964s"><translation>Saved on</translation></message>
+<message id="965s"><translation>Delete &amp;training…</translation></message>
+<message id="966s"><translation>No saved trainings</translation></message>
+<message id="967s"><translation>Delete the saved training “%1” (user: %2)? It can then no longer be continued.</translation></message>
+<message id="968s"><translation>No training can be deleted while an exercise program is running.</translation></message>
+<message id="969s"><translation>without logging in</translation></message>
+<message id="970s"><translation>This file of settings cannot be read: %1</translation></message>
+<message id="971s"><translation>The program “%1” is running. Leave it first, then this file can be opened: %2</translation></message>
+<message id="972s"><translation>%1: %2</translation></message>
 </context>
 </TS>

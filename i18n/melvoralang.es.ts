@@ -179,7 +179,7 @@
 <message id="815s"><translation>El resultado no se ha podido escribir en %1. Libere espacio o elija otra carpeta; el resultado sigue en pantalla.</translation></message>
 <message id="816s"><translation>Ayuda</translation></message>
 <message id="817s"><translation>%1 de 15 elegidas</translation></message>
-<message id="818s"><translation>Entrenamiento: %1 % del camino a la meta</translation></message>
+<message id="818s"><translation>Entrenamiento: faltan %1 puntos para la meta; con %2 queda fallado</translation></message>
 <message id="819s"><translation>Resultados: ascendente</translation></message>
 <message id="820s"><translation>Ajustes</translation></message>
 <message id="821s"><translation>Datos básicos</translation></message>
@@ -194,6 +194,17 @@
 <message id="830s"><translation>Guardar ajustes</translation></message>
 <message id="831s"><translation>Error al imprimir: %1</translation></message>
 <message id="832s"><translation>Repeticiones</translation></message>
+<message id="833s"><translation>Primero las más débiles</translation></message>
+<message id="834s"><translation>No se pudieron escribir los ajustes en %1. Elija otra carpeta; el archivo anterior no ha cambiado.</translation></message>
+<message id="835s"><translation>%1 no es un archivo de ajustes legible.</translation></message>
+<message id="836s"><translation>Guardar ajustes</translation></message>
+<message id="837s"><translation>Guardar como:</translation></message>
+<message id="838s"><translation>Descripción:</translation></message>
+<message id="839s"><translation>Cargar ajustes</translation></message>
+<message id="840s"><translation>Cargar archivo::</translation></message>
+<message id="841s"><translation>Guardar ajustes como</translation></message>
+<message id="842s"><translation>Melvora Settings</translation></message>
+<message id="843s"><translation>Examen</translation></message>
 <message id="900s"><translation>Inicio</translation></message>
 <message id="901s"><translation>Resultados</translation></message>
 <message id="902s"><translation>Registro</translation></message>
@@ -257,5 +268,15 @@
 <message id="960s"><translation>Todos los tipos</translation></message>
 <message id="961s"><translation>Aún no hay usuarios. Cree el primero con «Nuevo».</translation></message>
 <message id="962s"><translation>Buscar texto</translation></message>
+<message id="963s"><translation>Entrenamientos guardados: %1</translation></message>
+<message id="964s"><translation>Guardado el</translation></message>
+<message id="965s"><translation>Elimina&amp;r entrenamiento…</translation></message>
+<message id="966s"><translation>No hay entrenamientos guardados</translation></message>
+<message id="967s"><translation>¿Eliminar el entrenamiento guardado «%1» (usuario: %2)? Ya no se podrá continuar.</translation></message>
+<message id="968s"><translation>No se puede eliminar ningún entrenamiento mientras un programa de ejercicios esté en marcha.</translation></message>
+<message id="969s"><translation>sin iniciar sesión</translation></message>
+<message id="970s"><translation>Este archivo de ajustes no se puede leer: %1</translation></message>
+<message id="971s"><translation>El programa «%1» está en marcha. Salga primero de él; después podrá abrir este archivo: %2</translation></message>
+<message id="972s"><translation>%1: %2</translation></message>
 </context>
 </TS>

@@ -179,7 +179,7 @@
 <message id="815s"><translation>Le résultat n’a pas pu être écrit dans %1. Libérez de l’espace ou choisissez un autre dossier ; le résultat reste à l’écran.</translation></message>
 <message id="816s"><translation>Aide</translation></message>
 <message id="817s"><translation>%1 sur 15 choisies</translation></message>
-<message id="818s"><translation>Entraînement : %1 % du chemin vers le but</translation></message>
+<message id="818s"><translation>Entraînement : encore %1 points jusqu’au but ; à %2, il est manqué</translation></message>
 <message id="819s"><translation>Résultats : ascendant</translation></message>
 <message id="820s"><translation>Réglages</translation></message>
 <message id="821s"><translation>Données de base</translation></message>
@@ -194,6 +194,17 @@
 <message id="830s"><translation>Enregistrer les réglages</translation></message>
 <message id="831s"><translation>Échec de l’impression : %1</translation></message>
 <message id="832s"><translation>Répétitions</translation></message>
+<message id="833s"><translation>Les plus faibles d’abord</translation></message>
+<message id="834s"><translation>Les réglages n’ont pas pu être écrits dans %1. Choisissez un autre dossier ; un fichier plus ancien reste inchangé.</translation></message>
+<message id="835s"><translation>%1 n’est pas un fichier de réglages lisible.</translation></message>
+<message id="836s"><translation>Enregistrer les réglages</translation></message>
+<message id="837s"><translation>Enregistrer sous :</translation></message>
+<message id="838s"><translation>Description :</translation></message>
+<message id="839s"><translation>Charger des réglages</translation></message>
+<message id="840s"><translation>Charger le fichier ::</translation></message>
+<message id="841s"><translation>Enregistrer les réglages sous</translation></message>
+<message id="842s"><translation>Melvora Settings</translation></message>
+<message id="843s"><translation>Examen</translation></message>
 <message id="900s"><translation>Accueil</translation></message>
 <message id="901s"><translation>Résultats</translation></message>
 <message id="902s"><translation>Journal</translation></message>
@@ -257,5 +268,15 @@
 <message id="960s"><translation>Tous les types</translation></message>
 <message id="961s"><translation>Pas encore d’utilisateurs. Créez le premier avec « Nouveau ».</translation></message>
 <message id="962s"><translation>Rechercher un texte</translation></message>
+<message id="963s"><translation>Entraînements enregistrés : %1</translation></message>
+<message id="964s"><translation>Enregistré le</translation></message>
+<message id="965s"><translation>Supprimer l’&amp;entraînement…</translation></message>
+<message id="966s"><translation>Aucun entraînement enregistré</translation></message>
+<message id="967s"><translation>Supprimer l’entraînement enregistré « %1 » (utilisateur : %2) ? Il ne pourra plus être repris.</translation></message>
+<message id="968s"><translation>Aucun entraînement ne peut être supprimé tant qu’un programme d’exercice est en cours.</translation></message>
+<message id="969s"><translation>sans connexion</translation></message>
+<message id="970s"><translation>Ce fichier de réglages est illisible : %1</translation></message>
+<message id="971s"><translation>Le programme « %1 » est en cours. Quittez-le d’abord ; ce fichier pourra ensuite être ouvert : %2</translation></message>
+<message id="972s"><translation>%1 : %2</translation></message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QSqlError>
+#include <QSqlRecord>
 #include <QUuid>
 
 namespace melvora {
@@ -13,7 +14,7 @@ constexpr const char* tables[] = {
     "CREATE TABLE IF NOT EXISTS users (user_key TEXT PRIMARY KEY, surname TEXT NOT NULL,"
     " first_name TEXT NOT NULL, matriculation TEXT NOT NULL)",
     "CREATE TABLE IF NOT EXISTS records (user_key TEXT NOT NULL, executable TEXT NOT NULL,"
-    " record_key TEXT NOT NULL, content TEXT NOT NULL,"
+    " record_key TEXT NOT NULL, content TEXT NOT NULL, stored_at TEXT NOT NULL DEFAULT '',"
     " PRIMARY KEY (user_key, executable, record_key))",
     "CREATE TABLE IF NOT EXISTS log (id INTEGER PRIMARY KEY, logged_at TEXT NOT NULL,"
     " user_key TEXT NOT NULL, kind TEXT NOT NULL, content TEXT NOT NULL)",
@@ -21,6 +22,17 @@ constexpr const char* tables[] = {
     " user_key TEXT NOT NULL, exercise TEXT NOT NULL, right_first INTEGER NOT NULL,"
     " answered INTEGER NOT NULL, file_name TEXT NOT NULL, digest TEXT NOT NULL,"
     " content TEXT NOT NULL, UNIQUE (file_name, digest))",
+};
+
+struct Column {
+    const char* table;
+    const char* name;
+    const char* type;
+};
+
+/// What tables made by older versions lack.
+constexpr Column addedColumns[] = {
+    {"records", "stored_at", "TEXT NOT NULL DEFAULT ''"},
 };
 
 /// A null text means an empty one here; the database would take it for NULL.
@@ -65,10 +77,16 @@ void Database::open() {
 }
 
 void Database::makeTables() {
-    for (const char* table : tables) {
-        QSqlQuery query(QSqlDatabase::database(name_));
-        if (!query.exec(table)) fail(query.lastError().databaseText());
-    }
+    const QSqlDatabase database = QSqlDatabase::database(name_);
+    const auto execute = [&](const QString& sql) {
+        QSqlQuery query(database);
+        if (!query.exec(sql)) fail(query.lastError().databaseText());
+    };
+    for (const char* table : tables) execute(table);
+    for (const Column& column : addedColumns)
+        if (!database.record(column.table).contains(column.name))
+            execute(QString("ALTER TABLE %1 ADD COLUMN %2 %3")
+                        .arg(column.table, column.name, column.type));
 }
 
 int Database::run(const QString& sql, const QVariantList& values, const Row& row) {

@@ -23,7 +23,7 @@ class Database {
     using Row = std::function<void(const QSqlQuery&)>;
 
     /// Opens the SQLite file in `folder`, makes both when they are missing, and the tables with
-    /// them.
+    /// them. Tables of an older version get the columns that they lack.
     /// @throws StoreError
     explicit Database(const QString& folder);
     ~Database();

@@ -1,6 +1,7 @@
 #include "melvora/host.h"
 
 #include "melvora/midi_ports.h"
+#include "melvora/settings_file.h"
 
 #include <QDir>
 
@@ -78,15 +79,40 @@ int Host::midiNumber() const {
     return midiDevice_.isEmpty() ? builtInSynthesiser : deviceNumber(midiDevice_, midiPorts());
 }
 
-void Host::startModule(const QString& module) {
+bool Host::startModule(const QString& module, const QString& settingsFile) {
+    QStringList arguments = place_.moduleArguments;
+    if (!settingsFile.isEmpty()) {
+        if (const QString cause = whyUnreadable(settingsFile); !cause.isEmpty()) {
+            emit noticed(words_.wort(970).arg(cause));
+            return false;
+        }
+        arguments << "--settings" << settingsFile;
+    }
+    if (module_.runs()) {
+        if (!settingsFile.isEmpty())
+            emit noticed(words_.wort(971).arg(module_.name(), settingsFile));
+        return true;
+    }
     handedOver_ = false;
-    module_.start(module, place_.moduleArguments, {place_.address, collector_.folder()});
+    module_.start(module, arguments, {place_.address, collector_.folder()});
+    return true;
 }
 
 void Host::takeOver() {
     handedOver_ = true;
     collect();
     emit menuWanted();
+}
+
+void Host::removeTraining(const Training& training) {
+    if (module_.runs()) {
+        emit noticed(words_.wort(968));
+        return;
+    }
+    guarded([&] {
+        store_.trainings.remove(training);
+        emit recordsChanged();
+    });
 }
 
 void Host::onModuleEnded(int status) {

@@ -47,10 +47,15 @@ class Host : public QObject {
     /// Its number now; the built-in synthesiser's when the port is not there.
     int midiNumber() const;
 
-    void startModule(const QString& module);
+    /// Starts the module, with an absolute path of a file of settings when one is given. While one
+    /// runs, it stays the only one, and a file is answered by a notice.
+    /// @return false, after telling, when the file cannot be read.
+    bool startModule(const QString& module, const QString& settingsFile = {});
     const ModuleProcess& module() const { return module_; }
     /// The module hands over: results are taken in, the menu is wanted.
     void takeOver();
+    /// Refused, with a notice, while a module runs: it may be continuing that training.
+    void removeTraining(const Training& training);
     /// Takes result records from the spool folder into the store.
     void collect();
 
@@ -63,6 +68,7 @@ class Host : public QObject {
     void usersChanged();  ///< the list, or who is logged in
     void languageChanged();
     void midiDeviceChanged();
+    void recordsChanged();  ///< a module has stored one, or a training was deleted
     void resultsChanged();
     void logChanged();
     void moduleStarted();

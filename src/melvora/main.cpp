@@ -3,6 +3,7 @@
 #include "melvora/main_window.h"
 #include "melvora/options.h"
 #include "melvora/server.h"
+#include "melvora/settings_file.h"
 #include "melvora/socket_lock.h"
 
 #include <QApplication>
@@ -11,7 +12,11 @@
 #include <QThread>
 #include <QTimer>
 
+#include <unistd.h>
+
+#include <algorithm>
 #include <cstdio>
+#include <stdexcept>
 
 namespace {
 
@@ -24,15 +29,23 @@ QString dataFolder(const Options& options) {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/melvora";
 }
 
+/// The file of settings cannot be read; the text names its path.
+class UnreadableFile : public UsageError {
+  public:
+    using UsageError::UsageError;
+};
+
 /// Asks the host that runs already to come forward. It may still be starting: five seconds for
 /// that.
 int raiseOther(const std::string& address, const Options& options) {
-    const std::string module = options.module.value_or(QString()).toStdString();
+    core::Value wish = options.module.value_or(QString()).toStdString();
+    if (options.settingsFile) wish = core::Value::Array{wish, options.settingsFile->toStdString()};
     for (int attempt = 0;; ++attempt) {
         try {
             hostlink::DbusHost other(address);
             core::Value result;
-            other.request("RAISE", module, result);
+            if (!other.request("RAISE", wish, result))
+                throw std::runtime_error("the melvora that runs refused; its log says why");
             break;
         } catch (const core::HostGone&) {
             if (attempt == 50) throw;
@@ -40,8 +53,10 @@ int raiseOther(const std::string& address, const Options& options) {
         }
     }
     if (options.user || options.language || options.data || options.teacher)
-        std::fputs("melvora: already running; its window was raised, only --start is handed on\n",
-                   stderr);
+        std::fputs(
+            "melvora: already running; its window was raised, only --start and a settings file "
+            "are handed on\n",
+            stderr);
     return 0;
 }
 
@@ -63,9 +78,8 @@ int serve(const std::string& socket, const Options& options) {
     Requests requests(host);
     Server server(socket, requests);
     MainWindow window(host);
-    if (options.module)
-        host.startModule(*options.module);
-    else
+    if (!options.module ||
+        !host.startModule(*options.module, options.settingsFile.value_or(QString())))
         window.show();
     QTimer::singleShot(0, &host, [&host] {
         host.guarded([&host] { host.store().log.prune(); });
@@ -75,6 +89,9 @@ int serve(const std::string& socket, const Options& options) {
 }
 
 int run(const Options& options) {
+    if (options.settingsFile)
+        if (const QString cause = whyUnreadable(*options.settingsFile); !cause.isEmpty())
+            throw UnreadableFile(cause.toStdString());
     const std::string address = hostlink::hostAddress();
     const auto socket = hostlink::socketPath(address);
     if (!socket) throw UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
@@ -82,8 +99,15 @@ int run(const Options& options) {
     return lock.held() ? serve(*socket, options) : raiseOther(address, options);
 }
 
-/// A user who clicked on an icon sees no standard error.
-bool hasScreen() { return QApplication::platformName() != "offscreen"; }
+/// Started by a click on the icon or on a file: nobody sees the standard error.
+bool startedFromDesktop(int argc, char** argv) {
+    const bool likeIt = argc == 1 || (argc == 2 && argv[1][0] != '-');
+    const int streams[] = {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO};
+    return likeIt && QApplication::platformName() != "offscreen" &&
+           std::ranges::none_of(streams, [](int stream) { return isatty(stream) != 0; });
+}
+
+void showBox(const QString& text) { QMessageBox::critical(nullptr, "Melvora", text); }
 
 /// True when --help or --version was given; both need no screen.
 bool answersAtOnce(int argc, char** argv) {
@@ -109,14 +133,15 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setQuitOnLastWindowClosed(false);
     look::apply(application);
-    Options options;
     try {
-        options = parseOptions(QApplication::arguments());
-        return run(options);
+        return run(parseOptions(QApplication::arguments()));
+    } catch (const UnreadableFile& error) {
+        std::fprintf(stderr, "melvora: the settings file cannot be read: %s\n", error.what());
+        if (startedFromDesktop(argc, argv))
+            showBox(Words(Words::installedFolder()).wort(970).arg(QString::fromUtf8(error.what())));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "melvora: %s\n", error.what());
-        if (argc == 1 && hasScreen())
-            QMessageBox::critical(nullptr, "Melvora", QString::fromUtf8(error.what()));
-        return failure;
+        if (startedFromDesktop(argc, argv)) showBox(QString::fromUtf8(error.what()));
     }
+    return failure;
 }

@@ -1,12 +1,28 @@
 #include "melvora/options.h"
 
 #include "melvora/module_process.h"
+#include "melvora/settings_file.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace melvora {
 
-bool Options::plain() const { return !teacher && !module && !user && !language && !data; }
+namespace {
+
+void takeSettingsFile(const QStringList& files, Options& options) {
+    if (files.isEmpty()) return;
+    if (files.size() > 1)
+        throw UsageError("only one settings file can be opened: " + files.join(", ").toStdString());
+    if (files.first().isEmpty()) throw UsageError("the settings file's name is empty");
+    if (options.module.value_or(settingsModule) != settingsModule)
+        throw UsageError("--start " + options.module->toStdString() + ": a settings file is for " +
+                         settingsModule);
+    options.settingsFile = QFileInfo(files.first()).absoluteFilePath();
+    options.module = settingsModule;
+}
+
+}  // namespace
 
 Options parseOptions(const QStringList& arguments) {
     QCommandLineParser parser;
@@ -18,14 +34,13 @@ Options parseOptions(const QStringList& arguments) {
                        {"data", "", "folder"},
                        {"teacher", ""}});
     if (!parser.parse(arguments)) throw UsageError(parser.errorText().toStdString());
-    if (!parser.positionalArguments().isEmpty())
-        throw UsageError("unknown argument: " + parser.positionalArguments().first().toStdString());
     const auto value = [&](const QString& name) {
         return parser.isSet(name) ? std::optional(parser.value(name)) : std::nullopt;
     };
-    Options options{parser.isSet("help"), parser.isSet("version"), parser.isSet("teacher"),
-                    value("start"),       value("user"),           value("language"),
-                    value("data")};
+    Options options{
+        parser.isSet("help"), parser.isSet("version"), parser.isSet("teacher"), value("start"),
+        value("user"),        value("language"),       value("data"),           {}};
+    takeSettingsFile(parser.positionalArguments(), options);
     if (options.module && !ModuleProcess::known().contains(*options.module))
         throw UsageError("--start: unknown module " + options.module->toStdString() +
                          "; known: " + ModuleProcess::known().join(", ").toStdString());
@@ -36,8 +51,9 @@ Options parseOptions(const QStringList& arguments) {
 QString helpText() {
     return R"(melvora - the suite's host: users, language, MIDI device, results, log
 
-usage: melvora [options]
+usage: melvora [options] [FILE.mvs]
 
+  FILE.mvs           start zepha9 with the settings in the file
   --start MODULE     start a module at once (zepha9: scales)
   --user KEY         log the user in ("unbekannt" logs out)
   --language NAME    choose the language by its own name, for example Deutsch
@@ -46,14 +62,16 @@ usage: melvora [options]
   -h, --help         show this text
   -v, --version      show the version
 
-Only one host runs per user. A second one raises the first one's window, hands its --start on and ends.
+Only one host runs per user. A second one raises the first one's window, hands its --start and its
+FILE.mvs on and ends.
 
 environment:
   MELVORA_HOST_ADDRESS   D-Bus address, unix:path=SOCKET
   MELVORA_MODULE_PATH    folder of the modules
   MELVORA_I18N           folder of the language files
 
-exit status: 0, or 2 when the command line, the data folder or the socket cannot be used
+exit status: 0, or 2 when the command line, the file, the data folder or the socket cannot be
+used
 )";
 }
 

@@ -16,9 +16,8 @@ struct Options {
     std::optional<QString> user;
     std::optional<QString> language;
     std::optional<QString> data;
-
-    /// Nothing but the program's name was given.
-    bool plain() const;
+    /// Absolute path of a file of settings; the module it is for stands in `module` then.
+    std::optional<QString> settingsFile;
 };
 
 /// A command line that cannot be carried out.
@@ -27,6 +26,7 @@ class UsageError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// Does not look whether the file of settings is there.
 /// @param arguments with the program's name first
 /// @throws UsageError
 Options parseOptions(const QStringList& arguments);

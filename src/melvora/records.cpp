@@ -2,6 +2,8 @@
 
 #include "melvora/json_text.h"
 
+#include <QDateTime>
+
 namespace melvora {
 
 std::optional<core::Value> Records::read(const Address& address) const {
@@ -15,9 +17,11 @@ std::optional<core::Value> Records::read(const Address& address) const {
 
 void Records::store(const Address& address, const core::Value& value) {
     database_.run(
-        "INSERT INTO records (user_key, executable, record_key, content) VALUES (?, ?, ?, ?)"
-        " ON CONFLICT (user_key, executable, record_key) DO UPDATE SET content = excluded.content",
-        {address.user, address.executable, address.key, toJson(value)});
+        "INSERT INTO records (user_key, executable, record_key, content, stored_at)"
+        " VALUES (?, ?, ?, ?, ?) ON CONFLICT (user_key, executable, record_key)"
+        " DO UPDATE SET content = excluded.content, stored_at = excluded.stored_at",
+        {address.user, address.executable, address.key, toJson(value),
+         QDateTime::currentDateTimeUtc().toString(Qt::ISODate)});
 }
 
 }  // namespace melvora

@@ -22,7 +22,7 @@ class Records {
 
     /// Nothing when there is no such record.
     std::optional<core::Value> read(const Address& address) const;
-    /// Replaces the record of the same address.
+    /// Replaces the record of the same address, and notes when.
     void store(const Address& address, const core::Value& value);
 
   private:

@@ -2,6 +2,8 @@
 
 #include "hostlink/variant.h"
 
+#include <QDir>
+
 #include <algorithm>
 
 namespace melvora {
@@ -93,6 +95,7 @@ void Requests::store(const core::Value& argument, core::Value&) {
     if (const auto size = hostlink::byteSize(argument); size > largestRecord)
         throw Refusal{QString("the record is too big: %1 bytes").arg(size)};
     host_.store().records.store(address, record);
+    emit host_.recordsChanged();
 }
 
 void Requests::logMessage(const core::Value& argument, core::Value&) {
@@ -110,11 +113,15 @@ void Requests::logError(const core::Value& argument, core::Value&) {
 void Requests::menue(const core::Value&, core::Value&) { host_.takeOver(); }
 
 void Requests::raise(const core::Value& argument, core::Value&) {
-    const QString module = qt(argument.text());
-    if (!module.isEmpty() && !ModuleProcess::known().contains(module))
+    const QString module = qt(argument.isArray() ? argument.at(0).text() : argument.text());
+    const QString file = qt(argument.at(1).text());
+    if (!(module.isEmpty() && file.isEmpty()) && !ModuleProcess::known().contains(module))
         throw Refusal{"no such module"};
+    if (!file.isEmpty() && !QDir::isAbsolutePath(file))
+        throw Refusal{"the file's path must be absolute"};
     emit host_.raiseWanted();
-    if (!module.isEmpty()) host_.startModule(module);
+    if (!module.isEmpty() && !host_.startModule(module, file))
+        throw Refusal{"the file cannot be read"};
 }
 
 }  // namespace melvora

@@ -9,19 +9,22 @@
 
 namespace melvora {
 
+// clang-format off
 /// Answers the modules' requests.
 ///
-/// | key     | argument                                  | result |
-/// |---------|-------------------------------------------|---------------------------------------------|
-/// | APP     |                                           | ("melvora.exe", started executable or
-/// "")   | | MIDI    |                                           | device number as text | | LANG
-/// |                                           | name of the language                        | |
-/// LOGIN   |                                           | (key, name, first name, matriculation) |
-/// | READ    | (executable, key)                         | the record, ("", "NIL") when there is
-/// none  | | STORE   | (executable, key, record)                 | | | LOGMESS | text | | | LOGERR
-/// | (procedure, number, description, source)  |                                             | |
-/// MENUE   |                                           | shows the menu | | RAISE   | name of a
-/// module to start, or nothing     | raises the window: a second host sends it   |
+/// | key     | argument                                 | result |
+/// |---------|------------------------------------------|--------|
+/// | APP     |                                          | ("melvora.exe", started executable or "") |
+/// | MIDI    |                                          | device number as text |
+/// | LANG    |                                          | name of the language |
+/// | LOGIN   |                                          | (key, name, first name, matriculation) |
+/// | READ    | (executable, key)                        | the record, ("", "NIL") when there is none |
+/// | STORE   | (executable, key, record)                | |
+/// | LOGMESS | text                                     | |
+/// | LOGERR  | (procedure, number, description, source) | |
+/// | MENUE   |                                          | shows the menu |
+/// | RAISE   | nothing, a module to start, or (module, absolute path of its file of settings) | raises the window: a second host sends it |
+// clang-format on
 class Requests {
   public:
     /// Most bytes of one record.

@@ -4,6 +4,7 @@
 #include "melvora/records.h"
 #include "melvora/results.h"
 #include "melvora/settings.h"
+#include "melvora/trainings.h"
 #include "melvora/users.h"
 
 #include <QString>
@@ -20,6 +21,7 @@ class Store {
     Settings settings{database};
     Users users{database};
     Records records{database};
+    Trainings trainings{database};
     Log log{database};
     Results results{database};
 };

@@ -1,6 +1,9 @@
 #include "melvora/text_table.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QHeaderView>
+#include <QShortcut>
 
 namespace melvora {
 
@@ -56,12 +59,17 @@ TextTable::TextTable(QWidget* parent)
     view_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     view_->horizontalHeader()->setStretchLastSection(true);
     view_->horizontalHeader()->setHighlightSections(false);
+    view_->installEventFilter(this);
+    showFocus(false);
     stack_->addWidget(empty_);
     stack_->addWidget(view_);
     connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { emit chosen(row()); });
     connect(view_, &QTableView::activated, this,
             [this](const QModelIndex& index) { emit opened(index.row()); });
+    auto* deletion = new QShortcut(QKeySequence::Delete, view_);
+    deletion->setContext(Qt::WidgetShortcut);
+    connect(deletion, &QShortcut::activated, this, &TextTable::deletionWanted);
 }
 
 void TextTable::setRows(const QList<QStringList>& rows) {
@@ -70,7 +78,7 @@ void TextTable::setRows(const QList<QStringList>& rows) {
     stack_->setCurrentWidget(rows.isEmpty() ? static_cast<QWidget*>(empty_) : view_);
     view_->resizeColumnsToContents();
     auto* header = view_->horizontalHeader();
-    for (int column = 0; column < header->count(); ++column)
+    for (int column = 0; column < header->count() - 1; ++column)
         header->resizeSection(column, header->sectionSize(column) + fontMetrics().height());
     chooseRow(before);
 }
@@ -78,6 +86,28 @@ void TextTable::setRows(const QList<QStringList>& rows) {
 int TextTable::row() const {
     const auto rows = view_->selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+bool TextTable::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) showFocus(true);
+    if (event->type() == QEvent::FocusOut) showFocus(false);
+    return QWidget::eventFilter(watched, event);
+}
+
+void TextTable::showFocus(bool focused) {
+    QPalette palette = QApplication::palette(view_);
+    if (!focused) {
+        QColor pale = palette.color(QPalette::Highlight);
+        pale.setHslF(pale.hslHueF(), pale.hslSaturationF() * 0.5F, 0.85F);
+        palette.setColor(QPalette::Highlight, pale);
+        palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+    }
+    view_->setPalette(palette);
+}
+
+void TextTable::setHeightInRows(int rows) {
+    setFixedHeight(view_->horizontalHeader()->sizeHint().height() +
+                   rows * view_->verticalHeader()->defaultSectionSize() + 2 * view_->frameWidth());
 }
 
 void TextTable::chooseRow(int row) {

@@ -36,13 +36,23 @@ class TextTable final : public QWidget {
     /// Number of the chosen row, -1 when there is none.
     int row() const;
     void chooseRow(int row);
+    /// Makes it as high as that many rows and the headings, which must be set.
+    void setHeightInRows(int rows);
     QTableView* view() const { return view_; }
 
   signals:
     void chosen(int row);
     void opened(int row);
+    /// The Delete key was pressed.
+    void deletionWanted();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    /// The chosen row is pale while the keyboard is elsewhere.
+    void showFocus(bool focused);
+
     TextModel* model_;
     QTableView* view_;
     QLabel* empty_;

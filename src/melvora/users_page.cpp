@@ -1,9 +1,11 @@
 #include "melvora/users_page.h"
 
+#include "melvora/confirm.h"
 #include "melvora/user_dialog.h"
 
 #include <QHBoxLayout>
-#include <QMessageBox>
+
+#include <algorithm>
 
 namespace melvora {
 
@@ -15,26 +17,43 @@ UsersPage::UsersPage(Host& host, QWidget* parent)
       edit_(new QPushButton(this)),
       remove_(new QPushButton(this)),
       logIn_(new QPushButton(this)),
-      logOut_(new QPushButton(this)) {
+      logOut_(new QPushButton(this)),
+      trainings_(new TrainingsPanel(host, this)) {
     auto* buttons = new QVBoxLayout;
     for (QPushButton* button : {add_, edit_, remove_}) buttons->addWidget(button);
     buttons->addSpacing(16);
     for (QPushButton* button : {logIn_, logOut_}) buttons->addWidget(button);
     buttons->addStretch();
-    auto* layout = new QHBoxLayout(this);
+    auto* users = new QHBoxLayout;
+    users->setSpacing(12);
+    users->addWidget(table_, 1);
+    users->addLayout(buttons);
+    auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
-    layout->setSpacing(12);
-    layout->addWidget(table_, 1);
-    layout->addLayout(buttons);
+    layout->setSpacing(16);
+    layout->addLayout(users, 1);
+    layout->addWidget(trainings_);
     connect(add_, &QPushButton::clicked, this, &UsersPage::add);
     connect(edit_, &QPushButton::clicked, this, &UsersPage::edit);
     connect(remove_, &QPushButton::clicked, this, &UsersPage::remove);
     connect(logIn_, &QPushButton::clicked, this, &UsersPage::logIn);
     connect(logOut_, &QPushButton::clicked, this, [this] { host_.logIn({}); });
-    connect(table_, &TextTable::chosen, this, &UsersPage::showButtons);
+    connect(table_, &TextTable::chosen, this, &UsersPage::showChosen);
     connect(table_, &TextTable::opened, this, &UsersPage::logIn);
+    connect(table_, &TextTable::deletionWanted, this, &UsersPage::remove);
     connect(&host_, &Host::usersChanged, this, &UsersPage::showUsers);
+    // A module that stores is answered first.
+    later_.setSingleShot(true);
+    connect(&later_, &QTimer::timeout, this, &UsersPage::showUsers);
+    connect(&host_, &Host::recordsChanged, this, [this] {
+        if (isVisible()) later_.start(0);
+    });
     retranslate();
+}
+
+void UsersPage::showEvent(QShowEvent* event) {
+    Page::showEvent(event);
+    showUsers();
 }
 
 void UsersPage::retranslate() {
@@ -47,32 +66,54 @@ void UsersPage::retranslate() {
     remove_->setText(words.wort(917));
     logIn_->setText(words.wort(913));
     logOut_->setText(words.wort(914));
+    trainings_->retranslate();
+    QPushButton* const column[] = {add_, edit_, remove_, logIn_, logOut_, trainings_->button()};
+    int width = 0;
+    for (const QPushButton* button : column) width = std::max(width, button->sizeHint().width());
+    for (QPushButton* button : column) button->setFixedWidth(width + fontMetrics().height());
     showUsers();
 }
 
 void UsersPage::showUsers() {
     host_.guarded([this] {
+        const QString before = chosen() ? chosen()->key : host_.userKey();
         users_ = host_.store().users.all();
+        if (!host_.store().trainings.of(nobody).isEmpty()) users_.append({nobody, {}, {}, {}});
         QList<QStringList> rows;
         for (const User& user : users_)
-            rows.append({user.surname, user.firstName, user.matriculation,
+            rows.append({user.key == nobody ? nameOf(user) : user.surname, user.firstName,
+                         user.matriculation,
                          user.key == host_.userKey() ? user.key + "  ✓" : user.key});
         table_->setRows(rows);
+        choose(before);
     });
-    showButtons();
+    showChosen();
 }
 
-void UsersPage::showButtons() {
+void UsersPage::showChosen() {
     const User* user = chosen();
-    edit_->setEnabled(user);
-    remove_->setEnabled(user);
-    logIn_->setEnabled(user && user->key != host_.userKey());
+    const bool isPerson = user && user->key != nobody;
+    edit_->setEnabled(isPerson);
+    remove_->setEnabled(isPerson);
+    logIn_->setEnabled(isPerson && user->key != host_.userKey());
     logOut_->setEnabled(host_.user().has_value());
+    trainings_->setVisible(user);
+    if (user) trainings_->showUser(user->key, nameOf(*user));
 }
 
 const User* UsersPage::chosen() const {
     const int row = table_->row();
     return row >= 0 && row < users_.size() ? &users_[row] : nullptr;
+}
+
+QString UsersPage::nameOf(const User& user) const {
+    return user.key == nobody ? host_.words().wort(969) : user.fullName();
+}
+
+/// Chooses the user with that key, the first one when there is none.
+void UsersPage::choose(const QString& key) {
+    const auto found = std::ranges::find(users_, key, &User::key);
+    table_->chooseRow(found == users_.end() ? 0 : static_cast<int>(found - users_.begin()));
 }
 
 void UsersPage::add() {
@@ -81,6 +122,7 @@ void UsersPage::add() {
     const User user = dialog.user();
     host_.putUser(user);
     if (!host_.user()) host_.logIn(user.key);
+    choose(user.key);
 }
 
 void UsersPage::edit() {
@@ -92,15 +134,10 @@ void UsersPage::edit() {
 
 void UsersPage::remove() {
     const User* user = chosen();
-    if (!user) return;
-    const Words& words = host_.words();
+    if (!user || !remove_->isEnabled()) return;
     const QString key = user->key;
-    QMessageBox question(QMessageBox::Question, "Melvora", words.wort(928).arg(user->fullName()),
-                         QMessageBox::NoButton, this);
-    auto* yes = question.addButton(words.wort(957), QMessageBox::DestructiveRole);
-    question.setDefaultButton(question.addButton(words.wort(923), QMessageBox::RejectRole));
-    question.exec();
-    if (question.clickedButton() == yes) host_.removeUser(key);
+    const QString question = host_.words().wort(928).arg(user->fullName());
+    if (confirmsDeletion(this, host_.words(), question)) host_.removeUser(key);
 }
 
 void UsersPage::logIn() {

@@ -56,4 +56,14 @@ QString Words::wort(int number) const {
     return text.isEmpty() ? QString("VOID") : text;
 }
 
+QString Words::moment(const QDateTime& moment) const {
+    if (!moment.isValid()) return "–";
+    // The system knows the country, and the user's own format; without it, English is British.
+    const QString& suffix = languages_[chosen_].suffix;
+    const QLocale standard(suffix == "en" ? QString("en_GB") : suffix);
+    const QLocale system = QLocale::system();
+    const QLocale& locale = system.language() == standard.language() ? system : standard;
+    return locale.toString(moment.toLocalTime(), QLocale::ShortFormat);
+}
+
 }  // namespace melvora

@@ -1,4 +1,5 @@
 #pragma once
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
@@ -27,6 +28,8 @@ class Words {
 
     /// Text by number; "VOID" when the language lacks it.
     QString wort(int number) const;
+    /// Local date and time in the language's short format; a dash for an invalid moment.
+    QString moment(const QDateTime& moment) const;
 
   private:
     struct Language {
