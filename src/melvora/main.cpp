@@ -131,6 +131,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("melvora");
     QApplication::setApplicationDisplayName("Melvora");
+    QApplication::setDesktopFileName("melvora");
     QApplication::setQuitOnLastWindowClosed(false);
     look::apply(application);
     try {

@@ -51,14 +51,6 @@ TEST_F(HostProcess, KilledAtAnyMomentItLosesNothingThatItAcknowledged) {
     }
 }
 
-TEST_F(HostProcess, ASecondHostRaisesTheFirstAndEndsWell) {
-    start();
-    const Ended ended = second();
-    EXPECT_EQ(ended.status, 0) << ended.complaint;
-    EXPECT_EQ(host_.state(), QProcess::Running);
-    EXPECT_FALSE(ask("LANG", "").isEmpty());
-}
-
 TEST_F(HostProcess, OfTwoHostsStartedAtOnceOneStays) {
     QProcess other;
     prepare(host_, {});
@@ -94,6 +86,10 @@ TEST_F(HostProcess, TellsWhatIsWrongAndEndsWithStatusTwo) {
         {"data folder is a file", {}, data().toStdString()},
         {"unknown option", {"--nonsense"}, "nonsense"},
         {"unknown module", {"--start", "zepha8"}, "zepha8"},
+        {"two files", {"a.mvs", "b.mvs"}, "b.mvs"},
+        {"no such file", {"nowhere.mvs"}, QDir::current().filePath("nowhere.mvs").toStdString()},
+        {"folder for a file", {folder_.path()}, folder_.path().toStdString()},
+        {"file for another module", {"--start", "zepha8", data()}, "zepha8"},
         {"unknown user", {"--data", folder_.filePath("d1"), "--user", "ghost"}, "ghost"},
         {"unknown language", {"--data", folder_.filePath("d2"), "--language", "Latina"}, "Deutsch"},
     };

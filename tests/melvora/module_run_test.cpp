@@ -1,7 +1,7 @@
 #include "melvora/host_process.h"
 #include "melvora/store.h"
 
-#include <QThread>
+#include <QDir>
 
 namespace melvora {
 namespace {
@@ -40,10 +40,22 @@ TEST_F(ModuleRun, AModuleThatDiesIsLoggedAndTheHostLives) {
     EXPECT_EQ(startedModule(), "");
 }
 
-TEST_F(ModuleRun, ASecondHostHandsItsModuleOn) {
-    start({}, "vanish");
+TEST_F(ModuleRun, ASecondHostHandsItsModuleOrFileOn) {
+    const QString path = folder_.filePath("Übung 1%2.mvs");
+    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+    const QString fromHere = QDir::current().relativeFilePath(path);
+    start({fromHere, "--teacher"}, "vanish");
+    const QString withFile = "started as zepha9.exe --teacher --settings " + path;
+    eventually([&] { return logged().contains(withFile) && startedModule().empty(); });
     EXPECT_EQ(second({"--start", "zepha9"}).status, 0);
-    eventually([this] { return logged().contains("started as zepha9.exe"); });
+    eventually([&] { return logged().size() == 2 && startedModule().empty(); });
+    EXPECT_EQ(logged().first(), "started as zepha9.exe --teacher");
+    EXPECT_EQ(second({fromHere}).status, 0);
+    eventually([&] { return logged().size() == 3 && startedModule().empty(); });
+    EXPECT_EQ(logged().first(), withFile);
+    EXPECT_EQ(second({path + "x"}).status, 2);
+    EXPECT_EQ(second().status, 0);
+    EXPECT_EQ(host_.state(), QProcess::Running);
 }
 
 TEST_F(ModuleRun, AMissingModuleIsToldOfWithItsPath) {

@@ -1,7 +1,5 @@
 #include "melvora/requests.h"
 
-#include "hostlink/sample_values.h"
-
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -52,6 +50,9 @@ TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
         {"message of a number", "LOGMESS", Value(1)},
         {"error with three elements", "LOGERR", Value(Value::Array{"a", 1, "b"})},
         {"unknown module", "RAISE", Value("/bin/sh")},
+        {"file for no module", "RAISE", Value(Value::Array{"", folder_.path().toStdString()})},
+        {"relative path", "RAISE", Value(Value::Array{"zepha9", "a.mvs"})},
+        {"folder for a file", "RAISE", Value(Value::Array{"zepha9", folder_.path().toStdString()})},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -65,16 +66,6 @@ TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
         EXPECT_LT(lines.first().text.size(), 200);
     }
     EXPECT_EQ(ask("READ", Value::Array{"zepha9", "E1"}).at(1), Value("NIL"));
-}
-
-TEST_F(RequestsTest, RecordsComeBackAsTheyWereStored) {
-    for (const auto& sample : hostlink::sampleValues()) {
-        SCOPED_TRACE(sample.name);
-        if (sample.name == "long text") continue;
-        const Value record = Value::Array{"true", sample.value};
-        ask("STORE", Value::Array{"zepha9", "E1", record});
-        EXPECT_TRUE(ask("READ", Value::Array{"zepha9", "E1"}) == record);
-    }
 }
 
 TEST_F(RequestsTest, RecordsBelongToWhoIsLoggedIn) {

@@ -1,4 +1,5 @@
 #include "melvora/main_window.h"
+#include "melvora/requests.h"
 #include "melvora/user_dialog.h"
 
 #include <QAbstractButton>
@@ -99,6 +100,46 @@ TEST_F(WindowTest, GoesAwayWhileTheModuleRunsAndComesBackWithTheReasonOfItsDeath
     EXPECT_TRUE(wasHidden);
     EXPECT_TRUE(window_.isVisible());
     EXPECT_TRUE(notices.first()->isVisible());
+}
+
+TEST_F(WindowTest, AUsersTrainingsFollowWhatIsStoredAndStayWhileAModuleRuns) {
+    window_.open(MainWindow::Users);
+    const auto tables = window_.findChildren<QTableView*>();
+    ASSERT_EQ(tables.size(), 2);
+    const auto* const users = tables[0]->model();
+    const auto* const trainings = tables[1]->model();
+    EXPECT_EQ(users->rowCount(), 1);
+    EXPECT_EQ(trainings->rowCount(), 0);
+
+    Requests requests(host_);
+    core::Value ignored;
+    for (const char* key : {"E1", "A1"}) {
+        using Array = core::Value::Array;
+        EXPECT_TRUE(
+            requests.answer("STORE", core::Value(Array{"zepha9", key, Array{"true", 1}}), ignored));
+    }
+    until([&] { return users->rowCount() == 2; });
+    tables[0]->selectRow(1);
+    ASSERT_EQ(trainings->rowCount(), 1) << "nobody's training";
+    const QString row = trainings->index(0, 0).data().toString();
+    EXPECT_EQ(row, words_.wort(724) + ": " + words_.wort(154));
+
+    const Training training = host_.store().trainings.of(nobody).at(0);
+    QStringList notices;
+    QObject::connect(&host_, &Host::noticed, [&](const QString& text) { notices.append(text); });
+    const QString file = folder_.filePath("melvora.sqlite");
+    qputenv("FAKE_MODULE", "crash");
+    host_.startModule("zepha9");
+    host_.removeTraining(training);
+    EXPECT_TRUE(host_.startModule("zepha9", file));
+    ASSERT_EQ(notices.size(), 2) << "both must wait until the module was left";
+    EXPECT_TRUE(notices[1].contains(file));
+    EXPECT_EQ(host_.store().trainings.of(nobody).size(), 1);
+    until([&] { return !host_.module().runs() && window_.isVisible(); });
+    host_.removeTraining(training);
+    until([&] { return users->rowCount() == 1; });
+    EXPECT_TRUE(host_.store().trainings.of(nobody).isEmpty());
+    EXPECT_EQ(trainings->rowCount(), 0) << "the page shows the user who is left";
 }
 
 TEST_F(WindowTest, ChoosingAUserOnTheStartPageLogsThemIn) {

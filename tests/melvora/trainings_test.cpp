@@ -1,0 +1,114 @@
+#include "melvora/trainings.h"
+
+#include "melvora/store.h"
+
+#include <QDir>
+#include <QSqlDatabase>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace melvora {
+namespace {
+
+using core::Value;
+
+const Value left = Value::Array{"true", 1};
+const Value settings = Value::Array{"settings", 1};
+
+class TrainingsTest : public testing::Test {
+  protected:
+    static void leave(Store& store, const QString& user, const QString& exercise) {
+        store.records.store({user, "zepha9", 'E' + exercise}, settings);
+        store.records.store({user, "zepha9", 'A' + exercise}, left);
+    }
+    static QStringList saved(const Store& store, const QString& user) {
+        QStringList exercises;
+        for (const Training& training : store.trainings.of(user)) exercises << training.exercise;
+        return exercises;
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(TrainingsTest, ADatabaseOfAnOlderVersionKeepsItsRecordsAndGetsTimes) {
+    {
+        auto old = QSqlDatabase::addDatabase("QSQLITE", "old");
+        old.setDatabaseName(folder_.filePath("melvora.sqlite"));
+        ASSERT_TRUE(old.open());
+        QSqlQuery query(old);
+        for (const char* sql :
+             {"CREATE TABLE records (user_key TEXT NOT NULL, executable TEXT NOT NULL,"
+              " record_key TEXT NOT NULL, content TEXT NOT NULL,"
+              " PRIMARY KEY (user_key, executable, record_key))",
+              "INSERT INTO records VALUES ('anna', 'zepha9', 'E4b', '[\"settings\",1]')",
+              "INSERT INTO records VALUES ('anna', 'zepha9', 'A4b', '[\"true\",1]')"})
+            ASSERT_TRUE(query.exec(sql)) << sql;
+    }
+    QSqlDatabase::removeDatabase("old");
+    for (const char* opening : {"first", "second"}) {
+        SCOPED_TRACE(opening);
+        Store store(folder_.path());
+        EXPECT_EQ(store.records.read({"anna", "zepha9", "E4b"}), settings);
+        ASSERT_EQ(saved(store, "anna"), QStringList{"4b"});
+        EXPECT_FALSE(store.trainings.of("anna")[0].saved.isValid());
+    }
+    Store store(folder_.path());
+    leave(store, "anna", "4b");
+    const QDateTime time = store.trainings.of("anna").at(0).saved;
+    EXPECT_LT(std::abs(time.secsTo(QDateTime::currentDateTime())), 60);
+}
+
+TEST_F(TrainingsTest, OnlyAStateThatWasLeftWithItsSettingsCounts) {
+    struct Row {
+        const char* name;
+        Value state;
+        bool hasSettings, counts;
+    };
+    const Row rows[] = {
+        {"left", left, true, true},
+        {"left, other case", Value::Array{"True", 1}, true, true},
+        {"ended", Value::Array{"False"}, true, false},
+        {"without settings", left, false, false},
+        {"no array", "true", true, false},
+        {"mark not in front", Value::Array{1, "true"}, true, false},
+        {"empty", Value::Array{}, true, false},
+    };
+    Store store(folder_.path());
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        store.records.store({row.name, "zepha9", "A1b"}, row.state);
+        store.records.store({row.name, "zepha9", row.hasSettings ? "E1b" : "E1"}, settings);
+        EXPECT_EQ(saved(store, row.name), row.counts ? QStringList{"1b"} : QStringList());
+    }
+    for (const char* exercise : {"4b", "1b", "4", "1", "2"}) leave(store, "anna", exercise);
+    store.records.store({"jörg", "other", "E1"}, settings);
+    store.records.store({"jörg", "other", "A1"}, left);
+    EXPECT_EQ(saved(store, "anna"), (QStringList{"1", "4", "1b", "4b"}));
+    EXPECT_TRUE(saved(store, "jörg").isEmpty());
+}
+
+TEST_F(TrainingsTest, DeletionTakesBothRecordsOrNoneAndNothingElse) {
+    Store store(folder_.path());
+    for (const char* user : {"anna", nobody})
+        for (const char* exercise : {"1", "1b"}) leave(store, user, exercise);
+    const Training training = store.trainings.of("anna").at(0);
+    for (const char* key : {"E1", "A1"}) {
+        SCOPED_TRACE(key);
+        store.database.run(QString("CREATE TRIGGER guard BEFORE DELETE ON records"
+                                   " WHEN old.record_key = '%1'"
+                                   " BEGIN SELECT RAISE(ABORT, 'guarded'); END")
+                               .arg(key));
+        EXPECT_THROW(store.trainings.remove(training), StoreError);
+        EXPECT_EQ(saved(store, "anna"), (QStringList{"1", "1b"}));
+        store.database.run("DROP TRIGGER guard");
+    }
+    store.trainings.remove(training);
+    for (const char* key : {"E1", "A1"})
+        EXPECT_FALSE(store.records.read({"anna", "zepha9", key})) << key;
+    EXPECT_EQ(saved(store, "anna"), QStringList{"1b"});
+    EXPECT_EQ(saved(store, nobody), (QStringList{"1", "1b"}));
+}
+
+}  // namespace
+}  // namespace melvora
