@@ -274,7 +274,7 @@
 <message id="966s"><translation>Aucun entraînement enregistré</translation></message>
 <message id="967s"><translation>Supprimer l’entraînement enregistré « %1 » (utilisateur : %2) ? Il ne pourra plus être repris.</translation></message>
 <message id="968s"><translation>Aucun entraînement ne peut être supprimé tant qu’un programme d’exercice est en cours.</translation></message>
-<message id="969s"><translation>sans connexion</translation></message>
+<message id="969s"><translation>sans utilisateur</translation></message>
 <message id="970s"><translation>Ce fichier de réglages est illisible : %1</translation></message>
 <message id="971s"><translation>Le programme « %1 » est en cours. Quittez-le d’abord ; ce fichier pourra ensuite être ouvert : %2</translation></message>
 <message id="972s"><translation>%1 : %2</translation></message>
