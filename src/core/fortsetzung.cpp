@@ -4,6 +4,10 @@
 
 namespace core {
 
+std::string satz(const Zustand& z) {
+    return std::to_string(z.ueb_typ) + (z.theoriewahl == 0 ? "" : "b");
+}
+
 void FortsetzungAnbieten(Programm& p, const std::string& formular, bool vorhanden, int gewaehlt) {
     const form::Form* einstellung = p.forms.loaded(formular);
     auto* combo =

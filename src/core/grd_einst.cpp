@@ -64,6 +64,14 @@ void GrdEinst::start_timer() {
     forms().show(name());
     p.host.HostMeldung(std::string(Host::programm) + "; uebungs_typ=" + std::to_string(z.ueb_typ));
     KommandozeileLesen();
+    StartdateiOeffnen();
+}
+
+/// With a settings file the way leads straight to the set-up form that it belongs to.
+void GrdEinst::StartdateiOeffnen() {
+    if (p.aufruf.startdatei.empty()) return;
+    ueb_typ(p.aufruf.startTyp).click();
+    cmdOK.click();
 }
 
 /// The list behind "/P=" is walked through without any effect: old starters still send it.

@@ -23,6 +23,7 @@ class GrdEinst final : public Formular {
     void cmdOK_click();
     void cmdEnde_click();
     void KommandozeileLesen() const;
+    void StartdateiOeffnen();
 
     form::ControlArray<form::Group> grdeinst{*this, "grdeinst", 2};
     form::ControlArray<form::Option> Theoriewahl{*this, "Theoriewahl", 2, &grdeinst(0)};

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <utility>
 
 namespace core {
 
@@ -63,11 +64,11 @@ void Host::HostUebergabe(form::Forms& forms, const std::string& key) {
     hostObjekt_.reset();
 }
 
-void Host::HostSichern(const std::string& key, const Value& wert) {
+bool Host::HostSichern(const std::string& key, const Value& wert) {
     Value ergebnis;
-    if (frage("STORE", Value::Array{programm, key, wert}, ergebnis) || verlustGemeldet_) return;
-    verlustGemeldet_ = true;
-    if (verlust) verlust();
+    if (frage("STORE", Value::Array{programm, key, wert}, ergebnis)) return true;
+    if (!std::exchange(verlustGemeldet_, true) && verlust) verlust();
+    return false;
 }
 
 Value Host::HostBenutzer() {

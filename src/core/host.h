@@ -35,8 +35,8 @@ class Host {
     void HostVerbinden(const std::optional<std::string>& modulName = {});
     /// Unloads all forms, last first, and hands over to the host.
     void HostUebergabe(form::Forms& forms, const std::string& key);
-    /// Stores a record; when the host is gone `verlust` is raised, once.
-    void HostSichern(const std::string& key, const Value& wert);
+    /// Stores a record; when that fails `verlust` is raised, once. @return whether it is stored.
+    bool HostSichern(const std::string& key, const Value& wert);
     /// Element 0 the user key or "unbekannt", then the user's data.
     Value HostBenutzer();
     std::string HostSprache();

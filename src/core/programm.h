@@ -24,9 +24,13 @@ struct Ports {
 
 /// What the shell gave at the start.
 struct Aufruf {
-    std::string kommandozeile;
-    std::string tempOrdner;   ///< folder of the result record, without a slash at its end
-    std::string rechnername;  ///< the computer's name
+    std::string kommandozeile = {};
+    std::string tempOrdner = {};       ///< folder of the result record, without a slash at its end
+    std::string rechnername = {};      ///< the computer's name
+    std::string stueckeOrdner = {};    ///< folder of the settings files, without a slash at its end
+    std::string startdatei = {};       ///< settings file to begin with, "" for none
+    int startTyp = uebung::bestimmen;  ///< the exercise type that it is for
+    bool pruefEdit = false;            ///< settings may be marked, written and read
 };
 
 /// The program as one value: state, catalogue, words, host, chance and forms. Forms keep a

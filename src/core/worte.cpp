@@ -29,9 +29,12 @@ const std::string& Worte::Wort(int id) {
     return it->second;
 }
 
-std::string eingesetzt(std::string text, const std::string& wert) {
-    const auto stelle = text.find("%1");
-    return stelle == std::string::npos ? text : text.replace(stelle, 2, wert);
+std::string eingesetzt(std::string text, const std::string& wert, const std::string& zweiter) {
+    // The second first: a value that holds "%2" stays as it is.
+    for (const auto& [marke, ersatz] : {std::pair{"%2", &zweiter}, {"%1", &wert}})
+        if (const auto stelle = text.find(marke); stelle != std::string::npos)
+            text.replace(stelle, 2, *ersatz);
+    return text;
 }
 
 }  // namespace core

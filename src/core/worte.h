@@ -52,7 +52,7 @@ class Worte {
     std::unordered_map<int, std::string> gelesen_;
 };
 
-/// A text with its "%1" replaced.
-std::string eingesetzt(std::string text, const std::string& wert);
+/// A text with its "%1" replaced, and with a second value its "%2".
+std::string eingesetzt(std::string text, const std::string& wert, const std::string& zweiter = {});
 
 }  // namespace core

@@ -2,6 +2,7 @@
 
 #include "determine/arbeitsblatt1.h"
 #include "results/testergebnis.h"
+#include "setup/datei_formulare.h"
 #include "setup/einstellung.h"
 
 namespace drill {
@@ -20,6 +21,8 @@ Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiAusg
     forms.add("arbeitsblatt1", [this] {
         return std::make_unique<determine::Arbeitsblatt1>(programm, midi, wertung);
     });
+    forms.add("frmSave", [this] { return std::make_unique<setup::FrmSave>(programm); });
+    forms.add("frmLoad", [this] { return std::make_unique<setup::FrmLoad>(programm); });
     forms.add("testergebnis",
               [this] { return std::make_unique<results::Testergebnis>(programm, wertung); });
 }

@@ -1,6 +1,9 @@
 #include "engine/arbeitsblatt.h"
 
 #include "base/rounding.h"
+#include "base/runtime_error.h"
+#include "core/fortsetzung.h"
+#include "engine/trainingsstand.h"
 
 namespace engine {
 
@@ -53,10 +56,6 @@ void Arbeitsblatt::activate() {
     if (begonnen_) return;
     begonnen_ = true;
     start.start();
-}
-
-std::string Arbeitsblatt::satz() const {
-    return std::to_string(z.ueb_typ) + (z.theoriewahl == 0 ? "" : "b");
 }
 
 void Arbeitsblatt::Beschriften() {
@@ -119,7 +118,10 @@ void Arbeitsblatt::ModusEinrichten() {
 }
 
 void Arbeitsblatt::TrainingEinrichten() {
-    matbox_.TrainingBeginnen();
+    if (z.uebungsmodus == fortsetzung)
+        TrainingFortsetzen();
+    else
+        matbox_.TrainingBeginnen();
     TrainingAnzeigen();
     PicUetyp(0).visible = true;
     ergebnis_anz(0).visible = true;
@@ -127,9 +129,21 @@ void Arbeitsblatt::TrainingEinrichten() {
     ergebnis_anz(2).visible = false;
 }
 
+void Arbeitsblatt::TrainingFortsetzen() {
+    if (!p.host.LeseAbbruch("A" + core::satz(z)))
+        throw base::RuntimeError(base::ErrorNumber::InvalidCall, "saved training: not there");
+    const Zaehlerstand stand = TrainingsstandLesen(z.gelesen_a, z, wertung_.auswertung);
+    matbox_.TrainingFortsetzen();
+    zaehler(0).caption = std::to_string(stand.richtig);
+    zaehler(1).caption = std::to_string(stand.falsch);
+    vorfuehrung().WiederholungenSetzen(stand.wiederholungen);
+}
+
 void Arbeitsblatt::TrainingAnzeigen() {
     const double anteil = static_cast<double>(z.matbox_zahl) / matbox_.obergrenze();
     matboxanz.floodPercent = base::rounded(anteil * 100);
+    matboxanz.hint = core::eingesetzt(Wort(818), std::to_string(z.matbox_zahl),
+                                      std::to_string(matbox_.obergrenze()));
 }
 
 void Arbeitsblatt::PruefungEinrichten() {

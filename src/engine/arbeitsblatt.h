@@ -99,8 +99,6 @@ class Arbeitsblatt : public core::Formular {
 
     void nachFehler(const std::string& prozedur) override;
     std::string logText(const std::string& prozedur) const override { return prozedur + name(); }
-    /// "1", "4", "1b", "4b": exercise and branch in the keys of the host's records.
-    std::string satz() const;
 
     void MatWahl();
     void zurueck_click();
@@ -115,6 +113,7 @@ class Arbeitsblatt : public core::Formular {
     void Beschriften();
     void ModusEinrichten();
     void TrainingEinrichten();
+    void TrainingFortsetzen();
     void TrainingAnzeigen();
     void PruefungEinrichten();
     void PruefungAnzeigen();
@@ -128,6 +127,8 @@ class Arbeitsblatt : public core::Formular {
     void NachAntwort();
     void WeiterAnbieten();
     void TrainingsstandLoeschen();
+    void SichernAnbieten();
+    bool TrainingSichern();
     void Uhrzeit_timer();
     void ZeitAbzaehlen();
 

@@ -1,6 +1,8 @@
 // The end of a run: the exam clock, leaving, and what is kept.
+#include "base/rounding.h"
 #include "core/fortsetzung.h"
 #include "engine/arbeitsblatt.h"
+#include "engine/trainingsstand.h"
 
 namespace engine {
 
@@ -20,7 +22,7 @@ void Arbeitsblatt::WeiterAnbieten() {
 /// A training that has ended leaves nothing to continue.
 void Arbeitsblatt::TrainingsstandLoeschen() {
     setPointer(form::Pointer::Hourglass);
-    p.host.HostSichern("A" + satz(), core::Value::Array{"False"});
+    p.host.HostSichern("A" + core::satz(z), core::Value::Array{"False"});
     core::FortsetzungAnbieten(p, einstellungsform(), false, core::modus::training);
     setPointer(form::Pointer::Arrow);
 }
@@ -71,9 +73,34 @@ void Arbeitsblatt::zurueck_click() {
         ErgebnisZeigen();
     } else {
         ereignis(Ereignis::LaufEnde);
+        SichernAnbieten();
     }
     SatzSichern();
     Heimkehren();
+}
+
+/// A training in which a task was closed may be kept, to go on with another day.
+void Arbeitsblatt::SichernAnbieten() {
+    const bool imTraining =
+        z.uebungsmodus == core::modus::training || z.uebungsmodus == core::modus::fortsetzung;
+    if (zurueck.tag != "OK" || !imTraining || z.schalter_frei <= 0) return;
+    if (!p.ports.dialogs.askYesNo(Wort(8), Wort(495))) return;
+    setPointer(form::Pointer::Hourglass);
+    core::FortsetzungAnbieten(p, einstellungsform(), TrainingSichern(), z.uebungsmodus);
+    setPointer(form::Pointer::Arrow);
+}
+
+/// What an older training left is taken back first: whatever fails in between, settings and state
+/// that do not belong together are never offered. @return whether both were stored.
+bool Arbeitsblatt::TrainingSichern() {
+    z.abbruch_stand = TrainingsstandSchreiben(
+        z, wertung_.auswertung,
+        {base::leadingInt(zaehler(0).caption()), base::leadingInt(zaehler(1).caption()),
+         vorfuehrung().wiederholungen()});
+    const std::string satz = core::satz(z);
+    return p.host.HostSichern("A" + satz, core::Value::Array{"False"}) &&
+           p.host.HostSichern("E" + satz, z.gelesen_e) &&
+           p.host.HostSichern("A" + satz, z.abbruch_stand);
 }
 
 void Arbeitsblatt::ErgebnisZeigen() {

@@ -21,6 +21,7 @@ class KlangVorfuehrung final : public Vorfuehrung {
     void LaufBeendet(bool kontrolle) override;
     void Verlassen() override;
     int wiederholungen() const override;
+    void WiederholungenSetzen(int anzahl) override { whlgzaehler.caption = std::to_string(anzahl); }
 
   private:
     /// What the running playback is.

@@ -50,6 +50,17 @@ void Matbox::TrainingBeginnen() {
     z.matbox_zahl = n * z.wiederholung;
 }
 
+void Matbox::TrainingFortsetzen() {
+    z.wiederholung = startgewicht(z.potSkala);
+    z.matboxanz = 0;
+    for (int i = 1; i <= z.potSkala; ++i)
+        if (z.mathaeufgk_box(i, 1) > 0) z.matboxanz += z.mathaeufgk_box(i, 1);
+    z.matbox.redim(z.matboxanz, 1);
+    anwesenheitMerken();
+    MatAusBox(0);
+    MatNeu();
+}
+
 void Matbox::anwesenheitMerken() {
     for (int i = 1; i <= z.potSkala; ++i)
         auswertung_.Increment(core::skalaSlot(z.mathaeufgk_box(i, 0), z.skal_anz), anwesendSpalte);

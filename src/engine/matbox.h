@@ -23,6 +23,8 @@ class Matbox {
 
     /// A new training: equal weights, a full pool.
     void TrainingBeginnen();
+    /// A training taken up again: the pool as the weights in `mathaeufgk_box` want it.
+    void TrainingFortsetzen();
     /// The bag of a test or exam: every code once, the rest at random. @param zeilen its size.
     void PruefungBeginnen(int zeilen);
     /// Fills the bag anew. @param richtungsArt `richtung`. Leaves the task in hand as it is.

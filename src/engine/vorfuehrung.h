@@ -23,6 +23,8 @@ class Vorfuehrung {
     virtual void Verlassen() {}
     /// Repetitions of the whole run.
     virtual int wiederholungen() const { return 0; }
+    /// Takes them up again in a training that is continued.
+    virtual void WiederholungenSetzen(int anzahl) { (void)anzahl; }
 };
 
 }  // namespace engine

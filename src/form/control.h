@@ -21,6 +21,9 @@ enum class Kind {
     Slider,
     TextBox,
     Group,
+    Menu,
+    MenuEntry,
+    Surface,
     Timer
 };
 
@@ -92,6 +95,8 @@ class Control {
     Property<bool> enabled{*this, Aspect::Enabled, true};
     Property<base::Colour> backColour{*this, Aspect::Colour, base::colours::white};
     Property<base::Colour> foreColour{*this, Aspect::Colour, base::colours::black};
+    /// Told when the control is pointed at or has the focus; empty: nothing.
+    Property<std::string> hint{*this, Aspect::Caption, {}};
     /// Whether a back colour was ever set: views leave the others in the look of the desktop.
     bool coloured() const { return coloured_; }
     std::string tag;

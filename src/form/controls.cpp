@@ -12,6 +12,12 @@ void Button::click() {
     if (usable()) raise(onClick);
 }
 
+void Group::context() { raise(onContext); }
+
+void MenuEntry::click() {
+    if (usable()) raise(onClick);
+}
+
 void Picture::click() {
     if (usable()) raise(onClick);
 }
@@ -83,6 +89,12 @@ void ItemList::clear() {
     listIndex_ = -1;
     if (items_.empty()) return;
     items_.clear();
+    tell(Aspect::Items);
+}
+
+void ItemList::setItems(std::vector<Item> items) {
+    listIndex_ = -1;
+    items_ = std::move(items);
     tell(Aspect::Items);
 }
 

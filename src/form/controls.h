@@ -19,6 +19,9 @@ class Label : public Control {
 class Group : public Control {
   public:
     Group(Form& form, Place place) : Control(form, Kind::Group, std::move(place)) {}
+    /// The user asks for a menu: the right mouse button, or the menu key inside.
+    void context();
+    Handler onContext;
 };
 
 class Button : public Control {
@@ -26,6 +29,23 @@ class Button : public Control {
     Button(Form& form, Place place) : Control(form, Kind::Button, std::move(place)) {}
     /// A user's press; ignored while the button cannot be reached.
     void click();
+    Handler onClick;
+};
+
+/// A menu that opens where the user points; its entries are the controls that it holds.
+class Menu : public Control {
+  public:
+    Menu(Form& form, Place place) : Control(form, Kind::Menu, std::move(place)) {}
+    void open() { opened(); }
+    Signal<> opened;
+};
+
+/// An entry that carries a check mark. Choosing it runs the handler and leaves the mark alone.
+class MenuEntry : public Control {
+  public:
+    MenuEntry(Form& form, Place place) : Control(form, Kind::MenuEntry, std::move(place)) {}
+    void click();
+    Property<bool> checked{*this, Aspect::Value, false};
     Handler onClick;
 };
 
@@ -83,6 +103,8 @@ class ItemList : public Control {
     void remove(int i);
     void setText(int i, std::string text);
     void clear();
+    /// Takes these items in place of its own.
+    void setItems(std::vector<Item> items);
 
   protected:
     using Control::Control;
@@ -132,8 +154,15 @@ class Slider : public Control {
 
 class TextBox : public Control {
   public:
-    TextBox(Form& form, Place place) : Control(form, Kind::TextBox, std::move(place)) {}
+    /// A page is only read; a line is written by the user.
+    enum class Size { Page, Line };
+    TextBox(Form& form, Place place, Size size = Size::Page)
+        : Control(form, Kind::TextBox, std::move(place)), size_(size) {}
+    Size size() const { return size_; }
     Property<std::string> text{*this, Aspect::Value, {}};
+
+  private:
+    Size size_;
 };
 
 /// Runs its handler every `interval` milliseconds while it is enabled; a handler that disables it

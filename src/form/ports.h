@@ -13,6 +13,17 @@ class Dialogs {
     virtual ~Dialogs() = default;
     virtual void message(Icon icon, const std::string& title, const std::string& text) = 0;
     virtual bool askYesNo(const std::string& title, const std::string& text) = 0;
+
+    /// What a file dialog offers.
+    struct FileQuestion {
+        std::string title;
+        std::string proposal;  ///< folder, or path of the file proposed
+        std::string kind;      ///< of the files, for example "Melvora Settings"
+        std::string pattern;   ///< for example "*.mvs"
+    };
+    /// @return path of the file chosen, "" when the user chose none.
+    virtual std::string askOpenFile(const FileQuestion& question) = 0;
+    virtual std::string askSaveFile(const FileQuestion& question) = 0;
 };
 
 /// Puts the picture of a form on paper.

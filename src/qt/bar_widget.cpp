@@ -3,12 +3,36 @@
 #include "look/look.h"
 
 #include <QPainter>
+#include <QToolTip>
 
 namespace qt {
 
 void BarWidget::setPercent(int percent) {
     percent_ = percent;
-    setAccessibleDescription(QString::number(percent) + QStringLiteral(" %"));
+    describe();
+    update();
+}
+
+void BarWidget::setMeaning(const QString& words) {
+    setToolTip(words);
+    setFocusPolicy(words.isEmpty() ? Qt::NoFocus : Qt::TabFocus);
+    describe();
+}
+
+void BarWidget::describe() {
+    setAccessibleDescription(toolTip().isEmpty() ? QString::number(percent_) + QStringLiteral(" %")
+                                                 : toolTip());
+}
+
+void BarWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), toolTip(), this);
+    update();
+}
+
+void BarWidget::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    QToolTip::hideText();
     update();
 }
 
@@ -16,7 +40,7 @@ void BarWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(look::line);
+    painter.setPen(hasFocus() ? QPen(look::accent, 2) : QPen(look::line));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(area, 4, 4);
     if (percent_ <= 0 || !isEnabled()) return;

@@ -11,10 +11,17 @@ class BarWidget final : public QWidget {
     void setPercent(int percent);
     QSize sizeHint() const override { return {120, 14}; }
 
+    /// What the fill means, in words: told when the bar is pointed at or has the focus.
+    void setMeaning(const QString& words);
+
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    void describe();
+
     int percent_ = 0;
 };
 

@@ -44,10 +44,13 @@ QWidget* Binder::panel(form::Panel& control) {
     if (control.onClick.run) return pushButton(control);
     auto* bar = new BarWidget(&window_);
     common(control, *bar);
-    bar->setPercent(control.floodPercent());
-    follow(control, [&control, bar](Aspect aspect) {
+    const auto show = [&control, bar](Aspect aspect) {
         if (aspect == Aspect::Value) bar->setPercent(control.floodPercent());
-    });
+        if (aspect == Aspect::Caption) bar->setMeaning(QString::fromStdString(control.hint()));
+    };
+    show(Aspect::Value);
+    show(Aspect::Caption);
+    follow(control, show);
     return bar;
 }
 

@@ -5,9 +5,12 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QSlider>
+
+#include <algorithm>
 
 namespace qt {
 
@@ -40,21 +43,58 @@ QWidget* Binder::combo(form::Combo& control) {
     return box;
 }
 
+namespace {
+
+/// A list whose item is chosen by a click, by Enter or by Space. When an item has left, the one
+/// that took its place is the current one.
+class ChoiceList final : public QListWidget {
+  public:
+    ChoiceList(form::ListBox& control, QWidget* parent) : QListWidget(parent), control_(control) {
+        connect(this, &QListWidget::itemClicked, this,
+                [this](QListWidgetItem* item) { choose(row(item)); });
+    }
+
+    void fill() {
+        const int current = currentRow();
+        const QSignalBlocker quiet(this);
+        clear();
+        for (const auto& item : control_.items()) addItem(QString::fromStdString(item.text));
+        setCurrentRow(std::min(current, count() - 1));
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        switch (event->key()) {
+            case Qt::Key_Return:
+            case Qt::Key_Enter:
+            case Qt::Key_Space:
+                return choose(currentRow());
+            default:
+                return QListWidget::keyPressEvent(event);
+        }
+    }
+    void focusInEvent(QFocusEvent* event) override {
+        QListWidget::focusInEvent(event);
+        if (currentRow() < 0 && count() > 0) setCurrentRow(0);
+    }
+
+  private:
+    void choose(int row) {
+        if (row >= 0 && control_.usable()) control_.click(row);
+    }
+
+    form::ListBox& control_;
+};
+
+}  // namespace
+
 QWidget* Binder::listBox(form::ListBox& control) {
-    auto* list = new QListWidget(&window_);
+    auto* list = new ChoiceList(control, &window_);
     common(control, *list);
-    const auto show = [&control, list](Aspect aspect) {
-        if (aspect != Aspect::Items) return;
-        const QSignalBlocker quiet(list);
-        list->clear();
-        for (const auto& item : control.items()) list->addItem(QString::fromStdString(item.text));
-    };
-    show(Aspect::Items);
-    follow(control, show);
-    QObject::connect(list, &QListWidget::itemClicked, list,
-                     [&control, list](QListWidgetItem* item) {
-                         if (control.usable()) control.click(list->row(item));
-                     });
+    list->fill();
+    follow(control, [list](Aspect aspect) {
+        if (aspect == Aspect::Items) list->fill();
+    });
     return list;
 }
 

@@ -4,6 +4,7 @@
 #include "qt/painter_surface.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 
 namespace qt {
@@ -29,6 +30,24 @@ QWidget* Binder::label(form::Label& control) {
 }
 
 QWidget* Binder::textBox(form::TextBox& control) {
+    return control.size() == form::TextBox::Size::Line ? textLine(control) : textPage(control);
+}
+
+QWidget* Binder::textLine(form::TextBox& control) {
+    auto* text = new QLineEdit(&window_);
+    common(control, *text);
+    const auto show = [&control, text](Aspect aspect) {
+        const QString wanted = QString::fromStdString(control.text());
+        if (aspect == Aspect::Value && text->text() != wanted) text->setText(wanted);
+    };
+    show(Aspect::Value);
+    follow(control, show);
+    QObject::connect(text, &QLineEdit::textEdited, text,
+                     [&control](const QString& written) { control.text = written.toStdString(); });
+    return text;
+}
+
+QWidget* Binder::textPage(form::TextBox& control) {
     auto* text = new QPlainTextEdit(&window_);
     common(control, *text);
     text->setReadOnly(true);

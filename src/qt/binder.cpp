@@ -5,6 +5,11 @@
 #include "qt/group_frame.h"
 #include "qt/painter_surface.h"
 #include "qt/picture_widget.h"
+#include "qt/staff_widget.h"
+
+#include <QAction>
+#include <QCursor>
+#include <QMenu>
 
 #include <stdexcept>
 
@@ -40,8 +45,13 @@ QWidget* Binder::operator()(const std::string& name, int index) {
             return picture(static_cast<form::Picture&>(control));
         case Kind::Group:
             return group(static_cast<form::Group&>(control));
+        case Kind::Surface:
+            return surface(static_cast<notation::Blatt&>(control));
         case Kind::TextBox:
             return textBox(static_cast<form::TextBox&>(control));
+        case Kind::Menu:
+            return menu(static_cast<form::Menu&>(control));
+        case Kind::MenuEntry:
         case Kind::Timer:
             break;
     }
@@ -57,9 +67,13 @@ void Binder::common(form::Control& control, QWidget& widget) {
     const auto show = [&control, &widget](Aspect aspect) {
         if (aspect == Aspect::Visible) widget.setVisible(control.visible());
         if (aspect == Aspect::Enabled) widget.setEnabled(control.enabled());
-        if (aspect == Aspect::Caption)
+        if (aspect == Aspect::Caption) {
             widget.setAccessibleName(QString::fromStdString(
                 control.accessibleName().empty() ? control.caption() : control.accessibleName()));
+            const QString hint = QString::fromStdString(control.hint());
+            widget.setToolTip(hint);
+            widget.setAccessibleDescription(hint);
+        }
     };
     // A widget that will be shown with its parent must not be shown before it has one.
     if (!control.visible()) widget.setVisible(false);
@@ -85,6 +99,12 @@ QWidget* Binder::picture(form::Picture& control) {
     return widget;
 }
 
+QWidget* Binder::surface(notation::Blatt& control) {
+    auto* widget = new StaffWidget(control, &window_);
+    common(control, *widget);
+    return widget;
+}
+
 QWidget* Binder::group(form::Group& control) {
     auto* frame = new GroupFrame(&window_);
     common(control, *frame);
@@ -93,7 +113,34 @@ QWidget* Binder::group(form::Group& control) {
     };
     if (control.coloured()) show(Aspect::Colour);
     follow(control, show);
+    if (control.onContext.run) {
+        frame->setContextMenuPolicy(Qt::CustomContextMenu);
+        QObject::connect(frame, &QWidget::customContextMenuRequested, frame,
+                         [&control] { control.context(); });
+    }
     return frame;
+}
+
+QWidget* Binder::menu(form::Menu& control) {
+    auto* menu = new QMenu(&window_);
+    menu->setObjectName(QString::fromStdString(control.id()));
+    for (form::Control* c : form_.controls()) {
+        if (c->container() != &control) continue;
+        auto& entry = static_cast<form::MenuEntry&>(*c);
+        auto* action = menu->addAction(QString::fromStdString(entry.caption()));
+        action->setCheckable(true);
+        const auto show = [&entry, action](Aspect) {
+            action->setText(QString::fromStdString(entry.caption()));
+            action->setChecked(entry.checked());
+        };
+        follow(entry, show);
+        QObject::connect(action, &QAction::triggered, menu, [&entry, show] {
+            entry.click();
+            show(Aspect::Value);
+        });
+    }
+    connections_.push_back(control.opened.connect([menu] { menu->popup(QCursor::pos()); }));
+    return menu;
 }
 
 }  // namespace qt

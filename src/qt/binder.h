@@ -10,6 +10,10 @@
 
 class QPushButton;
 
+namespace notation {
+class Blatt;
+}
+
 namespace qt {
 
 /// Ties the controls of a form to widgets: what the model says is shown, what the user does is told
@@ -40,6 +44,8 @@ class Binder {
     form::Control& found(const std::string& name, int index) const;
     QWidget* label(form::Label& control);
     QWidget* textBox(form::TextBox& control);
+    QWidget* textLine(form::TextBox& control);
+    QWidget* textPage(form::TextBox& control);
     QWidget* button(form::Button& control);
     QWidget* panel(form::Panel& control);
     QWidget* option(form::Option& control);
@@ -47,7 +53,9 @@ class Binder {
     QWidget* listBox(form::ListBox& control);
     QWidget* slider(form::Slider& control);
     QWidget* picture(form::Picture& control);
+    QWidget* surface(notation::Blatt& control);
     QWidget* group(form::Group& control);
+    QWidget* menu(form::Menu& control);
     template <class C>
     QPushButton* pushButton(C& control);
 

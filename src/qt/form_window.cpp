@@ -2,6 +2,7 @@
 
 #include "look/look.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -97,6 +98,10 @@ bool FormWindow::keyPressed(QWidget& widget, int pressed) {
         button->click();
         return true;
     }
+    // In a list both choose the item.
+    if (qobject_cast<QAbstractItemView*>(&widget) &&
+        (key->kind == form::Key::Kind::Enter || key->kind == form::Key::Kind::Space))
+        return false;
     bool taken = false;
     form_.handle({"key.", [&] { taken = form_.key(*key); }});
     return taken;

@@ -49,6 +49,32 @@ class Groups {
     Binder& bind_;
 };
 
+/// The two lists of single scales, each below its heading, with what the choice lacks.
+QWidget* chosenScales(Binder& bind, Groups& groups) {
+    QVBoxLayout* inside = groups.begin(nullptr, 10);
+    auto* lists = new QHBoxLayout;
+    lists->setSpacing(look::margin);
+    for (const int list : {0, 1}) {
+        auto* column = new QVBoxLayout(bind("kl_rahmen", list));
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(4);
+        column->addWidget(bind("lb10", list + 1));
+        QWidget* scales = bind("lst_ska", list);
+        scales->setFixedHeight(8 * scales->fontMetrics().lineSpacing());
+        column->addWidget(scales);
+        lists->addWidget(column->parentWidget(), 1);
+    }
+    inside->addLayout(lists);
+    auto* state = new QHBoxLayout;
+    state->addWidget(bind("wahlStand"));
+    state->addStretch();
+    QWidget* hint = bind("lb10", 0);
+    look::font(*hint, 1, true);
+    state->addWidget(hint);
+    inside->addLayout(state);
+    return inside->parentWidget();
+}
+
 }  // namespace
 
 void layoutEinstellung(FormWindow& window) {
@@ -67,9 +93,13 @@ void layoutEinstellung(FormWindow& window) {
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
     page->addWidget(scroll, 1);
-    auto* columns = new QHBoxLayout(inner);
-    columns->setContentsMargins(0, 0, 0, 0);
+    auto* rows = new QVBoxLayout(inner);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(look::gap);
+    auto* columns = new QHBoxLayout;
     columns->setSpacing(look::margin);
+    rows->addWidget(chosenScales(bind, groups));
+    rows->addLayout(columns, 1);
     const auto column = [&] {
         auto* layout = new QVBoxLayout;
         layout->setSpacing(look::gap);
@@ -142,6 +172,7 @@ void layoutEinstellung(FormWindow& window) {
     ok->setMinimumWidth(120);
     actions->addWidget(ok);
     page->addWidget(box);
+    bind("popPruefung");
     window.openWith({960, 600});
 }
 

@@ -70,6 +70,26 @@ QWidget* resultRows(FormWindow& window) {
     return frame;
 }
 
+/// Scales and their weights, after a training.
+QWidget* weights(Binder& bind) {
+    QWidget* frame = bind("schwach_cont");
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(look::gap);
+    heading(bind, column, "schwach_head");
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(3);
+    grid->setHorizontalSpacing(look::margin);
+    grid->setColumnStretch(0, 1);
+    for (int i = 0; bind.has("Lab_schwach", i); ++i) {
+        grid->addWidget(bind("Lab_schwach", i), i, 0);
+        grid->addWidget(bind("gewicht", i), i, 1, Qt::AlignRight);
+    }
+    column->addLayout(grid);
+    column->addStretch(1);
+    return frame;
+}
+
 /// Keys and values below each other.
 QWidget* pairs(Binder& bind, const char* frameName, const char* keys, const char* values) {
     QWidget* frame = bind(frameName);
@@ -102,6 +122,7 @@ void layoutTestergebnis(FormWindow& window) {
     heading(bind, left, "erg_head");
     left->addWidget(resultRows(window), 1);
     columns->addLayout(left, 1);
+    columns->addWidget(weights(bind));
     auto* right = new QVBoxLayout;
     right->setSpacing(look::gap);
     heading(bind, right, "grd_einst_head");

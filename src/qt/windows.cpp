@@ -15,7 +15,8 @@ struct Layout {
 constexpr std::array layouts{
     Layout{"grd_einst", layoutGrdEinst},         Layout{"einstellung1", layoutEinstellung},
     Layout{"arbeitsblatt1", layoutArbeitsblatt}, Layout{"testergebnis", layoutTestergebnis},
-    Layout{"frmMessage", layoutFrmMessage},
+    Layout{"frmMessage", layoutFrmMessage},      Layout{"frmSave", layoutFrmSave},
+    Layout{"frmLoad", layoutFrmLoad},
 };
 
 }  // namespace

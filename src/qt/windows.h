@@ -29,5 +29,7 @@ void layoutEinstellung(FormWindow& window);
 void layoutArbeitsblatt(FormWindow& window);
 void layoutTestergebnis(FormWindow& window);
 void layoutFrmMessage(FormWindow& window);
+void layoutFrmSave(FormWindow& window);
+void layoutFrmLoad(FormWindow& window);
 
 }  // namespace qt

@@ -1,12 +1,11 @@
 #include "results/skalaxml.h"
 
 #include "base/runtime_error.h"
+#include "base/whole_file.h"
 
-#include <cerrno>
 #include <charconv>
-#include <cstdio>
-#include <cstring>
 #include <sstream>
+#include <system_error>
 
 namespace results {
 
@@ -16,12 +15,6 @@ namespace {
 std::string alsText(float v) {
     char text[32];
     return {text, std::to_chars(text, text + sizeof text, v).ptr};
-}
-
-[[noreturn]] void nichtGeschrieben(core::Programm& p, const std::string& datei,
-                                   const std::string& grund) {
-    throw base::RuntimeError(base::ErrorNumber::PathAccess,
-                             core::eingesetzt(p.Wort(815), datei) + " (" + grund + ")");
 }
 
 }  // namespace
@@ -83,14 +76,13 @@ void Skalaxml::SkalaXmlSichern(const std::vector<std::string>& liste) {
         ("Untersuchung: " + p.katalog.typ_name[p.zustand.ueb_typ]).c_str();
     EinstellungenSchreiben(liste);
 
-    const std::string daneben = datei_ + ".part";
-    if (!dokument_.save_file(daneben.c_str(), "\t", pugi::format_default, pugi::encoding_utf8)) {
-        const std::string grund = std::strerror(errno);
-        std::remove(daneben.c_str());
-        nichtGeschrieben(p, datei_, grund);
+    try {
+        base::writeWhole(datei_, text());
+    } catch (const std::system_error& fehler) {
+        throw base::RuntimeError(base::ErrorNumber::PathAccess,
+                                 core::eingesetzt(p.Wort(815), datei_) + " (" +
+                                     fehler.code().message() + ")");
     }
-    if (std::rename(daneben.c_str(), datei_.c_str()) != 0)
-        nichtGeschrieben(p, datei_, std::strerror(errno));
 }
 
 std::string Skalaxml::text() const {

@@ -1,5 +1,7 @@
 #include "results/testergebnis.h"
 
+#include <cstdlib>
+
 namespace results {
 
 namespace colours = base::colours;
@@ -16,6 +18,7 @@ void Testergebnis::start_timer() {
     start.stop();
     Beschriften();
     ZeilenZeigen();
+    GewichteZeigen();
     EinstellungenZeigen();
     guard("LbGrdEinst.", [this] { LbGrdEinst(); });
     forms().show(name());
@@ -24,6 +27,7 @@ void Testergebnis::start_timer() {
 void Testergebnis::Beschriften() {
     setCaption(p.katalog.typ_name[z.ueb_typ] + Wort(700) + p.katalog.bereich_name[2]);
     beschriften({{erg_head, 803},
+                 {schwach_head, 833},
                  {einst_head, 820},
                  {grd_einst_head, 821},
                  {Lab_gesamt, 805},
@@ -62,6 +66,23 @@ void Testergebnis::ErgebnisZeile(int i, int slot, const std::string& name) {
     if (!zeile.zaehlt) return;
     summe_ += zeile.anteil;
     ++gezaehlt_;
+}
+
+/// The training keeps its scales sorted by weight: what has been missed most stands first.
+void Testergebnis::GewichteZeigen() {
+    const bool training = z.uebungsmodus == core::modus::training ||
+                          z.uebungsmodus == core::modus::fortsetzung;
+    schwach_cont.visible = training;
+    for (int i = 0; i < maxZeilen - 1; ++i) {
+        const bool da = training && i + 1 < z.mathaeufgk_box.rows();
+        Lab_schwach(i).visible = da;
+        gewicht(i).visible = da;
+        if (!da) continue;
+        const i16 code = z.mathaeufgk_box(i + 1, 0);
+        const char* richtung = z.richtung != 2 ? "" : code > 0 ? "+ " : "- ";
+        Lab_schwach(i).caption = richtung + p.katalog.skal_name[z.skal_typ][std::abs(code) - 1];
+        gewicht(i).caption = std::to_string(z.mathaeufgk_box(i + 1, 1));
+    }
 }
 
 void Testergebnis::EinstellungenZeigen() {

@@ -36,6 +36,7 @@ class Testergebnis final : public core::Formular {
     void Beschriften();
     void ZeilenZeigen();
     void ErgebnisZeile(int i, int slot, const std::string& name);
+    void GewichteZeigen();
     void EinstellungenZeigen();
     void LbGrdEinst();
     void cmdOK_click();
@@ -53,6 +54,11 @@ class Testergebnis final : public core::Formular {
     form::ControlArray<form::Label> ergebnis{*this, "ergebnis", maxZeilen, &erg_cont};
     form::Label Lab_gesamt{*this, {"Lab_gesamt", form::Place::noIndex, &erg_cont}};
     form::Label gesamt{*this, {"gesamt", form::Place::noIndex, &erg_cont}};
+    /// After a training: its scales by weight, weakest first.
+    form::Group schwach_cont{*this, {"schwach_cont"}};
+    form::Label schwach_head{*this, {"schwach_head", form::Place::noIndex, &schwach_cont}};
+    form::ControlArray<form::Label> Lab_schwach{*this, "Lab_schwach", maxZeilen - 1, &schwach_cont};
+    form::ControlArray<form::Label> gewicht{*this, "gewicht", maxZeilen - 1, &schwach_cont};
     form::Label einst_head{*this, {"einst_head"}};
     form::Group einst_cont{*this, {"einst_cont"}};
     form::ControlArray<form::Label> einst_lab{*this, "einst_lab", maxEinst, &einst_cont};

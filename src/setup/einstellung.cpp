@@ -47,6 +47,25 @@ Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung, so
     lb10(0).foreColour = base::colours::red;
     temp_Combo.backColour = farben::tempoOffen;
     temp_Combo.foreColour = base::colours::white;
+
+    for (const auto& [control, tag] : std::initializer_list<std::pair<form::Control&, const char*>>{
+             {lst_ska1, "Skalen ausgewählt"},
+             {lst_ska0, "Skalen auswählen"},
+             {Combo_mt, "Combo_mt#var"},
+             {skal_typ_cmb, "Skalentyp#var"},
+             {temp_Combo, "Tempo#var"},
+             {Combo_richtung, "Richtung#var"},
+             {CmbOktAnz, "Tonraum#var"},
+             {CmbOktBer, "Oktav-Bereich#var"}})
+        control.tag = tag;
+    for (const auto& [optionen, tag] : {std::pair{&stimm_g, "Stimmung"},
+                                        {&an_zeig, "Anzeige"},
+                                        {&ska_ausw, "Vorkommen"},
+                                        {&final, "Vorzeichen/Finalis"},
+                                        {&abfrage, "Abfolge"},
+                                        {&abfolge, "Tonfolge"},
+                                        {&frequenz, "Frequenz"}})
+        for (form::Option& option : *optionen) option.tag = tag;
     // What stands chosen at design; nothing is stored by it.
     for (form::Option* option : {&stimm_g(0), &an_zeig(0), &ska_ausw(0), &final(2), &abfrage(0),
                                  &abfolge(0), &frequenz(0)})
@@ -64,15 +83,20 @@ void Einstellung::Verbinden() {
     speichert(frequenz, "frequenz_click.", z.frequenz);
     speichert(stimm_g, "stimm_g_click.", z.stimmung);
     speichert(an_zeig, "an_zeig_click.", z.an_zeig);
-    speichert(final, "final_click.", z.final);
+    for (form::Option& option : final)
+        option.onClick = {"final_click.", [this, &option] { final_click(option.index()); }};
     for (form::Option& option : abfolge)
         option.onClick = {"abfolge_click.", [this, &option] { abfolge_click(option.index()); }};
     for (form::Option& option : ska_ausw)
         option.onClick = {"ska_ausw_click.", [this, &option] { ska_ausw_click(option.index()); }};
 
     temp_Combo.onSelect = {"temp_Combo_click.", [this] { z.tempoIdx = temp_Combo.listIndex(); }};
-    Combo_richtung.onSelect = {"Combo_richtung_click.",
-                               [this] { z.richtung = Combo_richtung.listIndex(); }};
+    Combo_richtung.onSelect = {"Combo_richtung_click.", [this] {
+                                   z.richtung = Combo_richtung.listIndex();
+                                   writeHint(z.richtung);
+                               }};
+    lst_ska0.onClick = {"lst_ska_click.", [this] { lst_ska_click(lst_ska0, lst_ska1); }};
+    lst_ska1.onClick = {"lst_ska_click.", [this] { lst_ska_click(lst_ska1, lst_ska0); }};
     skal_typ_cmb.onSelect = {"skal_typ_cmb_click.", [this] { skal_typ_cmb_click(); }};
     CmbOktAnz.onSelect = {"CmbOktAnz_click.", [this] { CmbOktAnz_click(); }};
     CmbOktBer.onSelect = {"CmbOktBer_click.", [this] { CmbOktBer_click(); }};
@@ -83,6 +107,11 @@ void Einstellung::Verbinden() {
     klang_contr.onClick = {"klang_contr_click.", [this] { klang_contr_click(); }};
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
     cmdZurueck.onClick = {"cmdZurueck_click.", [this] { cmdZurueck_click(); }};
+    cmdOptionSave.onClick = {"cmdOptionSave_click.", [this] { cmdOptionSave_click(); }};
+    cmdOptionRead.onClick = {"cmdOptionRead_click.", [this] { cmdOptionRead_click(); }};
+    for (form::Group& gruppe : grdeinst)
+        gruppe.onContext = {"grdeinst_MouseUp.", [this, &gruppe] { PruefungMarkieren(gruppe); }};
+    popExamToggle.onClick = {"popExamToggle_click.", [this] { popExamToggle_click(); }};
     cmdHilfe.onClick = {"cmdHilfe_click.", [this] { HilfeZeigen(); }};
     start.onTick = {"start_timer.", [this] { start_timer(); }};
 }
@@ -97,12 +126,13 @@ void Einstellung::start_timer() {
     if (z.ueb_typ == core::uebung::schreiben)
         for (form::Option* option : {&final(0), &final(1), &an_zeig(1)}) option->visible = false;
     CombosFuellen();
-    ska_ausw(1).enabled = false;
+    writeHint(0);
     bereit_ = true;
     Beschriften();
-    cmdOptionRead.visible = false;
-    cmdOptionSave.visible = false;
+    cmdOptionRead.visible = p.aufruf.pruefEdit;
+    cmdOptionSave.visible = p.aufruf.pruefEdit;
     forms().show(name());
+    StartdateiAnwenden();
 }
 
 void Einstellung::LadewerteSetzen() {
@@ -139,8 +169,9 @@ void Einstellung::CombosFuellen() {
     for (int typ = 0; typ < typen; ++typ) skal_typ_cmb.add(p.katalog.skal_typ_name[typ], ohneDaten);
     skal_typ_cmb.setListIndex(0);
     for (int modus = 0; modus < 5; ++modus)
-        training_Combo.add(modus == core::modus::fortsetzung ? core::keineFortsetzung
-                                                             : p.katalog.modus_name[modus]);
+        training_Combo.add(modus == core::modus::fortsetzung && !FortsetzungVorhanden()
+                               ? core::keineFortsetzung
+                               : p.katalog.modus_name[modus]);
     training_Combo.setListIndex(0);
     for (int n = 1; n <= 5; ++n) prfnr_Comb.add(Wort(426) + zahl(n), ohneDaten);
     prfnr_Comb.setListIndex(0);
@@ -150,14 +181,15 @@ void Einstellung::CombosFuellen() {
 
 void Einstellung::Beschriften() {
     for (const Gruppe& g : gruppen) geinst_lb(g.index).caption = Wort(g.wort);
-    beschriften({{lb0, 153},           {frequenz(0), 238}, {frequenz(1), 603}, {stimm_g(0), 546},
-                 {stimm_g(1), 458},    {stimm_g(2), 401},  {abfolge(0), 489},  {abfolge(1), 385},
-                 {lb4, 469},           {abfrage(0), 383},  {abfrage(1), 142},  {final(0), 621},
-                 {final(1), 240},      {final(2), 151},    {ska_ausw(0), 103}, {ska_ausw(1), 413},
-                 {an_zeig(0), 505},    {an_zeig(1), 157},  {klang_contr, 366}, {lb14(0), 372},
-                 {lb15(0), 547},       {lb10(1), 140},     {lb10(2), 135},     {cmdOptionRead, 829},
-                 {cmdOptionSave, 830}, {cmdHilfe, 816},    {cmdZurueck, 640},  {cmdOK, 432},
-                 {copyright, 6}});
+    beschriften(
+        {{lb0, 153},           {frequenz(0), 238},   {frequenz(1), 603}, {stimm_g(0), 546},
+         {stimm_g(1), 458},    {stimm_g(2), 401},    {abfolge(0), 489},  {abfolge(1), 385},
+         {lb4, 469},           {abfrage(0), 383},    {abfrage(1), 142},  {final(0), 621},
+         {final(1), 240},      {final(2), 151},      {ska_ausw(0), 103}, {ska_ausw(1), 413},
+         {an_zeig(0), 505},    {an_zeig(1), 157},    {klang_contr, 366}, {lb14(0), 372},
+         {lb15(0), 547},       {lb10(1), 140},       {lb10(2), 135},     {popExamToggle, 843},
+         {cmdOptionRead, 829}, {cmdOptionSave, 830}, {cmdHilfe, 816},    {cmdZurueck, 640},
+         {cmdOK, 432},         {copyright, 6}});
     lb15(1).caption = "=MM";
     struct Name {
         form::Control& control;
@@ -166,7 +198,8 @@ void Einstellung::Beschriften() {
     for (const auto& [control, wort] :
          {Name{CmbOktAnz, 107}, Name{CmbOktBer, 153}, Name{skal_typ_cmb, 494},
           Name{Combo_richtung, 469}, Name{training_Combo, 587}, Name{prfnr_Comb, 438},
-          Name{ComboPatch, 365}, Name{temp_Combo, 547}, Name{HSliderVolume, 372}})
+          Name{ComboPatch, 365}, Name{temp_Combo, 547}, Name{HSliderVolume, 372},
+          Name{lst_ska0, 140}, Name{lst_ska1, 135}})
         control.accessibleName = Wort(wort);
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 #include "core/formular.h"
 #include "results/wertung.h"
+#include "setup/auswahl.h"
 #include "setup/regeln.h"
 #include "sound/midi.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -43,17 +45,44 @@ class Einstellung final : public core::Formular {
 
     void skal_typ_cmb_click();
     void RegelnAnwenden();
+    void final_click(int index);
     void abfolge_click(int index);
     void CmbOktAnz_click();
     void CmbOktBer_click();
     void ComboPatch_click();
     void HSliderVolume_change();
+    Richtungen richtungen() const { return {z.abfolge, z.richtung}; }
     void ska_ausw_click(int index);
+    void AuswahlOeffnen();
+    void lst_ska_click(form::ListBox& quelle, form::ListBox& ziel);
+    void selectionCheck();
+    void writeHint(int flag);
+    void AuswahlStandZeigen();
+
     void training_Combo_click();
     void prfnr_Comb_click();
     void PruefungVorgeben();
     void GruppenOeffnen();
-    void sperren(form::Control& control);
+
+    /// A choice that a saved training keeps.
+    struct Gemerkt {
+        std::array<int, 2> stelle;  ///< its element in the saved settings of each branch, or keine
+        std::function<int()> lesen;
+        std::function<bool(int)> bietet;  ///< the form offers this value
+        std::function<void(int)> waehlen;
+    };
+    std::size_t stelle(const Gemerkt& wahl) const;
+    std::vector<Gemerkt> gemerkteWahl();
+    bool FortsetzungVorhanden();
+    core::Value::Array WahlMerken();
+    void WahlWiederherstellen(const core::Value& satz);
+    void TrainingFortsetzen();
+
+    void PruefungMarkieren(form::Group& gruppe);
+    void popExamToggle_click();
+    void cmdOptionSave_click();
+    void cmdOptionRead_click();
+    void StartdateiAnwenden();
     void klang_contr_click();
     void QueueEmpty();
     void TonHinweisZeigen();
@@ -72,6 +101,7 @@ class Einstellung final : public core::Formular {
     Zweig zweig_;
     bool bereit_ = false;
     bool abbruch_ = false;
+    form::Group* popGruppe_ = nullptr;  ///< of the last right-click
 
     // The order of the controls is also their order in a settings file.
     form::ControlArray<form::Group> grdeinst{
@@ -82,6 +112,8 @@ class Einstellung final : public core::Formular {
     form::ListBox lst_ska1{*this, {"lst_ska", 1, &kl_rahmen(1)}};
     form::ListBox lst_ska0{*this, {"lst_ska", 0, &kl_rahmen(0)}};
     form::ControlArray<form::Label> lb10{*this, "lb10", 3, &grdeinst(10)};
+    /// How many of the places are taken.
+    form::Label wahlStand{*this, {"wahlStand", ohne, &grdeinst(10)}};
     form::Combo Combo_mt{*this, {"Combo_mt", ohne, &grdeinst(3)}};
     form::ControlArray<form::Option> stimm_g{*this, "stimm_g", std::vector<int>{2, 0, 1},
                                              &grdeinst(3)};
@@ -117,6 +149,8 @@ class Einstellung final : public core::Formular {
     form::Button cmdZurueck{*this, {"cmdZurueck", ohne, &aktionsbox}};
     form::Button cmdOK{*this, {"cmdOK", ohne, &aktionsbox}};
     form::Label copyright{*this, {"copyright"}};
+    form::Menu popPruefung{*this, {"popPruefung"}};
+    form::MenuEntry popExamToggle{*this, {"popExamToggle", ohne, &popPruefung}};
     form::Timer start{*this, {"start"}, 200};
     form::Timer testtimer{*this, {"testtimer"}, 5000};
 };

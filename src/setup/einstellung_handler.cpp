@@ -1,5 +1,4 @@
 // What the choices of the set-up form do.
-#include "core/fortsetzung.h"
 #include "setup/einstellung.h"
 #include "sound/klang.h"
 
@@ -40,6 +39,7 @@ void Einstellung::abfolge_click(int index) {
     Combo_richtung.setListIndex(melodie ? 0 : 2);
     Combo_richtung.visible = !melodie;
     lb4.visible = !melodie;
+    writeHint(0);
 }
 
 void Einstellung::CmbOktAnz_click() {
@@ -68,15 +68,10 @@ void Einstellung::HSliderVolume_change() {
     lb14(1).caption = zahl(HSliderVolume.value());
 }
 
-void Einstellung::ska_ausw_click(int index) { z.ska_ausw = index; }
-
 void Einstellung::training_Combo_click() {
-    if (training_Combo.text() == core::keineFortsetzung) {
-        training_Combo.setListIndex(core::modus::training);
-        return;
-    }
     z.uebungsmodus = training_Combo.listIndex();
     prfnr_Comb.visible = false;
+    if (z.uebungsmodus == core::modus::fortsetzung) return TrainingFortsetzen();
     GruppenOeffnen();
     if (z.uebungsmodus == pruefung) {
         prfnr_Comb.visible = true;
@@ -95,15 +90,12 @@ void Einstellung::GruppenOeffnen() {
     temp_Combo.foreColour = base::colours::white;
 }
 
-void Einstellung::sperren(form::Control& control) {
-    control.enabled = false;
-    control.backColour = farben::gesperrt;
-    control.foreColour = base::colours::black;
-}
-
 void Einstellung::prfnr_Comb_click() {
     z.prfNr = prfnr_Comb.listIndex() + 1;
-    if (bereit_) PruefungVorgeben();
+    if (!bereit_) return;
+    PruefungVorgeben();
+    // An exam runs over all scales: a choice that is not enough must not stand in its way.
+    if (klang_contr.enabled()) cmdOK.enabled = true;
 }
 
 void Einstellung::PruefungVorgeben() {
@@ -143,6 +135,7 @@ void Einstellung::AuswahlUebernehmen() {
 }
 
 void Einstellung::ModusSchritt() {
+    if (z.uebungsmodus == core::modus::training) z.gelesen_e = WahlMerken();
     if (z.uebungsmodus == core::modus::test) {
         z.abfrage = 1;
         abfrage(1).choose();

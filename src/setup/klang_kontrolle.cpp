@@ -48,7 +48,10 @@ void Einstellung::klang_contr_click() {
 void Einstellung::QueueEmpty() {
     if (abbruch_ || !forms().last() || forms().last()->caption() != caption()) return;
     klang_contr.enabled = true;
-    cmdOK.enabled = true;
+    if (z.ska_ausw == 1)
+        selectionCheck();
+    else
+        cmdOK.enabled = true;
 }
 
 }  // namespace setup

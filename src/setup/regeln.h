@@ -1,5 +1,6 @@
 #pragma once
 #include "base/colour.h"
+#include "form/control.h"
 
 #include <array>
 
@@ -14,6 +15,9 @@ inline constexpr base::Colour modus = base::rgb(192, 255, 192);
 inline constexpr base::Colour klang = base::rgb(192, 255, 255);
 inline constexpr base::Colour tempoOffen = base::rgb(0, 0, 255);
 }  // namespace farben
+
+/// Locks a control and shows it.
+void sperren(form::Control& control);
 
 /// What a category of scales allows on the set-up form.
 struct Regel {
@@ -49,7 +53,8 @@ inline constexpr std::array pruefungsvorgaben{
     Pruefungsvorgabe{5, 7, 2, 2, 0},
 };
 
-/// Groups that a mode opens; the last two stay disabled while scales are being picked.
+/// Groups that a mode opens, and that a continued training locks; the last two stay disabled while
+/// scales are being picked.
 inline constexpr std::array modusGruppen{5, 9, 10, 7, 0, 2, 3, 11, 4, 1};
 /// Groups that an exam locks.
 inline constexpr std::array pruefungsGruppen{5, 4, 9, 7};

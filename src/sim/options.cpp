@@ -17,6 +17,7 @@ const char* const helpText = R"(zepha9-sim: the drill without a screen, with a s
   --seed N             the same seed gives the same runs (default 1)
   --learner KIND       perfect (default), wrong, random:P (right with chance P), confuse:A:B (takes
                        scale A for B and B for A, from 0), slow:SECONDS (right, but late)
+  --keep               a training that is left is saved, and the next run continues it
   --through-setup      take the whole road: start form, set-up form, worksheet, result form
   --words FILE         words of a language (.ts); without it a word tells its number
   --trace FILE         everything that happens, as JSON lines; "-" for standard output
@@ -63,6 +64,8 @@ Options parseOptions(std::span<const char* const> arguments) {
             options.record = value();
         } else if (option == "--words") {
             options.words = value();
+        } else if (option == "--keep") {
+            options.keep = true;
         } else if (option == "--through-setup") {
             options.throughSetup = true;
         } else {

@@ -21,6 +21,7 @@ struct Options {
     std::string record;  ///< file, "" for none
     std::string words;   ///< file of a language, "" for words that tell their number
     bool throughSetup = false;
+    bool keep = false;  ///< a training that is left is saved, and the next run continues it
     bool help = false;
 };
 

@@ -108,4 +108,11 @@ void SetupRoad::go(const std::vector<Assignment>& assignments, const core::Zusta
     }
 }
 
+void SetupRoad::resume() {
+    form::Form& form = setUpForm();
+    control<form::Combo>(form, "training_Combo").setListIndex(core::modus::fortsetzung);
+    if (p.zustand.uebungsmodus != core::modus::fortsetzung) notOffered("uebungsmodus");
+    control<form::Button>(form, "cmdOK").click();
+}
+
 }  // namespace sim

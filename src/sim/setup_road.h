@@ -16,6 +16,8 @@ class SetupRoad {
     /// at the set-up form to which the run before came back.
     /// @throws UsageError for a choice that the forms do not offer.
     void go(const std::vector<Assignment>& assignments, const core::Zustand& wanted);
+    /// Continues the saved training. @throws UsageError when the set-up form offers none.
+    void resume();
 
   private:
     form::Form& shown(const std::string& name);

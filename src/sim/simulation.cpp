@@ -19,6 +19,7 @@ Simulation::Simulation(const Options& options, std::ostream* trace)
       worksheet_(worksheet(options.form)),
       state_(exerciseState(worksheet_, options.assignments)),
       words_(options.words.empty() ? Words() : Words(options.words)),
+      dialogs_(options.keep),
       trace_(trace ? std::make_unique<Trace>(*trace, loop_) : nullptr),
       output_(trace_.get()),
       drill_({loop_, dialogs_, printer_, help_, host_.factory(), &words_},
@@ -50,6 +51,7 @@ void Simulation::startUp() {
 void Simulation::openWorksheet() {
     core::Zustand& z = drill_.programm.zustand;
     z = state_;
+    if (kept_) z.uebungsmodus = core::modus::fortsetzung;
     z.einst_liste = {std::to_string(2 * options_.assignments.size())};
     for (const auto& [field, value] : options_.assignments) {
         z.einst_liste.push_back(field);
@@ -66,15 +68,18 @@ Outcome Simulation::run() {
     faults_ = host_.faults().size();
     dialogs_.messages.clear();
     const std::int64_t begin = lastTurn_ = loop_.elapsed();
-    if (options_.throughSetup)
-        road_.go(options_.assignments, state_);
-    else
+    if (!options_.throughSetup)
         openWorksheet();
+    else if (kept_)
+        road_.resume();
+    else
+        road_.go(options_.assignments, state_);
     loop_.runUntil([this] {
         if (loop_.elapsed() - lastTurn_ > day) throw std::logic_error("the run stands still");
         return over_;
     });
     outcome_.milliseconds = loop_.elapsed() - begin;
+    kept_ = options_.keep && outcome_.ending == Ending::Left && outcome_.bar;
     std::error_code ignored;
     std::filesystem::remove(drill_.wertung.xml.datei(), ignored);
     return outcome_;

@@ -33,12 +33,16 @@ class Simulation {
     drill::Drill& drill() { return drill_; }
 
   private:
-    /// Message boxes are answered at once, with no.
+    /// Message boxes are answered at once; a training is saved when that is wanted.
     struct Dialogs final : form::Dialogs {
+        explicit Dialogs(bool keeps) : keep(keeps) {}
         void message(form::Icon, const std::string&, const std::string& text) override {
             messages.push_back(text);
         }
-        bool askYesNo(const std::string&, const std::string&) override { return false; }
+        bool askYesNo(const std::string&, const std::string&) override { return keep; }
+        std::string askOpenFile(const FileQuestion&) override { return {}; }
+        std::string askSaveFile(const FileQuestion&) override { return {}; }
+        const bool keep;
         std::vector<std::string> messages;
     };
     struct Printer final : form::Printer {
@@ -75,6 +79,7 @@ class Simulation {
     const engine::Arbeitsblatt* sheet_ = nullptr;
     Outcome outcome_;
     bool over_ = false;
+    bool kept_ = false;  ///< the run before was a training and was saved
     std::int64_t lastTurn_ = 0;
     std::size_t faults_ = 0;  ///< reported before this run
     form::Connection made_, gone_, turns_;

@@ -7,21 +7,35 @@
 #include "qt/message_loop.h"
 #include "qt/printer.h"
 #include "qt/windows.h"
+#include "setup/einstellungsdatei.h"
 #include "zepha9/lazy_output.h"
 
 #include <QApplication>
 #include <QDateTime>
+#include <QStandardPaths>
 #include <QSysInfo>
 
 namespace {
 
 std::string environment(const char* name) { return qEnvironmentVariable(name).toStdString(); }
 
+/// What follows an argument, "" when it was not given.
+std::string after(const QStringList& arguments, const QString& name) {
+    const auto at = arguments.indexOf(name);
+    return at < 0 ? std::string() : arguments.value(at + 1).toStdString();
+}
+
 core::Aufruf aufruf(const QStringList& arguments) {
     const std::string temp = environment("temp");
+    const std::string settings = after(arguments, QStringLiteral("--settings"));
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return {.kommandozeile = arguments.mid(1).join(' ').toStdString(),
             .tempOrdner = temp.empty() ? environment("TEMP") : temp,
-            .rechnername = QSysInfo::machineHostName().toStdString()};
+            .rechnername = QSysInfo::machineHostName().toStdString(),
+            .stueckeOrdner = documents.toStdString() + "/Melvora/Stuecke_Files",
+            .startdatei = settings,
+            .startTyp = settings.empty() ? core::uebung::bestimmen : setup::uebungstyp(settings),
+            .pruefEdit = arguments.contains(QStringLiteral("--teacher"))};
 }
 
 }  // namespace

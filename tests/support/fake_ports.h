@@ -20,6 +20,7 @@ struct ScriptedDialogs final : form::Dialogs {
     std::vector<Message> messages;
     std::vector<std::string> questions;  ///< "title|text"
     std::deque<bool> answers;
+    std::deque<std::string> files;  ///< what the file dialogs give; "" when none is left
 
     void message(form::Icon icon, const std::string& title, const std::string& text) override {
         messages.push_back({icon, title, text});
@@ -30,6 +31,17 @@ struct ScriptedDialogs final : form::Dialogs {
         const bool yes = answers.front();
         answers.pop_front();
         return yes;
+    }
+    std::string askOpenFile(const FileQuestion& question) override { return file(question); }
+    std::string askSaveFile(const FileQuestion& question) override { return file(question); }
+
+  private:
+    std::string file(const FileQuestion& question) {
+        questions.push_back(question.title + "|" + question.proposal);
+        if (files.empty()) return {};
+        std::string path = files.front();
+        files.pop_front();
+        return path;
     }
 };
 

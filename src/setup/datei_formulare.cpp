@@ -1,0 +1,88 @@
+#include "setup/datei_formulare.h"
+
+#include "setup/einstellungsdatei.h"
+
+#include <filesystem>
+
+namespace setup {
+
+namespace {
+
+/// The folder of the settings files; made when it is first needed. Where it cannot be made the file
+/// dialog opens elsewhere.
+std::string stueckeOrdner(const core::Programm& p) {
+    std::error_code fehler;
+    std::filesystem::create_directories(p.aufruf.stueckeOrdner, fehler);
+    return p.aufruf.stueckeOrdner;
+}
+
+}  // namespace
+
+DateiFormular::DateiFormular(core::Programm& programm, const std::string& name,
+                             const std::string& feld, const std::string& label, int titelWort,
+                             int pfadWort)
+    : Formular(programm, name),
+      pfadLabel_(*this, {label}),
+      txt_(*this, feld, 2, nullptr, form::TextBox::Size::Line) {
+    setCaption(Wort(titelWort));
+    beschriften({{pfadLabel_, pfadWort}, {beschreibung, 838}, {cmdOK, 432}});
+    cmdSave.caption = "...";
+    cmdSave.accessibleName = Wort(titelWort);
+    txt(0).accessibleName = Wort(pfadWort);
+    txt(1).accessibleName = Wort(838);
+    cmdSave.onClick = {"cmdSave_click.", [this] { cmdSave_click(); }};
+    cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
+}
+
+bool DateiFormular::key(form::Key key) {
+    using enum form::Key::Kind;
+    if (key.kind == Enter) cmdOK.click();
+    if (key.kind == Escape) closeBox();
+    return key.kind == Enter || key.kind == Escape || Formular::key(key);
+}
+
+void FrmSave::closeBox() {
+    SaveOptions.clear();
+    forms().hide(name());
+}
+
+void FrmSave::cmdSave_click() {
+    const std::string pfad = p.ports.dialogs.askSaveFile(
+        {Wort(841), stueckeOrdner(p) + "/VESHNA_Set_XX.mvs", Wort(842), "*.mvs"});
+    if (!pfad.empty()) txt(0).text = pfad;
+}
+
+void FrmSave::cmdOK_click() {
+    if (txt(0).text().empty()) return cmdSave_click();
+    SaveOptions = {{"File", txt(0).text()}, {"Desc", txt(1).text()}};
+    forms().hide(name());
+}
+
+void FrmLoad::closeBox() {
+    SettingFile.clear();
+    forms().hide(name());
+}
+
+void FrmLoad::cmdSave_click() {
+    const std::string pfad =
+        p.ports.dialogs.askOpenFile({Wort(839), stueckeOrdner(p), Wort(842), "*.mvs"});
+    if (pfad.empty()) return;
+    txt(0).text = pfad;
+    const auto kopf = EinstellungenLesen(pfad).kopf;
+    const auto modul = kopf.find("modul");
+    if (modul == kopf.end())
+        throw base::RuntimeError(base::ErrorNumber::PathAccess, core::eingesetzt(Wort(835), pfad));
+    const auto an = [&](const char* name) {
+        const auto teil = kopf.find(name);
+        return teil == kopf.end() ? std::string() : teil->second;
+    };
+    txt(1).text = modul->second + " Typ " + an("type") + "  - " + an("description");
+}
+
+void FrmLoad::cmdOK_click() {
+    if (txt(0).text().empty()) return cmdSave_click();
+    SettingFile = txt(0).text();
+    forms().hide(name());
+}
+
+}  // namespace setup
