@@ -1,6 +1,7 @@
 #include "notation/bild.h"
 
 #include "core/katalog.h"
+#include "notation/farbe.h"
 #include "notation/noten.h"
 
 #include <array>
@@ -13,7 +14,6 @@ namespace katalog = core::katalog;
 namespace {
 
 constexpr int c4 = 60;
-constexpr int obersteLinie = 16;
 /// The part of the staff surface that a picture shows begins here.
 constexpr int bildOben = 36;
 
@@ -66,10 +66,7 @@ static_assert([] {
 }());
 
 /// The spelling of a sound on a given letter.
-int aufStammton(int stammton, int halbtoene) {
-    const int rein = stammton * 2 - (stammton > 2 ? 1 : 0);
-    return qzVon(stammton, halbtoene - rein);
-}
+int aufStammton(int stammton, int hoehe) { return qzVon(stammton, hoehe - halbtoene(stammton)); }
 
 /// Modes: the base scale from C, read from a degree; moved so that all begin on C where one final
 /// is kept.
@@ -134,12 +131,24 @@ namespace {
 class Ausschnitt final : public Flaeche {
   public:
     explicit Ausschnitt(Flaeche& flaeche) : flaeche_(flaeche) {}
-    void linie(double x1, double y1, double x2, double y2, base::Colour farbe,
-               double breite) override {
-        flaeche_.linie(x1, y1 - bildOben, x2, y2 - bildOben, farbe, breite);
+    void leeren() override { flaeche_.leeren(); }
+    void fuellen(const Rechteck& r, Colour farbe) override {
+        flaeche_.fuellen({r.x, r.y - bildOben, r.breite, r.hoehe}, farbe);
     }
-    void scheibe(double x, double y, double radius, base::Colour farbe) override {
+    void linie(int x1, int y1, int x2, int y2, Colour farbe, Linienart art) override {
+        flaeche_.linie(x1, y1 - bildOben, x2, y2 - bildOben, farbe, art);
+    }
+    void figur(Figur figur, int x, int y, Colour farbe) override {
+        flaeche_.figur(figur, x, y - bildOben, farbe);
+    }
+    void kurve(Kurve kurve, int x, int y, Colour farbe) override {
+        flaeche_.kurve(kurve, x, y - bildOben, farbe);
+    }
+    void scheibe(double x, double y, double radius, Colour farbe) override {
         flaeche_.scheibe(x, y - bildOben, radius, farbe);
+    }
+    void text(int x, int y, std::string_view text, Colour farbe) override {
+        flaeche_.text(x, y - bildOben, text, farbe);
     }
 
   private:
@@ -152,7 +161,7 @@ void BildMalen(Flaeche& ziel, int nummer) {
     Bild bild{};
     if (!bildVon(nummer, bild)) return;
     Ausschnitt flaeche(ziel);
-    NotenlinienMalen(flaeche, bildBreite - 1, obersteLinie);
+    LinienMalen(flaeche, bildBreite, obersteLinie(schluessel::violin));
     ViolinschluesselMalen(flaeche);
     const auto toene = bildToene(bild);
     constexpr int links = 54, rechts = bildBreite - 14, weitester = 48;
@@ -160,9 +169,11 @@ void BildMalen(Flaeche& ziel, int nummer) {
         std::min(weitester, (rechts - links) / (static_cast<int>(toene.size()) - 1));
     int x = links;
     for (const Ton& ton : toene) {
-        const int y = yImViolinschluessel(ton);
-        HilfslinienMalen(flaeche, x, y, obersteLinie - 2, obersteLinie + 10);
-        NotenkopfMalen(flaeche, x, y, base::colours::black);
+        const i16 y = YAusTon(ton, schluessel::violin).y;
+        i16 zaehler = 0;
+        HilfslinienMalen(flaeche, x, y, hilfslinieOben(schluessel::violin),
+                         hilfslinieUnten(schluessel::violin), zaehler);
+        NotenkopfMalen(flaeche, x, y, farbe::schwarz);
         VorzeichenMalen(flaeche, x, y, vorzeichen(ton.qz));
         x += schritt;
     }

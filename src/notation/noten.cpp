@@ -1,87 +1,91 @@
 #include "notation/noten.h"
 
-#include "notation/kurve.h"
+#include "notation/farbe.h"
+#include "notation/figuren.h"
 
 namespace notation {
 
 namespace {
 
-constexpr Colour schwarz = base::colours::black;
-
-/// A stroke relative to the note head.
-struct Strich {
-    double x1, y1, x2, y2, breite;
-};
-
-template <std::size_t n>
-void malen(Flaeche& flaeche, double x, double y, const std::array<Strich, n>& striche) {
-    for (const Strich& s : striche)
-        flaeche.linie(x + s.x1, y + s.y1, x + s.x2, y + s.y2, schwarz, s.breite);
-}
-
-constexpr double beAbstand = 8;
-constexpr Strich beHals{-12.5, -15, -12.5, 5, 1.2};
-constexpr std::array beBauch{Punkt{-12.5, 5, 1}, Punkt{-8.8, 1.6, 1.5}, Punkt{-7.2, -1.8, 1.9},
-                             Punkt{-9.2, -3.7, 1.8}, Punkt{-12.3, -1.4, 1}};
-
-void be(Flaeche& flaeche, double x, double y) {
-    malen(flaeche, x, y, std::array{beHals});
-    kurveMalen(flaeche, x, y, beBauch);
-}
-
-constexpr std::array kreuz{Strich{-12, -9.5, -12, 11, 1.1}, Strich{-8.6, -11, -8.6, 9.5, 1.1},
-                           Strich{-13.8, -2.8, -6.8, -4.9, 2.3},
-                           Strich{-13.8, 4.9, -6.8, 2.8, 2.3}};
-
-constexpr std::array doppelkreuz{Strich{-13, -3, -7.4, 3, 1.6}, Strich{-13, 3, -7.4, -3, 1.6}};
-
-void doppelkreuzMalen(Flaeche& flaeche, double x, double y) {
-    malen(flaeche, x, y, doppelkreuz);
-    for (const Strich& s : doppelkreuz) {
-        flaeche.scheibe(x + s.x1, y + s.y1, 1.5, schwarz);
-        flaeche.scheibe(x + s.x2, y + s.y2, 1.5, schwarz);
-    }
-}
+constexpr Colour schwarz = linienFarbe(farbe::schwarz);
+constexpr int flaecheHoehe = 144;
+constexpr int halsLaenge = 24;
 
 }  // namespace
 
-void NotenkopfMalen(Flaeche& flaeche, int x, int y, Colour farbe) {
-    flaeche.linie(x - 1.6, y + 0.7, x + 2.2, y - 0.7, farbe, 6.6);
+void NotenkopfMalen(Flaeche& flaeche, i16 x, i16 y, int nummer, int zeile) {
+    const int k = y / 4;
+    const bool imZwischenraum = zeile != keineZeile && k > obersteLinie(zeile) && k % 2 == 1;
+    flaeche.figur(imZwischenraum ? Figur(figuren::kopf).subspan(1) : Figur(figuren::kopf), x, y,
+                  kopfFarbe(nummer));
 }
 
-int HilfslinienMalen(Flaeche& flaeche, int x, int y, int oben, int unten) {
+void HilfslinienMalen(Flaeche& flaeche, i16 x, i16 y, i16 oben, i16 unten, i16& zaehler) {
     const int k = y / 4;
-    int zaehler = 0;
     const auto hilfslinie = [&](int j) {
-        flaeche.linie(x - 7, 4 * j, x + 8, 4 * j, schwarz, 1);
+        flaeche.linie(x - 6, 4 * j, x + 7, 4 * j, schwarz);
         zaehler += 4;
     };
     for (int j = oben; j >= k; j -= 2) hilfslinie(j);
     for (int j = unten; j <= k; j += 2) hilfslinie(j);
-    return zaehler;
 }
 
-void VorzeichenMalen(Flaeche& flaeche, int x, int y, int vorzeichen) {
+void HalsMalen(Flaeche& flaeche, i16 x, i16 y, i16 zaehler, i16 wende) {
+    const i16 laenge = zaehler + halsLaenge;
+    if (y / 4 < wende)
+        flaeche.linie(x - 4, y, x - 4, y + laenge, schwarz);
+    else
+        flaeche.linie(x + 4, y, x + 4, y - laenge, schwarz);
+}
+
+void SpalteLoeschen(Flaeche& flaeche, i16 oben, i16 x) {
+    constexpr int breite = 2 * spalteHalb + 1;
+    const int links = x - spalteHalb;
+    flaeche.fuellen({links, 0, breite, flaecheHoehe + 1}, linienFarbe(farbe::weiss));
+    for (int j = oben; j <= oben + 8; j += 2)
+        flaeche.linie(links, 4 * j, links + breite, 4 * j, schwarz);
+}
+
+void BeMalen(Flaeche& flaeche, i16 ax, i16 ay) { flaeche.figur(figuren::be, ax, ay, schwarz); }
+
+void DoppelBeMalen(Flaeche& flaeche, i16 ax, i16 ay) {
+    BeMalen(flaeche, ax, ay);
+    BeMalen(flaeche, ax + 8, ay);
+}
+
+void KreuzMalen(Flaeche& flaeche, i16 ax, i16 ay) {
+    flaeche.figur(figuren::kreuz, ax, ay, schwarz);
+}
+
+void DoppelKreuzMalen(Flaeche& flaeche, i16 ax, i16 ay) {
+    flaeche.figur(figuren::doppelkreuz, ax, ay, schwarz);
+}
+
+void AufloesungMalen(Flaeche& flaeche, i16 ax, i16 ay) {
+    flaeche.figur(figuren::aufloesung, ax, ay, schwarz);
+}
+
+void VorzeichenMalen(Flaeche& flaeche, i16 x, i16 y, int vorzeichen) {
     switch (vorzeichen) {
         case -2:
-            be(flaeche, x - beAbstand, y);
-            [[fallthrough]];
+            return DoppelBeMalen(flaeche, x - 22, y - 17);
         case -1:
-            be(flaeche, x, y);
-            break;
+            return BeMalen(flaeche, x - 15, y - 17);
         case 1:
-            malen(flaeche, x, y, kreuz);
-            break;
+            return KreuzMalen(flaeche, x - 14, y - 12);
         case 2:
-            doppelkreuzMalen(flaeche, x, y);
-            break;
+            return DoppelKreuzMalen(flaeche, x - 14, y - 4);
         default:
-            break;
+            return;
     }
 }
 
-void NotenlinienMalen(Flaeche& flaeche, int breite, int oben) {
-    for (int k = oben; k <= oben + 8; k += 2) flaeche.linie(0, 4 * k, breite, 4 * k, schwarz, 1);
+void OktavMarkeMalen(Flaeche& flaeche, i16 x, i16 y, int nummer) {
+    flaeche.figur(figuren::oktavMarke, x, y, linienFarbe(nummer));
+}
+
+void LinienMalen(Flaeche& flaeche, int breite, i16 oben) {
+    for (int k = oben; k <= oben + 8; k += 2) flaeche.linie(0, 4 * k, breite, 4 * k, schwarz);
 }
 
 }  // namespace notation

@@ -1,28 +1,45 @@
 // The clefs.
-#include "notation/kurve.h"
+#include "notation/farbe.h"
+#include "notation/figuren.h"
 #include "notation/noten.h"
+
+#include <array>
 
 namespace notation {
 
 namespace {
 
+constexpr Colour schwarz = linienFarbe(farbe::schwarz);
+
 /// From the curl round the G line outward, up to the loop at the top, and down the stem to the
 /// foot.
-constexpr std::array violinschluessel{
-    Punkt{20.5, 91.5, 1.0},  Punkt{17.8, 88.5, 1.2},  Punkt{19.5, 84.6, 1.6},
-    Punkt{23.5, 83.6, 2.2},  Punkt{27.6, 87.0, 2.4},  Punkt{27.2, 92.6, 2.0},
-    Punkt{22.0, 96.3, 1.4},  Punkt{15.6, 94.2, 1.8},  Punkt{12.6, 88.0, 2.6},
-    Punkt{14.4, 81.0, 2.8},  Punkt{19.4, 74.4, 2.4},  Punkt{24.0, 68.0, 2.0},
-    Punkt{25.8, 60.5, 1.6},  Punkt{24.6, 53.8, 1.4},  Punkt{22.6, 51.6, 1.2},
-    Punkt{20.2, 55.5, 1.4},  Punkt{19.4, 62.5, 1.6},  Punkt{20.6, 74.0, 1.6},
-    Punkt{22.6, 90.0, 1.6},  Punkt{24.2, 103.0, 1.6}, Punkt{23.2, 108.2, 1.6},
-    Punkt{19.6, 109.6, 1.6}, Punkt{16.8, 107.4, 1.4}};
+constexpr std::array violin{
+    Kurvenpunkt{20.5, 91.5, 1.0},  Kurvenpunkt{17.8, 88.5, 1.2},  Kurvenpunkt{19.5, 84.6, 1.6},
+    Kurvenpunkt{23.5, 83.6, 2.2},  Kurvenpunkt{27.6, 87.0, 2.4},  Kurvenpunkt{27.2, 92.6, 2.0},
+    Kurvenpunkt{22.0, 96.3, 1.4},  Kurvenpunkt{15.6, 94.2, 1.8},  Kurvenpunkt{12.6, 88.0, 2.6},
+    Kurvenpunkt{14.4, 81.0, 2.8},  Kurvenpunkt{19.4, 74.4, 2.4},  Kurvenpunkt{24.0, 68.0, 2.0},
+    Kurvenpunkt{25.8, 60.5, 1.6},  Kurvenpunkt{24.6, 53.8, 1.4},  Kurvenpunkt{22.6, 51.6, 1.2},
+    Kurvenpunkt{20.2, 55.5, 1.4},  Kurvenpunkt{19.4, 62.5, 1.6},  Kurvenpunkt{20.6, 74.0, 1.6},
+    Kurvenpunkt{22.4, 90.0, 1.6},  Kurvenpunkt{23.6, 102.0, 1.6}, Kurvenpunkt{22.8, 107.0, 1.6},
+    Kurvenpunkt{19.6, 109.2, 1.4}, Kurvenpunkt{16.8, 108.2, 1.2}};
+
+/// From the head over the top and down the tail.
+constexpr std::array bass{Kurvenpunkt{9.0, 53.5, 1.6},  Kurvenpunkt{10.6, 50.2, 1.6},
+                          Kurvenpunkt{14.4, 48.8, 2.0}, Kurvenpunkt{18.8, 50.2, 2.8},
+                          Kurvenpunkt{21.2, 54.6, 3.2}, Kurvenpunkt{20.4, 60.2, 2.8},
+                          Kurvenpunkt{17.0, 65.6, 2.0}, Kurvenpunkt{9.6, 70.8, 0.8}};
 
 }  // namespace
 
 void ViolinschluesselMalen(Flaeche& flaeche) {
-    kurveMalen(flaeche, 0, 0, violinschluessel);
-    flaeche.scheibe(18.2, 105.2, 2.6, base::colours::black);
+    flaeche.kurve(violin, 0, 0, schwarz);
+    flaeche.scheibe(17, 105, 4, schwarz);
+}
+
+void BassschluesselMalen(Flaeche& flaeche) {
+    flaeche.scheibe(11.5, 54, 3.4, schwarz);
+    flaeche.kurve(bass, 0, 0, schwarz);
+    flaeche.figur(figuren::punkte, 0, 0, schwarz);
 }
 
 }  // namespace notation

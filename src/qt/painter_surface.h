@@ -7,19 +7,30 @@ namespace qt {
 
 inline QColor colour(base::Colour c) { return {c.r, c.g, c.b}; }
 
-/// Draws strokes with a painter, smooth at any scale.
+/// Draws with a painter: shapes, curves and circles smooth at any scale, lines and wipes on whole
+/// pixels of the screen, so that they are crisp and take each other away without a trace.
 class PainterSurface final : public notation::Flaeche {
   public:
-    explicit PainterSurface(QPainter& painter) : painter_(painter) {
-        painter_.setRenderHint(QPainter::Antialiasing);
-        painter_.translate(0.5, 0.5);
-    }
-    void linie(double x1, double y1, double x2, double y2, base::Colour farbe,
-               double breite) override;
+    /// @param extent what `leeren` makes white, in logical pixels.
+    explicit PainterSurface(QPainter& painter, const QRectF& extent = {});
+    void leeren() override;
+    void fuellen(const notation::Rechteck& r, base::Colour farbe) override;
+    void linie(int x1, int y1, int x2, int y2, base::Colour farbe,
+               notation::Linienart art) override;
+    void figur(notation::Figur figur, int x, int y, base::Colour farbe) override;
+    void kurve(notation::Kurve kurve, int x, int y, base::Colour farbe) override;
     void scheibe(double x, double y, double radius, base::Colour farbe) override;
+    void text(int x, int y, std::string_view text, base::Colour farbe) override;
 
   private:
+    void fuellePixel(const QRectF& devicePixels, base::Colour farbe);
+
     QPainter& painter_;
+    QRectF extent_;
 };
+
+/// The largest scale up to `fit` at which the lines of a staff lie whole pixels of the screen
+/// apart.
+double staffScale(double fit, double devicePixelRatio);
 
 }  // namespace qt

@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace qt {
 
 using notation::bildBreite;
@@ -41,9 +43,11 @@ const QPixmap& PictureWidget::drawn() {
     drawn_ = QPixmap(pixels);
     drawn_.setDevicePixelRatio(ratio);
     drawn_.fill(Qt::transparent);
-    const double scale = std::min((width() - 12.0) / bildBreite, (height() - 6.0) / bildHoehe);
+    const double scale =
+        staffScale(std::min((width() - 12.0) / bildBreite, (height() - 6.0) / bildHoehe), ratio);
     QPainter painter(&drawn_);
-    painter.translate((width() - bildBreite * scale) / 2, (height() - bildHoehe * scale) / 2);
+    painter.translate(std::round((width() - bildBreite * scale) / 2 * ratio) / ratio,
+                      std::round((height() - bildHoehe * scale) / 2 * ratio) / ratio);
     painter.scale(scale, scale);
     PainterSurface surface(painter);
     notation::BildMalen(surface, number_);

@@ -1,0 +1,108 @@
+#include "notation/blatt.h"
+
+#include "form/form.h"
+#include "notation/umriss.h"
+
+#include <algorithm>
+
+namespace notation {
+
+namespace {
+
+template <class... F>
+struct Fall : F... {
+    using F::operator()...;
+};
+
+constexpr Rechteck ueberall{-10000, -10000, 20000, 20000};
+
+}  // namespace
+
+void Blatt::ablegen(const Zug& zug) {
+    if (onAblegen && usable()) form().guard(name() + "_DragDrop.", [&] { onAblegen(zug); });
+}
+
+void Blatt::ueber(const Zug& zug, ZugZustand zustand) {
+    if (onUeber) form().guard(name() + "_DragOver.", [&] { onUeber(zug, zustand); });
+}
+
+bool Blatt::wuerdeAblehnen(const Zug& zug) const { return !usable() || !lehntAb || lehntAb(zug); }
+
+void Blatt::taste(Schreibtaste taste) {
+    if (onTaste && usable()) form().guard(name() + "_KeyDown.", [&] { onTaste(taste); });
+}
+
+void Blatt::leeren() {
+    gemaltes_.clear();
+    tell(form::Aspect::Picture);
+}
+
+void Blatt::fuellen(const Rechteck& r, Colour farbe) {
+    std::erase_if(gemaltes_, [&](const Gemaltes& g) { return r.enthaelt(rahmen(g)); });
+    dazu(Fuellung{r, farbe});
+}
+
+void Blatt::linie(int x1, int y1, int x2, int y2, Colour farbe, Linienart art) {
+    std::erase_if(gemaltes_, [&](const Gemaltes& g) {
+        const auto* l = std::get_if<Linie>(&g);
+        return l && l->x1 == x1 && l->y1 == y1 && l->x2 == x2 && l->y2 == y2 && l->art == art;
+    });
+    dazu(Linie{x1, y1, x2, y2, farbe, art});
+}
+
+void Blatt::figur(Figur figur, int x, int y, Colour farbe) {
+    std::erase_if(gemaltes_, [&](const Gemaltes& g) {
+        const auto* f = std::get_if<Form>(&g);
+        return f && f->x == x && f->y == y && f->figur.data() == figur.data() &&
+               f->figur.size() == figur.size();
+    });
+    dazu(Form{figur, x, y, farbe});
+}
+
+void Blatt::kurve(Kurve kurve, int x, int y, Colour farbe) { dazu(Bogen{kurve, x, y, farbe}); }
+
+void Blatt::scheibe(double x, double y, double radius, Colour farbe) {
+    dazu(Scheibe{x, y, radius, farbe});
+}
+
+void Blatt::text(int x, int y, std::string_view text, Colour farbe) {
+    dazu(Text{x, y, std::string(text), farbe});
+}
+
+void Blatt::dazu(Gemaltes g) {
+    gemaltes_.push_back(std::move(g));
+    tell(form::Aspect::Picture);
+}
+
+Rechteck Blatt::rahmen(const Gemaltes& g) {
+    const auto ausEcken = [](int x1, int y1, int x2, int y2) {
+        return Rechteck{std::min(x1, x2), std::min(y1, y2), std::max(std::abs(x2 - x1), 1),
+                        std::max(std::abs(y2 - y1), 1)};
+    };
+    return std::visit(Fall{[](const Fuellung& f) { return f.r; },
+                           [&](const Linie& l) { return ausEcken(l.x1, l.y1, l.x2, l.y2); },
+                           [&](const Form& f) {
+                               int links = 1000, oben = 1000, rechts = -1000, unten = -1000;
+                               for (const Strich& s : f.figur)
+                                   jederPunkt(s, [&](int x, int y) {
+                                       links = std::min(links, x), rechts = std::max(rechts, x + 1);
+                                       oben = std::min(oben, y), unten = std::max(unten, y + 1);
+                                   });
+                               return ausEcken(f.x + links, f.y + oben, f.x + rechts, f.y + unten);
+                           },
+                           [](const auto&) { return ueberall; }},
+                      g);
+}
+
+void Blatt::zeigen(Flaeche& ziel) const {
+    for (const Gemaltes& g : gemaltes_)
+        std::visit(Fall{[&](const Fuellung& f) { ziel.fuellen(f.r, f.farbe); },
+                        [&](const Linie& l) { ziel.linie(l.x1, l.y1, l.x2, l.y2, l.farbe, l.art); },
+                        [&](const Form& f) { ziel.figur(f.figur, f.x, f.y, f.farbe); },
+                        [&](const Bogen& b) { ziel.kurve(b.kurve, b.x, b.y, b.farbe); },
+                        [&](const Scheibe& s) { ziel.scheibe(s.x, s.y, s.radius, s.farbe); },
+                        [&](const Text& t) { ziel.text(t.x, t.y, t.text, t.farbe); }},
+                   g);
+}
+
+}  // namespace notation

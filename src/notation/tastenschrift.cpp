@@ -1,0 +1,67 @@
+#include "notation/tastenschrift.h"
+
+namespace notation {
+
+Tastenschrift::Tastenschrift(Notenzeile& zeile, Noteneingabe& eingabe, Palette& palette)
+    : zeile_(zeile), eingabe_(eingabe), palette_(palette) {
+    zeile_.PicBNot.onTaste = [this](Schreibtaste t) { taste(t); };
+}
+
+void Tastenschrift::AufgabeBeginnt() {
+    spalte_ = 1;
+    nehmen(-1);
+    markieren();
+}
+
+void Tastenschrift::taste(Schreibtaste taste) {
+    const int hier = quelle::mit(zeile_.NotSelb(spalte_).vorzeichen);
+    switch (taste) {
+        case Schreibtaste::Links:
+            return gehen(-1);
+        case Schreibtaste::Rechts:
+            return gehen(1);
+        case Schreibtaste::Hoch:
+            return ablegen(hier + 1);
+        case Schreibtaste::Tief:
+            return ablegen(hier - 1);
+        case Schreibtaste::Ablegen:
+            return ablegen(inHand_);
+        case Schreibtaste::Eins:
+        case Schreibtaste::Zwei:
+        case Schreibtaste::Drei:
+        case Schreibtaste::Vier:
+        case Schreibtaste::Fuenf:
+            return nehmen(static_cast<int>(taste) - static_cast<int>(Schreibtaste::Eins));
+    }
+}
+
+bool Tastenschrift::beschreibbar(int c) const {
+    return c >= 0 && c < Spaltenlage::spalten && eingabe_.spalteFrei(c) &&
+           zeile_.NotSelb(c).hatNote();
+}
+
+void Tastenschrift::gehen(int schritt) {
+    if (!beschreibbar(spalte_ + schritt)) return;
+    spalte_ += schritt;
+    markieren();
+}
+
+void Tastenschrift::nehmen(int index) {
+    inHand_ = index;
+    palette_.markieren(index);
+}
+
+void Tastenschrift::ablegen(int index) {
+    if (index < 0 || index >= quelle::anzahl) return;
+    eingabe_.DragDrop(zeile_.SchlZ(), static_cast<i16>(index),
+                      static_cast<float>(zeile_.lage().x(spalte_)),
+                      static_cast<float>(zeile_.NotSelb(spalte_).y()));
+}
+
+void Tastenschrift::markieren() {
+    constexpr int breite = Spaltenlage::abstand;
+    zeile_.PicBNot.marke =
+        Rechteck{zeile_.lage().x(spalte_) - breite / 2, 0, breite, zeile_.PicBNot.lage().hoehe};
+}
+
+}  // namespace notation

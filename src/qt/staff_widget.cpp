@@ -1,0 +1,253 @@
+#include "qt/staff_widget.h"
+
+#include "form/form.h"
+#include "look/look.h"
+#include "qt/painter_surface.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+
+#include <cmath>
+#include <optional>
+
+namespace qt {
+
+using notation::Blatt;
+using notation::Rechteck;
+using notation::Schreibtaste;
+using notation::ZugZustand;
+
+namespace {
+
+constexpr double largestScale = 2.5;
+constexpr auto dragFormat = "application/x-melvora-accidental";
+
+QRectF area(const Rechteck& r) { return QRectF(r.x, r.y, r.breite, r.hoehe); }
+
+void paintSurface(QPainter& painter, const Blatt& surface) {
+    const Rechteck& place = surface.lage();
+    painter.save();
+    painter.translate(place.x, place.y);
+    painter.setClipRect(QRectF(0, 0, place.breite, place.hoehe));
+    painter.fillRect(QRectF(0, 0, place.breite, place.hoehe), colour(surface.backColour()));
+    PainterSurface target(painter, QRectF(0, 0, place.breite, place.hoehe));
+    surface.zeigen(target);
+    painter.restore();
+}
+
+std::optional<Schreibtaste> writingKey(int key) {
+    switch (key) {
+        case Qt::Key_Left:
+            return Schreibtaste::Links;
+        case Qt::Key_Right:
+            return Schreibtaste::Rechts;
+        case Qt::Key_Up:
+            return Schreibtaste::Hoch;
+        case Qt::Key_Down:
+            return Schreibtaste::Tief;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return Schreibtaste::Ablegen;
+        default:
+            if (key < Qt::Key_1 || key > Qt::Key_5) return {};
+            return static_cast<Schreibtaste>(static_cast<int>(Schreibtaste::Eins) + key -
+                                             Qt::Key_1);
+    }
+}
+
+/// The surface that a drag began on.
+const form::Control* sourceOf(const QDropEvent& event) {
+    const auto* widget = dynamic_cast<StaffWidget*>(event.source());
+    return widget && event.mimeData()->hasFormat(dragFormat) ? &widget->surface() : nullptr;
+}
+
+}  // namespace
+
+StaffWidget::StaffWidget(Blatt& surface, QWidget* parent) : QWidget(parent), surface_(surface) {
+    for (form::Control* control : surface.form().controls())
+        if (control->container() == &surface && control->kind() == form::Kind::Surface)
+            held_.push_back(static_cast<Blatt*>(control));
+    const auto follow = [this](Blatt& shown) {
+        connections_.push_back(
+            shown.changed.connect([this](form::Aspect aspect) { surfaceChanged(aspect); }));
+    };
+    follow(surface);
+    for (Blatt* held : held_) follow(*held);
+    setAcceptDrops(!held_.empty());
+    if (surface.onTaste) setFocusPolicy(Qt::StrongFocus);
+    if (surface.zugbild) setCursor(Qt::OpenHandCursor);
+    setSizePolicy(held_.empty() ? QSizePolicy::Fixed : QSizePolicy::Expanding,
+                  held_.empty() ? QSizePolicy::Fixed : QSizePolicy::Expanding);
+}
+
+void StaffWidget::surfaceChanged(form::Aspect aspect) {
+    if (aspect != form::Aspect::Picture && aspect != form::Aspect::Visible &&
+        aspect != form::Aspect::Colour)
+        return;
+    drawn_ = {};
+    updateGeometry();
+    update();
+}
+
+QSize StaffWidget::sizeHint() const {
+    const Rechteck& place = surface_.lage();
+    return (QSizeF(place.breite, place.hoehe) * look::scale()).toSize();
+}
+
+QSize StaffWidget::minimumSizeHint() const {
+    return {surface_.lage().breite, surface_.lage().hoehe};
+}
+
+double StaffWidget::scale() const {
+    const Rechteck& place = surface_.lage();
+    if (place.breite == 0) return 1;
+    const double fit =
+        std::min({width() / double(place.breite), height() / double(place.hoehe), largestScale});
+    return staffScale(fit, devicePixelRatioF());
+}
+
+/// On a whole pixel of the screen.
+QPointF StaffWidget::origin() const {
+    const Rechteck& place = surface_.lage();
+    const double ratio = devicePixelRatioF();
+    const auto middle = [&](double room, double taken) {
+        return std::round((room - taken * scale()) / 2 * ratio) / ratio;
+    };
+    return {middle(width(), place.breite), middle(height(), place.hoehe)};
+}
+
+QPointF StaffWidget::placeOf(const Blatt& surface, QPointF point) const {
+    if (&surface != &surface_) point += QPointF(surface.lage().x, surface.lage().y);
+    return origin() + point * scale();
+}
+
+/// Drawn once for what stands there and its size.
+const QPixmap& StaffWidget::drawn() {
+    const double ratio = devicePixelRatioF();
+    const Rechteck& place = surface_.lage();
+    const QSize pixels = (QSizeF(place.breite, place.hoehe) * scale() * ratio).toSize();
+    if (drawn_.size() == pixels && drawn_.devicePixelRatio() == ratio) return drawn_;
+    drawn_ = QPixmap(pixels);
+    drawn_.setDevicePixelRatio(ratio);
+    QPainter painter(&drawn_);
+    painter.scale(scale(), scale());
+    paintSurface(painter, surface_);
+    for (const Blatt* held : held_)
+        if (held->visible()) paintSurface(painter, *held);
+    if (surface_.beschreibung)
+        setAccessibleDescription(QString::fromStdString(surface_.beschreibung()));
+    return drawn_;
+}
+
+void StaffWidget::paintEvent(QPaintEvent*) {
+    if (surface_.lage().breite == 0) return;
+    QPainter painter(this);
+    painter.drawPixmap(origin(), drawn());
+    if (!isEnabled()) {
+        QColor veil = look::page;
+        veil.setAlpha(90);
+        painter.fillRect(QRectF(origin(), QSizeF(drawn_.deviceIndependentSize())), veil);
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool marked = surface_.marke().breite > 0 && (hasFocus() || !surface_.onTaste);
+    if (marked) {
+        const QRectF mark = area(surface_.marke());
+        QColor inside = look::accent;
+        inside.setAlpha(24);
+        painter.setPen(QPen(look::accent, 1.5));
+        painter.setBrush(inside);
+        painter.drawRoundedRect(
+            QRectF(placeOf(surface_, mark.topLeft()), mark.size() * scale()).adjusted(1, 1, -1, -1),
+            4, 4);
+    }
+}
+
+void StaffWidget::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->pos();
+    if (surface_.onTaste) setFocus(Qt::MouseFocusReason);
+}
+
+void StaffWidget::mouseMoveEvent(QMouseEvent* event) {
+    const bool far =
+        (event->pos() - pressed_).manhattanLength() >= QApplication::startDragDistance();
+    if (!surface_.zugbild || !(event->buttons() & Qt::LeftButton) || !far) return;
+    const Blatt& icon = *surface_.zugbild;
+    const double ratio = devicePixelRatioF(), size = look::scale();
+    QPixmap picture((QSizeF(icon.lage().breite, icon.lage().hoehe) * size * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    {
+        QPainter painter(&picture);
+        painter.scale(size, size);
+        PainterSurface target(painter);
+        icon.zeigen(target);
+    }
+    auto* drag = new QDrag(this);
+    auto* content = new QMimeData;
+    content->setData(dragFormat, QByteArray::number(surface_.index()));
+    drag->setMimeData(content);
+    drag->setPixmap(picture);
+    drag->setHotSpot(QRectF(QPointF(), picture.deviceIndependentSize()).center().toPoint());
+    drag->exec(Qt::CopyAction);
+}
+
+Blatt* StaffWidget::target() const {
+    for (Blatt* held : held_)
+        if (held->visible()) return held;
+    return nullptr;
+}
+
+notation::Zug StaffWidget::dragAt(const form::Control& source, QPointF position) const {
+    const QPointF at = (position - placeOf(*target(), {})) / scale();
+    return {source, static_cast<float>(at.x()), static_cast<float>(at.y())};
+}
+
+void StaffWidget::dragEnterEvent(QDragEnterEvent* event) {
+    source_ = sourceOf(*event);
+    entered_ = target();
+    if (!source_ || !entered_) return event->ignore();
+    entered_->ueber(dragAt(*source_, event->position()), ZugZustand::Betreten);
+    event->acceptProposedAction();
+}
+
+void StaffWidget::dragMoveEvent(QDragMoveEvent* event) {
+    if (!source_ || !entered_ || entered_ != target()) return event->ignore();
+    const auto drag = dragAt(*source_, event->position());
+    entered_->ueber(drag, ZugZustand::Ueber);
+    event->setAccepted(!entered_->wuerdeAblehnen(drag));
+    if (event->isAccepted()) event->acceptProposedAction();
+}
+
+void StaffWidget::dragLeaveEvent(QDragLeaveEvent*) {
+    if (source_ && entered_) entered_->ueber({*source_, 0, 0}, ZugZustand::Verlassen);
+    source_ = nullptr;
+    entered_ = nullptr;
+}
+
+void StaffWidget::dropEvent(QDropEvent* event) {
+    if (source_ && entered_) {
+        entered_->ablegen(dragAt(*source_, event->position()));
+        event->acceptProposedAction();
+    }
+    source_ = nullptr;
+    entered_ = nullptr;
+}
+
+void StaffWidget::keyPressEvent(QKeyEvent* event) {
+    const auto key = writingKey(event->key());
+    if (!key || !surface_.onTaste) return QWidget::keyPressEvent(event);
+    surface_.taste(*key);
+}
+
+void StaffWidget::changeEvent(QEvent* event) {
+    if (event->type() != QEvent::EnabledChange) return;
+    // A task that closes takes the accidental out of the user's hand.
+    if (!isEnabled()) QDrag::cancel();
+    update();
+}
+
+}  // namespace qt

@@ -1,0 +1,57 @@
+#pragma once
+#include "form/signal.h"
+#include "notation/blatt.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include <vector>
+
+namespace qt {
+
+/// Shows a drawn surface with the surfaces that it holds, as large as sensible and in the middle,
+/// sharp at the screen's scale. The user may drag its picture away, drop such a picture on it and
+/// write on it by keys; positions are told in the pixels of the surface.
+class StaffWidget final : public QWidget {
+  public:
+    explicit StaffWidget(notation::Blatt& surface, QWidget* parent = nullptr);
+
+    notation::Blatt& surface() const { return surface_; }
+    /// Logical pixels of the screen to one of the surface.
+    double scale() const;
+    /// Where a point of a surface shown here lies in this widget.
+    QPointF placeOf(const notation::Blatt& surface, QPointF point) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return false; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void surfaceChanged(form::Aspect aspect);
+    const QPixmap& drawn();
+    QPointF origin() const;
+    /// The visible surface inside this one that takes drops; nullptr for none.
+    notation::Blatt* target() const;
+    notation::Zug dragAt(const form::Control& source, QPointF position) const;
+
+    notation::Blatt& surface_;
+    std::vector<notation::Blatt*> held_;
+    std::vector<form::Connection> connections_;
+    QPixmap drawn_;
+    QPoint pressed_;
+    notation::Blatt* entered_ = nullptr;
+    const form::Control* source_ = nullptr;
+};
+
+}  // namespace qt
