@@ -95,6 +95,7 @@ void Einstellung::prfnr_Comb_click() {
     if (!bereit_) return;
     PruefungVorgeben();
     // An exam runs over all scales: a choice that is not enough must not stand in its way.
+    lb10(0).visible = false;
     if (klang_contr.enabled()) cmdOK.enabled = true;
 }
 

@@ -7,7 +7,9 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -82,7 +84,8 @@ void look(Stage& stage, const std::string& form, const std::string& picture) {
         SCOPED_TRACE(picture + " " + name);
         QWidget& window = stage.window(form);
         ASSERT_TRUE(window.isVisible());
-        window.resize(form == "grd_einst" ? window.size() : size);
+        const bool small = form == "grd_einst" || form == "frmSave" || form == "frmLoad";
+        window.resize(small ? window.size() : size);
         QApplication::processEvents();
         expectReadable(window);
         keepPicture(window, picture + "-" + name);
@@ -99,6 +102,16 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
         stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(4);
         look(stage, "einstellung1", language + "-3-exam");
         stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);
+        stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+        for (const int item : {4, 4, 0})
+            stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(item);
+        look(stage, "einstellung1", language + "-8-chosen");
+        stage.control<form::Option>("einstellung1", "ska_ausw", 0).click();
+        for (const char* dialog : {"frmSave", "frmLoad"}) {
+            stage.drill.programm.forms.load(dialog);
+            look(stage, dialog, language + "-9-" + dialog);
+            stage.drill.programm.forms.unload(dialog);
+        }
         stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(6);
         stage.openWorksheet();
         stage.task(true);
@@ -158,6 +171,35 @@ TEST(Windows, TheWholeRoadByKeyboard) {
     EXPECT_TRUE(stage.window("einstellung1").isVisible());
     stage.press("einstellung1", Qt::Key_Escape);
     EXPECT_TRUE(stage.window("grd_einst").isVisible());
+}
+
+TEST(Windows, ScalesAreChosenByKeyboard) {
+    Stage stage;
+    stage.openSetup();
+    stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+    auto& offered = stage.widget<QListWidget>("einstellung1", "lst_ska_0");
+    auto& chosen = stage.widget<QListWidget>("einstellung1", "lst_ska_1");
+    offered.setFocus();
+    offered.setCurrentRow(3);
+    const auto press = [](QWidget& widget, Qt::Key key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &event);
+    };
+    press(offered, Qt::Key_Return);
+    press(offered, Qt::Key_Space);
+    EXPECT_EQ(chosen.count(), 2);
+    EXPECT_EQ(offered.count(), 12);
+    EXPECT_EQ(offered.currentRow(), 3) << "the focus stays where it was";
+    EXPECT_EQ(chosen.item(0)->text(), "- dorisch");
+    chosen.setCurrentRow(0);
+    press(chosen, Qt::Key_Enter);
+    EXPECT_EQ(chosen.count(), 1);
+    for (int exam = 1; exam <= 5; ++exam) {
+        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(4);
+        stage.control<form::Combo>("einstellung1", "prfnr_Comb").setListIndex(exam - 1);
+        QApplication::processEvents();
+        keepPicture(stage.window("einstellung1"), "exam-" + std::to_string(exam));
+    }
 }
 
 TEST(Windows, WidgetsTellTheFormAndFollowIt) {

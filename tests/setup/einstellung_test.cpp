@@ -1,58 +1,15 @@
 // The set-up form as a user meets it: what each choice stores, locks and forces.
-#include "drill/drill.h"
-#include "form/controls.h"
-#include "support/fake_host.h"
-#include "support/fake_ports.h"
-#include "support/fake_words.h"
-#include "support/recording_midi.h"
+#include "setup/set_up.h"
 
 #include <gtest/gtest.h>
+
+namespace setup::test {
 
 namespace {
 
 using base::rgb;
 constexpr base::Colour gesperrt = rgb(255, 192, 192);
 constexpr base::Colour offen = rgb(255, 255, 192);
-
-struct SetUp : ::testing::Test {
-    form::VirtualTime loop;
-    support::FakeHost host;
-    support::FakeWords words;
-    support::ScriptedDialogs dialogs;
-    support::FakePrinter printer;
-    support::FakeHelp help;
-    support::RecordingMidi midi{loop};
-    drill::Drill drill{{loop, dialogs, printer, help, [this] { return host.connect(); }, &words},
-                       {"", "/nowhere", "desk"},
-                       midi,
-                       1};
-    core::Zustand& z = drill.programm.zustand;
-
-    SetUp() {
-        drill.programm.forms.load("grd_einst");
-        loop.advance(5);
-        get<form::Button>("cmdOK", form::Place::noIndex, "grd_einst").click();
-        loop.advance(250);
-    }
-    template <class C>
-    C& get(const std::string& name, int index = form::Place::noIndex,
-           const std::string& formName = "einstellung1") {
-        return static_cast<C&>(*drill.programm.forms.loaded(formName)->find(name, index));
-    }
-    form::Option& option(const std::string& name, int index) {
-        return get<form::Option>(name, index);
-    }
-    form::Combo& combo(const std::string& name) { return get<form::Combo>(name); }
-    form::Button& button(const std::string& name) { return get<form::Button>(name); }
-    bool usable(const std::string& name, int index) {
-        return get<form::Control>(name, index).usable();
-    }
-    std::string recap(const std::string& label) {
-        for (std::size_t i = 1; i + 1 < z.einst_liste.size(); i += 2)
-            if (z.einst_liste[i] == label) return z.einst_liste[i + 1];
-        return "-";
-    }
-};
 
 TEST_F(SetUp, OpensWithItsLoadValues) {
     EXPECT_EQ(z.richtung, 2);
@@ -238,3 +195,5 @@ TEST_F(SetUp, TheVolumeIsTheVelocityOfEveryNote) {
 }
 
 }  // namespace
+
+}  // namespace setup::test

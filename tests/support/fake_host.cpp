@@ -33,7 +33,13 @@ bool FakeHost::answer(const std::string& key, const core::Value& argument, core:
     if (key == "LANG") result = language;
     if (key == "LOGIN" && user) result = *user;
     if (key == "LOGMESS") log.push_back(argument.text());
-    if (key == "STORE") records[record] = argument.at(2);
+    if (key == "STORE") {
+        if (storesUntilGone && (*storesUntilGone)-- == 0) {
+            gone = true;
+            throw core::HostGone("gone");
+        }
+        records[record] = argument.at(2);
+    }
     if (key == "READ")
         result = records.contains(record) ? records.at(record) : core::Value::Array{"", "NIL"};
     if (key == "LOGERR") {

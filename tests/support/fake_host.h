@@ -12,10 +12,11 @@ namespace support {
 
 /// A host in memory. A test sets what it answers and reads what it was told.
 struct FakeHost {
-    bool present = true;            ///< false: the host object can't be made
-    bool gone = false;              ///< true: every call fails as a call
-    std::set<std::string> failing;  ///< keys whose call fails as a call
-    std::set<std::string> refused;  ///< keys answered false, the default left alone
+    bool present = true;                 ///< false: the host object can't be made
+    bool gone = false;                   ///< true: every call fails as a call
+    std::optional<int> storesUntilGone;  ///< after so many stores the host is gone
+    std::set<std::string> failing;       ///< keys whose call fails as a call
+    std::set<std::string> refused;       ///< keys answered false, the default left alone
     std::string started = "ZEPHA9.EXE";
     std::optional<std::string> midi = "-1";
     std::string language = "Deutsch";

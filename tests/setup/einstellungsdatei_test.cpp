@@ -1,0 +1,169 @@
+// Settings files: what is written, byte for byte, and what reading back does to the form.
+#include "setup/einstellungsdatei.h"
+
+#include "base/whole_file.h"
+#include "setup/set_up.h"
+
+#include <filesystem>
+#include <fstream>
+
+namespace setup::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The set-up form of a teacher, and a folder for its files.
+struct Datei : ::testing::Test {
+    support::FakeHost host;
+    fs::path folder = fs::path(::testing::TempDir()) / "settings_test";
+    Session teacher{host,
+                    {.tempOrdner = "/nowhere",
+                     .stueckeOrdner = (folder / "Stuecke_Files").string(),
+                     .pruefEdit = true}};
+
+    Datei() { fs::create_directories(folder); }
+    ~Datei() override { fs::remove_all(folder); }
+
+    void mark(int group) {
+        teacher.group(group).context();
+        teacher.get<form::MenuEntry>("popExamToggle").click();
+    }
+    std::string text() {
+        return EinstellungenText(*teacher.drill.programm.forms.loaded("einstellung1"), 1, "für ♭");
+    }
+};
+
+TEST_F(Datei, HoldsTheMarkedChoicesInTheOrderOfTheForm) {
+    EXPECT_EQ(text(),
+              "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\r\n<test>\r\n  <basic>\r\n"
+              "    <modul>VESHNA</modul>\r\n    <type>1</type>\r\n"
+              "    <description>f\xfcr ?</description>\r\n  </basic>\r\n  <setting>\r\n"
+              "  </setting>\r\n</test>\r\n");
+    for (const int group : {3, 1, 10}) mark(group);
+    EXPECT_EQ(teacher.group(3).backColour(), base::rgb(128, 255, 128));
+    mark(1);
+    EXPECT_EQ(teacher.group(1).backColour(), base::rgb(255, 255, 192)) << "the mark is off again";
+    teacher.option("stimm_g", 2).click();
+    teacher.combo("Combo_richtung").setListIndex(0);
+    teacher.option("ska_ausw", 1).click();
+    teacher.pick(4);
+    const std::string all = text();
+    const auto at = all.find("  <setting>");
+    EXPECT_EQ(all.substr(at, all.find("<control title=\"Skalen ausw\xe4hlen") - at),
+              "  <setting>\r\n    <control title=\"Skalen ausgew\xe4hlt\">\r\n"
+              "      <cname>lst_ska</cname>\r\n      <index>1</index>\r\n"
+              "      <value text=\"+ W377\">+ W377</value>\r\n    </control>\r\n    ");
+    const auto combo = all.find("    <control title=\"Combo_mt#var\">");
+    EXPECT_EQ(all.substr(combo),
+              "    <control title=\"Combo_mt#var\">\r\n      <cname>Combo_mt</cname>\r\n"
+              "      <value text=\"W355\">0</value>\r\n    </control>\r\n"
+              "    <control title=\"Stimmung\">\r\n      <cname>stimm_g</cname>\r\n"
+              "      <index>2</index>\r\n      <value text=\"W401\">True</value>\r\n"
+              "    </control>\r\n  </setting>\r\n</test>\r\n");
+}
+
+TEST_F(Datei, ReadBackOnAnotherMachineItSetsAndLocks) {
+    for (const int group : {0, 1, 2, 3, 4, 5, 7, 11, 15}) mark(group);
+    teacher.combo("skal_typ_cmb").setListIndex(1);
+    teacher.combo("temp_Combo").setListIndex(6);
+    teacher.option("stimm_g", 1).click();
+    teacher.option("final", 0).click();
+    teacher.option("abfolge", 1).click();
+    teacher.combo("CmbOktAnz").setListIndex(1);
+    teacher.combo("CmbOktBer").setListIndex(0);
+    const fs::path file = folder / "a.mvs";
+    teacher.dialogs.files = {file.string()};
+    auto& forms = teacher.drill.programm.forms;
+    const form::Connection dialog = forms.made.connect([&](form::Form& form) {
+        if (form.name() != "frmSave") return;
+        teacher.loop.post([&] {
+            teacher.get<form::Button>("cmdSave", form::Place::noIndex, "frmSave").click();
+            teacher.get<form::Button>("cmdOK", form::Place::noIndex, "frmSave").click();
+        });
+    });
+    teacher.button("cmdOptionSave").click();
+    EXPECT_FALSE(forms.loaded("frmSave"));
+    EXPECT_EQ(teacher.dialogs.questions.back(),
+              "W841|" + (folder / "Stuecke_Files" / "VESHNA_Set_XX.mvs").string());
+
+    support::FakeHost other;
+    Session pupil(other, {.tempOrdner = "/nowhere", .startdatei = file.string()});
+    EXPECT_EQ(pupil.z.skal_typ, 1);
+    EXPECT_EQ(pupil.z.tempoIdx, 6);
+    EXPECT_EQ(pupil.z.stimmung, 1);
+    EXPECT_EQ(pupil.z.final, 0);
+    EXPECT_EQ(pupil.z.abfolge, 1);
+    EXPECT_EQ(pupil.z.FrquMinAkt, 36);
+    EXPECT_EQ(pupil.z.FrquMaxAkt, 72);
+    for (const int i : {0, 1, 2, 3, 4, 5, 7, 11, 15}) {
+        EXPECT_FALSE(pupil.group(i).enabled()) << i;
+        EXPECT_EQ(pupil.group(i).backColour(), base::rgb(255, 192, 192));
+    }
+    EXPECT_TRUE(pupil.group(9).enabled());
+    EXPECT_FALSE(pupil.button("cmdOptionSave").visible());
+    pupil.button("cmdOK").click();
+    EXPECT_TRUE(pupil.drill.programm.forms.loaded("arbeitsblatt1"));
+}
+
+TEST_F(Datei, TheFirstEntryThatIsNotOfferedEndsTheReading) {
+    const auto entry = [](const std::string& name, const std::string& rest) {
+        return "<control><cname>" + name + "</cname>" + rest + "</control>";
+    };
+    struct Row {
+        const char* name;
+        std::string entry;
+        bool goesOn;
+    };
+    for (const Row& row : {
+             Row{"combo beyond its items", entry("skal_typ_cmb", "<value>7</value>"), true},
+             Row{"combo below", entry("skal_typ_cmb", "<value>-2</value>"), false},
+             Row{"no number", entry("skal_typ_cmb", "<value>x</value>"), false},
+             Row{"no value", entry("skal_typ_cmb", ""), false},
+             Row{"unknown control", entry("nothing", "<value>0</value>"), false},
+             Row{"unknown index", entry("final", "<index>7</index><value>True</value>"), false},
+             Row{"other prefix", entry("x:final", "<index>1</index><value>True</value>"), false},
+             Row{"a button", entry("klang_contr", "<value>True</value>"), true},
+         }) {
+        SCOPED_TRACE(row.name);
+        support::FakeHost fresh;
+        Session s(fresh);
+        EinstellungenAnwenden(
+            *s.drill.programm.forms.loaded("einstellung1"),
+            EinstellungenLesenAus("<a:test><basic/>" + row.entry +
+                                  "<a:control><cname>temp_Combo</cname><value>4</value>"
+                                  "</a:control></a:test>"));
+        EXPECT_EQ(s.z.tempoIdx, row.goesOn ? 4 : 1);
+        EXPECT_EQ(s.z.skal_typ, 0);
+        EXPECT_TRUE(s.dialogs.messages.empty());
+    }
+}
+
+TEST_F(Datei, WhatCannotBeWrittenOrReadIsToldWithItsPath) {
+    teacher.words.texts = {{"834s", "not to %1"}, {"835s", "no settings: %1"}};
+    const auto press = [&](const char* form, const char* button) {
+        teacher.get<form::Button>(button, form::Place::noIndex, form).click();
+    };
+    teacher.drill.programm.forms.load("frmLoad");
+    std::ofstream(folder / "bad.mvs") << "<a><b></a>";
+    teacher.dialogs.files = {(folder / "bad.mvs").string()};
+    press("frmLoad", "cmdSave");
+    EXPECT_NE(teacher.dialogs.messages.back().text.find("bad.mvs"), std::string::npos);
+    EXPECT_EQ(teacher.dialogs.questions.back(), "W839|" + (folder / "Stuecke_Files").string());
+    EXPECT_TRUE(fs::is_directory(folder / "Stuecke_Files"));
+
+    EinstellungenSchreiben((folder / "good.mvs").string(), text());
+    teacher.dialogs.files = {(folder / "good.mvs").string()};
+    press("frmLoad", "cmdSave");
+    EXPECT_EQ(teacher.get<form::TextBox>("txtLoad", 1, "frmLoad").text(), "VESHNA Typ 1  - für ?");
+
+    std::ofstream(folder / "big.mvs") << std::string(2 << 20, ' ');
+    EXPECT_TRUE(EinstellungenLesen((folder / "big.mvs").string()).leer());
+    EXPECT_TRUE(EinstellungenLesen(folder.string()).leer());
+    EXPECT_THROW(EinstellungenSchreiben("/nowhere/x.mvs", "x"), std::system_error);
+    EXPECT_EQ(base::readWhole((folder / "good.mvs").string(), 1 << 20), text());
+}
+
+}  // namespace
+
+}  // namespace setup::test

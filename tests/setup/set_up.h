@@ -1,0 +1,71 @@
+#pragma once
+#include "drill/drill.h"
+#include "form/controls.h"
+#include "support/fake_host.h"
+#include "support/fake_ports.h"
+#include "support/fake_words.h"
+#include "support/recording_midi.h"
+
+#include <gtest/gtest.h>
+
+namespace setup::test {
+
+/// The drill with its set-up form open, on a host that may outlive it.
+struct Session {
+    form::VirtualTime loop;
+    support::FakeWords words;
+    support::ScriptedDialogs dialogs;
+    support::FakePrinter printer;
+    support::FakeHelp help;
+    support::RecordingMidi midi{loop};
+    drill::Drill drill;
+    core::Zustand& z = drill.programm.zustand;
+
+    explicit Session(support::FakeHost& host,
+                     core::Aufruf aufruf = {.tempOrdner = ::testing::TempDir(),
+                                            .rechnername = "desk"})
+        : drill{{loop, dialogs, printer, help, [&host] { return host.connect(); }, &words},
+                std::move(aufruf),
+                midi,
+                1} {
+        drill.programm.forms.load("grd_einst");
+        loop.advance(5);
+        get<form::Button>("cmdOK", form::Place::noIndex, "grd_einst").click();
+        loop.advance(250);
+    }
+    template <class C>
+    C& get(const std::string& name, int index = form::Place::noIndex,
+           const std::string& formName = "einstellung1") {
+        return static_cast<C&>(*drill.programm.forms.loaded(formName)->find(name, index));
+    }
+    form::Option& option(const std::string& name, int index) {
+        return get<form::Option>(name, index);
+    }
+    form::Combo& combo(const std::string& name) { return get<form::Combo>(name); }
+    form::Button& button(const std::string& name) { return get<form::Button>(name); }
+    form::ListBox& list(int index) { return get<form::ListBox>("lst_ska", index); }
+    form::Group& group(int index) { return get<form::Group>("grdeinst", index); }
+    bool usable(const std::string& name, int index) {
+        return get<form::Control>(name, index).usable();
+    }
+    /// Moves the item of a scale code from the list of those on offer.
+    void pick(int code) {
+        for (int i = 0; i < list(0).count(); ++i)
+            if (list(0).item(i).data == code) return list(0).click(i);
+        ADD_FAILURE() << "not on offer: " << code;
+    }
+    std::string recap(const std::string& label) {
+        for (std::size_t i = 1; i + 1 < z.einst_liste.size(); i += 2)
+            if (z.einst_liste[i] == label) return z.einst_liste[i + 1];
+        return "-";
+    }
+};
+
+struct WithHost {
+    support::FakeHost host;
+};
+struct SetUp : ::testing::Test, WithHost, Session {
+    SetUp() : Session(host) {}
+};
+
+}  // namespace setup::test
