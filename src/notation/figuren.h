@@ -44,7 +44,7 @@ inline constexpr std::array oktavMarke{
     Strich{13, 6, 13, 8}, Strich{14, 4, 14, 7}, Strich{15, 3, 15, 5},
     // a
     Strich{19, 3, 23, 3}, Strich{18, 4, 18, 8}, Strich{19, 4, 19, 8}, Strich{19, 8, 22, 8},
-    Strich{22, 3, 22, 9}, Strich{23, 3, 23, 9}, Strich{24, 8, 25, 8}};
+    Strich{22, 3, 22, 9}, Strich{23, 4, 23, 9}, Strich{24, 8, 25, 8}};
 
 /// Dots of the bass clef.
 inline constexpr std::array punkte{

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 namespace notation {
@@ -96,6 +97,22 @@ double schnitt(int laenge, bool stufe) {
     return stufe && laenge <= laengsteStufe ? laenge / 2.0 : 0.5;
 }
 
+/// Cuts every corner once more, so that facets become curves; long edges stay straight.
+Linienzug gerundet(const Linienzug& ecken) {
+    constexpr double hoechstens = 0.6;
+    Linienzug rund;
+    for (std::size_t i = 0; i < ecken.size(); ++i) {
+        const auto &a = ecken[i], &b = ecken[(i + 1) % ecken.size()];
+        const double dx = b.first - a.first, dy = b.second - a.second;
+        const double laenge = std::hypot(dx, dy);
+        if (laenge < 1e-9) continue;
+        const double weg = std::min(0.25, hoechstens / laenge);
+        rund.emplace_back(a.first + dx * weg, a.second + dy * weg);
+        rund.emplace_back(b.first - dx * weg, b.second - dy * weg);
+    }
+    return rund;
+}
+
 }  // namespace
 
 Umriss umriss(Figur figur) {
@@ -112,7 +129,7 @@ Umriss umriss(Figur figur) {
             const auto vor = kante(i + n - 1), nach = kante(i);
             return vor.x * nach.y - vor.y * nach.x > 0;
         };
-        auto& punkte = ergebnis.emplace_back();
+        Linienzug punkte;
         for (std::size_t i = 0; i < n; ++i) {  // the edge from corner i to the next
             const auto k = kante(i);
             const int laenge = std::abs(k.x) + std::abs(k.y);
@@ -121,6 +138,7 @@ Umriss umriss(Figur figur) {
             punkte.emplace_back(x + k.x * weg, y + k.y * weg);
             punkte.emplace_back(x + k.x * (1 - weg), y + k.y * (1 - weg));
         }
+        ergebnis.push_back(gerundet(gerundet(punkte)));
     });
     return ergebnis;
 }

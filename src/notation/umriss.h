@@ -1,6 +1,7 @@
 #pragma once
 #include "notation/flaeche.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -15,9 +16,10 @@ constexpr void jederPunkt(const Strich& s, F f) {
 }
 
 /// Outline of a figure for smooth filling at any scale: closed lines around the squares of its
-/// pixels, corners cut so that steps become slopes while straight edges and widths stay. A square
-/// reaches from x - 0.5 to x + 0.5.
-using Umriss = std::vector<std::vector<std::pair<double, double>>>;
+/// pixels, corners cut so that steps become slopes and curves while straight edges and widths stay.
+/// A square reaches from x - 0.5 to x + 0.5.
+using Linienzug = std::vector<std::pair<double, double>>;
+using Umriss = std::vector<Linienzug>;
 Umriss umriss(Figur figur);
 
 }  // namespace notation

@@ -6,6 +6,7 @@
 
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace qt {
@@ -27,6 +28,18 @@ PainterSurface::PainterSurface(QPainter& painter, const QRectF& extent)
 
 void PainterSurface::leeren() { painter_.fillRect(extent_.translated(-0.5, -0.5), Qt::white); }
 
+QRectF PainterSurface::onDevice(const Rechteck& r) const {
+    return painter_.deviceTransform().mapRect(QRectF(r.x - 0.5, r.y - 0.5, r.breite, r.hoehe));
+}
+
+/// All pixels of the device that a rectangle touches.
+QRectF PainterSurface::wholePixels(const Rechteck& r) const {
+    constexpr double hair = 1e-6;
+    const QRectF device = onDevice(r);
+    return {QPointF(std::floor(device.left() + hair), std::floor(device.top() + hair)),
+            QPointF(std::ceil(device.right() - hair), std::ceil(device.bottom() - hair))};
+}
+
 /// @param devicePixels whole pixels of the device.
 void PainterSurface::fuellePixel(const QRectF& devicePixels, base::Colour farbe) {
     const QRectF logical = painter_.deviceTransform().inverted().mapRect(devicePixels);
@@ -36,28 +49,25 @@ void PainterSurface::fuellePixel(const QRectF& devicePixels, base::Colour farbe)
 }
 
 void PainterSurface::fuellen(const Rechteck& r, base::Colour farbe) {
-    const QRectF device =
-        painter_.deviceTransform().mapRect(QRectF(r.x - 0.5, r.y - 0.5, r.breite, r.hoehe));
-    fuellePixel(QRectF(QPointF(std::round(device.left()), std::round(device.top())),
-                       QPointF(std::round(device.right()), std::round(device.bottom()))),
-                farbe);
+    fuellePixel(wholePixels(r), farbe);
 }
 
 /// Every line is equally thick, and lies where its neighbours expect it.
 void PainterSurface::linie(int x1, int y1, int x2, int y2, base::Colour farbe,
                            notation::Linienart art) {
-    const double scale = painter_.deviceTransform().m11();
-    const double thick = std::max(1.0, std::round(scale));
+    const double thick = std::max(1.0, std::round(painter_.deviceTransform().m11()));
+    const bool level = y1 == y2;
     notation::jedesStueck(notation::linienRechteck(x1, y1, x2, y2), art, [&](const Rechteck& part) {
-        QRectF device = painter_.deviceTransform().mapRect(
-            QRectF(part.x - 0.5, part.y - 0.5, part.breite, part.hoehe));
-        const double left = std::round(device.left()), right = std::round(device.right());
-        const double top = std::round(device.top()), bottom = std::round(device.bottom());
-        if (y1 == y2)
-            device = {left, std::round(device.center().y() - thick / 2), right - left, thick};
-        else
-            device = {std::round(device.center().x() - thick / 2), top, thick, bottom - top};
-        fuellePixel(device, farbe);
+        const QPointF middle = onDevice(part).center();
+        QRectF pixels = wholePixels(part);
+        if (level) {
+            pixels.setTop(std::round(middle.y() - thick / 2));
+            pixels.setHeight(thick);
+        } else {
+            pixels.setLeft(std::round(middle.x() - thick / 2));
+            pixels.setWidth(thick);
+        }
+        fuellePixel(pixels, farbe);
     });
 }
 
@@ -72,24 +82,27 @@ void PainterSurface::figur(notation::Figur figur, int x, int y, base::Colour far
     painter_.fillPath(path, colour(farbe));
 }
 
-/// The two edges of the curve as one shape, with round ends.
+/// Both edges of the curve as one shape, with round ends.
 void PainterSurface::kurve(notation::Kurve kurve, int x, int y, base::Colour farbe) {
     const auto points = notation::kurvenpunkte(kurve);
+    const std::size_t last = points.size() - 1;
+    QPolygonF left, right;
+    for (std::size_t i = 0; i <= last; ++i) {
+        const auto &before = points[i == 0 ? 0 : i - 1], &after = points[std::min(i + 1, last)];
+        const double dx = after.x - before.x, dy = after.y - before.y;
+        const double half = points[i].breite / 2 / std::hypot(dx, dy);
+        const QPointF middle(x + points[i].x, y + points[i].y), across(-dy * half, dx * half);
+        left << middle + across;
+        right << middle - across;
+    }
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    const auto at = [&](std::size_t i) { return QPointF(x + points[i].x, y + points[i].y); };
-    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
-        const QPointF a = at(i), b = at(i + 1);
-        const double length = std::hypot(b.x() - a.x(), b.y() - a.y());
-        const QPointF across((a.y() - b.y()) / length, (b.x() - a.x()) / length);
-        const double ra = points[i].breite / 2, rb = points[i + 1].breite / 2;
-        path.addPolygon(
-            QPolygonF({a + across * ra, a - across * ra, b - across * rb, b + across * rb}));
-        path.closeSubpath();
-        path.addEllipse(b, rb, rb);
-    }
-    path.addEllipse(at(0), points[0].breite / 2, points[0].breite / 2);
+    std::reverse(right.begin(), right.end());
+    path.addPolygon(left + right);
+    path.closeSubpath();
     painter_.fillPath(path, colour(farbe));
+    for (const auto& end : {points.front(), points.back()})
+        scheibe(x + end.x, y + end.y, end.breite / 2, farbe);
 }
 
 void PainterSurface::scheibe(double x, double y, double radius, base::Colour farbe) {

@@ -23,6 +23,8 @@ class PainterSurface final : public notation::Flaeche {
     void text(int x, int y, std::string_view text, base::Colour farbe) override;
 
   private:
+    QRectF onDevice(const notation::Rechteck& r) const;
+    QRectF wholePixels(const notation::Rechteck& r) const;
     void fuellePixel(const QRectF& devicePixels, base::Colour farbe);
 
     QPainter& painter_;
