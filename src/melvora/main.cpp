@@ -12,6 +12,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -29,10 +30,18 @@ QString dataFolder(const Options& options) {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/melvora";
 }
 
-/// The file of settings cannot be read; the text names its path.
+/// The file of settings cannot be read.
 class UnreadableFile : public UsageError {
   public:
-    using UsageError::UsageError;
+    /// @param cause names the file's path
+    explicit UnreadableFile(const QString& cause)
+        : UsageError("the settings file cannot be read: " + cause.toStdString()),
+          text_(Words(Words::installedFolder()).wort(970).arg(cause)) {}
+    /// In the system's language.
+    const QString& text() const { return text_; }
+
+  private:
+    QString text_;
 };
 
 /// Asks the host that runs already to come forward. It may still be starting: five seconds for
@@ -91,7 +100,7 @@ int serve(const std::string& socket, const Options& options) {
 int run(const Options& options) {
     if (options.settingsFile)
         if (const QString cause = whyUnreadable(*options.settingsFile); !cause.isEmpty())
-            throw UnreadableFile(cause.toStdString());
+            throw UnreadableFile(cause);
     const std::string address = hostlink::hostAddress();
     const auto socket = hostlink::socketPath(address);
     if (!socket) throw UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
@@ -99,15 +108,22 @@ int run(const Options& options) {
     return lock.held() ? serve(*socket, options) : raiseOther(address, options);
 }
 
-/// Started by a click on the icon or on a file: nobody sees the standard error.
-bool startedFromDesktop(int argc, char** argv) {
-    const bool likeIt = argc == 1 || (argc == 2 && argv[1][0] != '-');
+/// Started by a click on the icon or on a file, and nobody reads the standard error: there is no
+/// terminal, and no program at the other end of a pipe.
+bool startedFromDesktop() {
+    const QStringList arguments = QApplication::arguments().mid(1);
+    const bool likeIt = arguments.size() < 2 && !arguments.value(0).startsWith('-');
+    struct stat about {};
+    const bool isRead = fstat(STDERR_FILENO, &about) == 0 && S_ISFIFO(about.st_mode);
     const int streams[] = {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO};
-    return likeIt && QApplication::platformName() != "offscreen" &&
+    return likeIt && !isRead && QApplication::platformName() != "offscreen" &&
            std::ranges::none_of(streams, [](int stream) { return isatty(stream) != 0; });
 }
 
-void showBox(const QString& text) { QMessageBox::critical(nullptr, "Melvora", text); }
+void complain(const std::exception& error, const QString& text) {
+    std::fprintf(stderr, "melvora: %s\n", error.what());
+    if (startedFromDesktop()) QMessageBox::critical(nullptr, "Melvora", text);
+}
 
 /// True when --help or --version was given; both need no screen.
 bool answersAtOnce(int argc, char** argv) {
@@ -137,12 +153,9 @@ int main(int argc, char** argv) {
     try {
         return run(parseOptions(QApplication::arguments()));
     } catch (const UnreadableFile& error) {
-        std::fprintf(stderr, "melvora: the settings file cannot be read: %s\n", error.what());
-        if (startedFromDesktop(argc, argv))
-            showBox(Words(Words::installedFolder()).wort(970).arg(QString::fromUtf8(error.what())));
+        complain(error, error.text());
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "melvora: %s\n", error.what());
-        if (startedFromDesktop(argc, argv)) showBox(QString::fromUtf8(error.what()));
+        complain(error, QString::fromUtf8(error.what()));
     }
     return failure;
 }
