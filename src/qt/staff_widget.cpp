@@ -39,6 +39,18 @@ void paintSurface(QPainter& painter, const Blatt& surface) {
     painter.restore();
 }
 
+/// What is drawn on a surface, without its ground.
+QPixmap pictureOf(const Blatt& surface, double scale, double ratio) {
+    QPixmap picture((QSizeF(surface.lage().breite, surface.lage().hoehe) * scale * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.scale(scale, scale);
+    PainterSurface target(painter);
+    surface.zeigen(target);
+    return picture;
+}
+
 std::optional<Schreibtaste> writingKey(int key) {
     switch (key) {
         case Qt::Key_Left:
@@ -89,7 +101,8 @@ void StaffWidget::surfaceChanged(form::Aspect aspect) {
         aspect != form::Aspect::Colour)
         return;
     drawn_ = {};
-    updateGeometry();
+    if (size_ != surface_.lage()) updateGeometry();
+    size_ = surface_.lage();
     update();
 }
 
@@ -152,18 +165,18 @@ void StaffWidget::paintEvent(QPaintEvent*) {
         veil.setAlpha(90);
         painter.fillRect(QRectF(origin(), QSizeF(drawn_.deviceIndependentSize())), veil);
     }
+    if (surface_.marke().breite > 0 && (hasFocus() || !surface_.onTaste)) paintMark(painter);
+}
+
+/// A tint that leaves what is written black, and a frame.
+void StaffWidget::paintMark(QPainter& painter) const {
+    const QRectF mark = area(surface_.marke());
+    const QRectF place(placeOf(surface_, mark.topLeft()), mark.size() * scale());
     painter.setRenderHint(QPainter::Antialiasing);
-    const bool marked = surface_.marke().breite > 0 && (hasFocus() || !surface_.onTaste);
-    if (marked) {
-        const QRectF mark = area(surface_.marke());
-        QColor inside = look::accent;
-        inside.setAlpha(24);
-        painter.setPen(QPen(look::accent, 1.5));
-        painter.setBrush(inside);
-        painter.drawRoundedRect(
-            QRectF(placeOf(surface_, mark.topLeft()), mark.size() * scale()).adjusted(1, 1, -1, -1),
-            4, 4);
-    }
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    painter.setPen(QPen(look::accent, 1.5));
+    painter.setBrush(look::accent.lighter(270));
+    painter.drawRoundedRect(place.adjusted(1, 1, -1, -1), 4, 4);
 }
 
 void StaffWidget::mousePressEvent(QMouseEvent* event) {
@@ -172,26 +185,19 @@ void StaffWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void StaffWidget::mouseMoveEvent(QMouseEvent* event) {
-    const bool far =
-        (event->pos() - pressed_).manhattanLength() >= QApplication::startDragDistance();
-    if (!surface_.zugbild || !(event->buttons() & Qt::LeftButton) || !far) return;
-    const Blatt& icon = *surface_.zugbild;
-    const double ratio = devicePixelRatioF(), size = look::scale();
-    QPixmap picture((QSizeF(icon.lage().breite, icon.lage().hoehe) * size * ratio).toSize());
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    {
-        QPainter painter(&picture);
-        painter.scale(size, size);
-        PainterSurface target(painter);
-        icon.zeigen(target);
-    }
+    const int distance = (event->pos() - pressed_).manhattanLength();
+    if (!surface_.zugbild || !(event->buttons() & Qt::LeftButton) ||
+        distance < QApplication::startDragDistance())
+        return;
+    const QPixmap picture = pictureOf(*surface_.zugbild, look::scale(), devicePixelRatioF());
     auto* drag = new QDrag(this);
     auto* content = new QMimeData;
     content->setData(dragFormat, QByteArray::number(surface_.index()));
     drag->setMimeData(content);
     drag->setPixmap(picture);
-    drag->setHotSpot(QRectF(QPointF(), picture.deviceIndependentSize()).center().toPoint());
+    // To the left of the pointer, as an accidental stands to the left of its note.
+    const QSizeF size = picture.deviceIndependentSize();
+    drag->setHotSpot(QPointF(size.width(), size.height() / 2).toPoint());
     drag->exec(Qt::CopyAction);
 }
 

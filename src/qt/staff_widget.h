@@ -24,7 +24,6 @@ class StaffWidget final : public QWidget {
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    bool hasHeightForWidth() const override { return false; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -40,6 +39,7 @@ class StaffWidget final : public QWidget {
   private:
     void surfaceChanged(form::Aspect aspect);
     const QPixmap& drawn();
+    void paintMark(QPainter& painter) const;
     QPointF origin() const;
     /// The visible surface inside this one that takes drops; nullptr for none.
     notation::Blatt* target() const;
@@ -49,6 +49,7 @@ class StaffWidget final : public QWidget {
     std::vector<notation::Blatt*> held_;
     std::vector<form::Connection> connections_;
     QPixmap drawn_;
+    notation::Rechteck size_;
     QPoint pressed_;
     notation::Blatt* entered_ = nullptr;
     const form::Control* source_ = nullptr;

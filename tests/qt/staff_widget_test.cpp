@@ -1,0 +1,140 @@
+// The staff on screens of any scale, and writing on it by keys.
+#include "qt/staff_widget.h"
+
+#include "notation/farbe.h"
+#include "notation/noten.h"
+#include "notation/sheet.h"
+#include "qt/painter_surface.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QKeyEvent>
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace {
+
+using notation::Blatt;
+
+/// What a surface looks like at a scale, on white.
+template <class F>
+QImage painted(double scale, F draw) {
+    QImage image((QSizeF(160, 145) * scale).toSize(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    qt::PainterSurface surface(painter);
+    draw(surface);
+    return image;
+}
+
+const std::vector<double> scales{1, 1.25, 1.375, 1.5, 2, 2.5, 5};
+
+TEST(PainterSurface, StaffLinesAreCrispAndEquallyThickAndFarApart) {
+    for (const double scale : scales) {
+        SCOPED_TRACE(scale);
+        const QImage image = painted(
+            scale, [](auto& s) { notation::LinienMalen(s, 160, notation::obersteLinie(0)); });
+        std::vector<int> begins, ends;
+        for (int y = 1; y < image.height(); ++y) {
+            const QRgb here = image.pixel(5, y), above = image.pixel(5, y - 1);
+            ASSERT_TRUE(here == qRgb(0, 0, 0) || here == qRgb(255, 255, 255)) << "grey at " << y;
+            if (here != above) (here == qRgb(0, 0, 0) ? begins : ends).push_back(y);
+        }
+        ASSERT_EQ(begins.size(), 5U);
+        std::set<int> thickness, distance;
+        for (std::size_t i = 0; i < 5; ++i) {
+            thickness.insert(ends[i] - begins[i]);
+            if (i > 0) distance.insert(begins[i] - begins[i - 1]);
+        }
+        EXPECT_EQ(thickness, std::set{static_cast<int>(std::lround(scale))});
+        EXPECT_EQ(distance.size(), scale * 8 == std::round(scale * 8) ? 1U : 2U);
+    }
+}
+
+TEST(PainterSurface, WhatIsTakenAwayLeavesNoTrace) {
+    for (const double scale : scales) {
+        SCOPED_TRACE(scale);
+        const auto lines = [](auto& s) { notation::LinienMalen(s, 160, 16); };
+        const QImage clean = painted(scale, lines);
+        EXPECT_EQ(
+            painted(scale,
+                    [&](auto& s) {
+                        lines(s);
+                        for (const int colour : {notation::farbe::grau, notation::farbe::weiss})
+                            s.linie(54, 40, 67, 40, notation::linienFarbe(colour),
+                                    notation::Linienart::Voll);
+                    }),
+            clean)
+            << "a preview";
+        EXPECT_EQ(painted(scale,
+                          [&](auto& s) {
+                              lines(s);
+                              notation::NotenkopfMalen(s, 80, 84, notation::farbe::rot);
+                              notation::DoppelBeMalen(s, 58, 67);
+                              notation::SpalteLoeschen(s, 16, 80);
+                          }),
+                  clean)
+            << "a note";
+    }
+}
+
+TEST(PainterSurface, ScalesKeepStaffLinesOnWholePixels) {
+    for (const double ratio : {1.0, 1.25, 2.0})
+        for (const double fit : {0.8, 1.0, 1.37, 2.5}) {
+            const double scale = qt::staffScale(fit, ratio);
+            EXPECT_LE(scale, fit);
+            EXPECT_GT(scale, fit - 0.126);
+            EXPECT_NEAR(scale * 8 * ratio, std::round(scale * 8 * ratio), 1e-9);
+        }
+}
+
+TEST(StaffWidget, GrowsInTheMiddleAndTellsPlaces) {
+    Sheet sheet(6, 0, 60);
+    qt::StaffWidget widget(sheet.staff.PicBNot);
+    struct Row {
+        QSize size;
+        double scale;
+    };
+    for (const Row& row :
+         {Row{{362, 158}, 1}, Row{{500, 158}, 1}, Row{{543, 237}, 1.5}, Row{{2000, 1000}, 2.5}}) {
+        SCOPED_TRACE(row.scale);
+        widget.resize(row.size);
+        EXPECT_DOUBLE_EQ(widget.scale(), row.scale);
+        const QPointF middle = widget.placeOf(sheet.staff.PicBNot, QPointF(362 / 2.0, 158 / 2.0));
+        EXPECT_NEAR(middle.x(), row.size.width() / 2.0, 1);
+        EXPECT_NEAR(middle.y(), row.size.height() / 2.0, 1);
+        const QPointF inside = widget.placeOf(sheet.staff.PicB(0), {0, 0});
+        EXPECT_DOUBLE_EQ(inside.y(), widget.placeOf(sheet.staff.PicBNot, {0, 12}).y());
+        const QImage image = widget.grab().toImage();
+        const QPointF line = widget.placeOf(sheet.staff.PicB(0), {340.5, 80.5});
+        EXPECT_EQ(image.pixelColor(static_cast<int>(line.x()), static_cast<int>(line.y())),
+                  QColor(Qt::black));
+    }
+}
+
+TEST(StaffWidget, ShowsChangesAndIsWrittenOnByKeys) {
+    Sheet sheet(6, 0, 60);
+    notation::NotenZeigen(sheet.staff, sheet.task);
+    sheet.staff.PicBNot.beschreibung = [&] {
+        return std::to_string(notation::falscheSpalten(sheet.staff, sheet.task));
+    };
+    qt::StaffWidget widget(sheet.staff.PicBNot);
+    widget.resize(724, 316);
+    const QImage before = widget.grab().toImage();
+    EXPECT_EQ(widget.accessibleDescription(), "5");
+    for (const int key :
+         {Qt::Key_Right, Qt::Key_Up, Qt::Key_Right, Qt::Key_Right, Qt::Key_4, Qt::Key_Return}) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &press);
+        EXPECT_TRUE(press.isAccepted());
+    }
+    EXPECT_EQ(sheet.staff.NotSelb(2).vorzeichen, 1);
+    EXPECT_EQ(sheet.staff.NotSelb(4).vorzeichen, 1);
+    EXPECT_NE(widget.grab().toImage(), before);
+    EXPECT_EQ(widget.accessibleDescription(), "3");
+}
+
+}  // namespace
