@@ -17,6 +17,8 @@ TITLES = {
     "draw/after_tasks/100000": "draw of a task, after 100,000 tasks",
     "draw/and_weigh": "draw of a task, its weight and the new pool",
     "draw/melody": "draw of a task with a melody",
+    "staff/task_on_pixels": "a whole written task drawn on a grid of pixels",
+    "staff/drop_to_paint": "drop on the staff to the painted window, 2560x1000 pixels",
     "tasks/one_long_run": "simulated tasks, try-out of 20,000",
     "tasks/trainings": "simulated tasks, trainings",
     "tasks/exams": "simulated tasks, exams",
