@@ -104,6 +104,7 @@ TEST_F(WindowTest, GoesAwayWhileTheModuleRunsAndComesBackWithTheReasonOfItsDeath
 
 TEST_F(WindowTest, AUsersTrainingsFollowWhatIsStoredAndStayWhileAModuleRuns) {
     window_.open(MainWindow::Users);
+    settle();
     const auto tables = window_.findChildren<QTableView*>();
     ASSERT_EQ(tables.size(), 2);
     const auto* const users = tables[0]->model();
