@@ -3,6 +3,7 @@
 
 Needs Xvfb and xdotool. Every test has a screen, a data folder and a socket of its own.
 """
+import json
 import os
 import pathlib
 import signal
@@ -42,7 +43,7 @@ class Road(unittest.TestCase):
             XDG_RUNTIME_DIR=str(self.home), MELVORA_HOST_ADDRESS=f"unix:path={self.home}/host",
             MELVORA_AUDIO_DRIVER="file", MELVORA_AUDIO_FILE=str(self.wav))
         self.programs = []
-        self.start("Xvfb", f":{self.display}", "-screen", "0", "1024x768x24")
+        self.start("Xvfb", f":{self.display}", "-screen", "0", "1024x768x24", "-noreset")
         until("a screen", lambda: self.tool("getmouselocation") is not None)
 
     def tearDown(self):
@@ -113,6 +114,48 @@ class Road(unittest.TestCase):
         with wave.open(str(self.wav)) as sound:
             frames = sound.readframes(sound.getnframes())
         self.assertGreater(max(frames), 0, "the task was heard")
+
+    def train(self, mode):
+        """From the start form through one task of a training, which is saved. mode: 1 new, 2 goes on."""
+        self.window("Scales: Basic settings")
+        self.key("Return")
+        setup = self.window("Identify scales: Setup")
+        self.tool("mousemove", "--window", setup, "820", "62", "click", "1")
+        time.sleep(0.5)
+        self.key(*["Down"] * mode, "Return", "Return")
+        self.window("^Identify scales$")
+        self.key("Return")
+        time.sleep(12.8)
+        self.key("1", "2", "3", "4", "5", "6", "7", "Escape")
+        self.window("Save training")
+        self.key("Return")
+        self.window("Identify scales: Setup")
+        self.key("Escape")
+        self.window("Scales: Basic settings")
+        self.key("Escape")
+        self.window("Melvora")
+        records = dict(self.rows("SELECT record_key, content FROM records"))
+        return json.loads(records["A1"])
+
+    def test_a_training_goes_on_after_a_restart_of_both_programs(self):
+        host = self.host("--start", "zepha9")
+        state = self.train(1)
+        self.assertEqual((state[0], len(state)), ("true", 6 * 14 + 4))
+        host.terminate()
+        host.wait()
+        self.host("--start", "zepha9")
+        later = self.train(2)
+        tasks = [sum(float(t) for t in s[30:-3:4]) for s in (state, later)]
+        self.assertEqual(tasks, [1, 2], "the second start took up the table of the first")
+
+    def test_a_settings_file_leads_to_its_form(self):
+        file = self.home / "exam.mvs"
+        file.write_bytes(b"""<?xml version="1.0" encoding="ISO-8859-1" ?>
+<test><basic><modul>VESHNA</modul><type>1</type></basic><setting>
+<control title="Tempo#var"><cname>temp_Combo</cname><value>9</value></control>
+</setting></test>""")
+        self.host("--teacher", str(file))
+        self.window("Identify scales: Setup")
 
     def test_a_run_outlives_its_host(self):
         host = self.host("--start", "zepha9")
