@@ -27,6 +27,6 @@ bool bildVon(int nummer, Bild& bild);
 std::vector<Ton> bildToene(const Bild& bild);
 
 /// Draws a picture: five lines, clef, heads, accidentals. A number without a scale draws nothing.
-void BildMalen(Flaeche& flaeche, int nummer);
+void BildMalen(Flaeche& ziel, int nummer);
 
 }  // namespace notation

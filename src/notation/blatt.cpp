@@ -13,6 +13,8 @@ template <class... F>
 struct Fall : F... {
     using F::operator()...;
 };
+template <class... F>
+Fall(F...) -> Fall<F...>;
 
 constexpr Rechteck ueberall{-10000, -10000, 20000, 20000};
 

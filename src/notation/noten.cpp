@@ -13,11 +13,11 @@ constexpr int halsLaenge = 24;
 
 }  // namespace
 
-void NotenkopfMalen(Flaeche& flaeche, i16 x, i16 y, int nummer, int zeile) {
+void NotenkopfMalen(Flaeche& flaeche, i16 x, i16 y, int farbe, int zeile) {
     const int k = y / 4;
     const bool imZwischenraum = zeile != keineZeile && k > obersteLinie(zeile) && k % 2 == 1;
     flaeche.figur(imZwischenraum ? Figur(figuren::kopf).subspan(1) : Figur(figuren::kopf), x, y,
-                  kopfFarbe(nummer));
+                  kopfFarbe(farbe));
 }
 
 void HilfslinienMalen(Flaeche& flaeche, i16 x, i16 y, i16 oben, i16 unten, i16& zaehler) {
@@ -80,8 +80,8 @@ void VorzeichenMalen(Flaeche& flaeche, i16 x, i16 y, int vorzeichen) {
     }
 }
 
-void OktavMarkeMalen(Flaeche& flaeche, i16 x, i16 y, int nummer) {
-    flaeche.figur(figuren::oktavMarke, x, y, linienFarbe(nummer));
+void OktavMarkeMalen(Flaeche& flaeche, i16 x, i16 y, int farbe) {
+    flaeche.figur(figuren::oktavMarke, x, y, linienFarbe(farbe));
 }
 
 void LinienMalen(Flaeche& flaeche, int breite, i16 oben) {

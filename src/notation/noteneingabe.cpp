@@ -108,8 +108,8 @@ void Noteneingabe::DragOver(i16 s, i16 index, float X, float, ZugZustand zustand
     }
 }
 
-void Noteneingabe::Vorschau(i16 s, i16 c, i16 nummer) {
-    VorschauMalen(s, zeile_.lage().x(c), VorschauArt(s, c), nummer);
+void Noteneingabe::Vorschau(i16 s, i16 c, i16 farbe) {
+    VorschauMalen(s, zeile_.lage().x(c), VorschauArt(s, c), farbe);
 }
 
 i16 Noteneingabe::VorschauArt(i16 s, i16 c) const {
@@ -119,17 +119,17 @@ i16 Noteneingabe::VorschauArt(i16 s, i16 c) const {
     return spalte.SchrittY >= hilfslinieUnten(s) ? 2 : 0;
 }
 
-void Noteneingabe::VorschauMalen(i16 s, i16 x, i16 art, i16 nummer) {
+void Noteneingabe::VorschauMalen(i16 s, i16 x, i16 art, i16 farbe) {
     constexpr int hoechste = 6, tiefste = 30;
     const Spalte& spalte = zeile_.NotSelb(zeile_.lage().spalteBei(static_cast<float>(x)));
     Blatt& blatt = zeile_.PicB(s);
     const auto hilfslinie = [&](int k) {
-        blatt.linie(x - 6, 4 * k, x + 7, 4 * k, linienFarbe(nummer));
+        blatt.linie(x - 6, 4 * k, x + 7, 4 * k, linienFarbe(farbe));
     };
     for (int k = hilfslinieOben(s); k >= hoechste; k -= 2)
         if (art != 1 || k < spalte.SchrittY) hilfslinie(k);
     // A wiped line may have cut the head.
-    if (spalte.hatNote() && nummer == farbe::weiss && spalte.SchrittY <= 15 - 4 * s &&
+    if (spalte.hatNote() && farbe == farbe::weiss && spalte.SchrittY <= 15 - 4 * s &&
         spalte.schluessel == s)
         NotenkopfMalen(blatt, x, spalte.y(), spalte.farbe, s);
     for (int k = hilfslinieUnten(s); k <= tiefste; k += 2)

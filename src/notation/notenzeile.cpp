@@ -89,18 +89,18 @@ void Notenzeile::GrenzLinienMalen() {
     }
 }
 
-void Notenzeile::GrenzStueckMalen(i16 x, i16 nummer) {
+void Notenzeile::GrenzStueckMalen(i16 x, i16 farbe) {
     for (const int s : {0, 1}) {
         const Grenze& g = grenzen_[s];
         for (const int y : {g.oben, g.unten})
-            PicB(s).linie(x - 20, y, x + 20, y, linienFarbe(nummer), Linienart::Gepunktet);
+            PicB(s).linie(x - 20, y, x + 20, y, linienFarbe(farbe), Linienart::Gepunktet);
     }
 }
 
-void Notenzeile::NoteSetzen(i16 c, const Ton& ton, i16 nummer) {
+void Notenzeile::NoteSetzen(i16 c, const Ton& ton, i16 farbe) {
     const Stelle stelle = YAusTon(ton, SchlZ_);
     NotSelb_[c].oktave = stelle.oktave;
-    eintragen(c, SchlZ_, ton, stelle.y / 4, nummer);
+    eintragen(c, SchlZ_, ton, stelle.y / 4, farbe);
     NoteMalen(c);
 }
 
@@ -109,14 +109,14 @@ void Notenzeile::NoteAblegen(i16 c, i16 s, i16 y, i16 vz) {
     NotSelb_[c].abgelegt = 1;
 }
 
-void Notenzeile::eintragen(i16 c, i16 s, const Ton& ton, i16 SchrittY, i16 nummer) {
+void Notenzeile::eintragen(i16 c, i16 s, const Ton& ton, i16 SchrittY, i16 farbe) {
     Spalte& spalte = NotSelb_[c];
     spalte.midi = ton.midi;
     spalte.qz = ton.qz;
     spalte.vorzeichen = vorzeichen(ton.qz);
     spalte.schluessel = s;
     spalte.SchrittY = SchrittY;
-    spalte.farbe = nummer;
+    spalte.farbe = farbe;
     spalte.zeichen = NotenVergleich(c) == -1 ? zeichen::schonDa : zeichen::von(spalte.vorzeichen);
 }
 

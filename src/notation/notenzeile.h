@@ -34,7 +34,7 @@ class Notenzeile {
     /// Draws the note of a column again in a colour.
     void NoteSetzen(i16 c, i16 farbe) { NoteSetzen(c, NotSelb(c).ton(), farbe); }
     /// Gives the note of a column an accidental, on the line where it stands, without drawing it.
-    void NoteAblegen(i16 c, i16 s, i16 y, i16 vorzeichen);
+    void NoteAblegen(i16 c, i16 s, i16 y, i16 vz);
     /// Wipes a column on both staves and draws the note that is written in it.
     void NoteMalen(i16 c);
     /// Draws or takes away "8va" above a column.

@@ -17,7 +17,7 @@ Pixelbild::Pixelbild(int breite, int hoehe)
 
 Colour Pixelbild::an(int x, int y) const {
     if (x < 0 || y < 0 || x >= breite_ || y >= hoehe_) return base::colours::white;
-    return punkte_[static_cast<std::size_t>(y * breite_ + x)];
+    return punkte_[stelle(x, y)];
 }
 
 std::string Pixelbild::zeichnung(const Rechteck& teil) const {
@@ -34,7 +34,7 @@ std::string Pixelbild::zeichnung(const Rechteck& teil) const {
 
 void Pixelbild::punkt(int x, int y, Colour farbe) {
     if (x < 0 || y < 0 || x >= breite_ || y >= hoehe_) return;
-    punkte_[static_cast<std::size_t>(y * breite_ + x)] = farbe;
+    punkte_[stelle(x, y)] = farbe;
 }
 
 void Pixelbild::leeren() { std::ranges::fill(punkte_, base::colours::white); }

@@ -1,6 +1,7 @@
 #pragma once
 #include "notation/flaeche.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,10 @@ class Pixelbild final : public Flaeche {
     void text(int, int, std::string_view, Colour) override {}
 
   private:
+    std::size_t stelle(int x, int y) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(breite_) +
+               static_cast<std::size_t>(x);
+    }
     void punkt(int x, int y, Colour farbe);
 
     int breite_, hoehe_;

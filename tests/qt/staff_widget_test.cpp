@@ -16,8 +16,6 @@
 
 namespace {
 
-using notation::Blatt;
-
 /// What a surface looks like at a scale, on white.
 template <class F>
 QImage painted(double scale, F draw) {

@@ -1,0 +1,36 @@
+#pragma once
+#include "engine/toene.h"
+#include "notation/tonhoehe.h"
+
+namespace notation {
+
+/// The key of a scale that is spelled: one of the circle of fifths, drawn anew for each task.
+class KreisTonart final : public engine::Tonart {
+  public:
+    enum class Art {
+        Schreiben,  ///< one to six signs; in tests and exams the key of the bag's row
+        Bestimmen   ///< none to seven signs
+    };
+    KreisTonart(core::Zustand& zustand, base::Rnd& rnd, engine::Aufgabe& aufgabe, Art art)
+        : z(zustand), rnd_(rnd), a(aufgabe), art_(art) {}
+
+    void LaufBeginn() override;
+    void Ziehen() override;
+    void Toene() override;
+    bool fest() const override { return false; }
+
+    /// Fifths of a degree from the first one of the category's base scale; 0 where a category has
+    /// no place on the circle.
+    static i16 stufenQz(int skal_typ, int stufe);
+
+  private:
+    void rotierteToene();
+    void eigeneToene();
+
+    core::Zustand& z;
+    base::Rnd& rnd_;
+    engine::Aufgabe& a;
+    Art art_;
+};
+
+}  // namespace notation
