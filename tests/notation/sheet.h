@@ -22,9 +22,12 @@ struct Sheet {
         palette.PaletteMalen();
         palette.PaletteEin();
         staff.SchluesselWahl(task.toene[7].midi);
-        staff.NotenzeileAufbauen(
-            8, {key, first, notation::tonklasse(key + first + notation::QzMitte), 36, 84},
-            signature);
+        const notation::Umfang range{key, first,
+                                     notation::tonklasse(key + first + notation::QzMitte), 36, 84};
+        if (signature == 0)
+            staff.NotenzeileAufbauen(8, range);
+        else
+            staff.NotenzeileAufbauen(8, range, signature);
         entry.AufgabeBeginnt();
         keys.AufgabeBeginnt();
     }
