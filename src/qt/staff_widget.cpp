@@ -175,7 +175,7 @@ void StaffWidget::paintMark(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
     painter.setPen(QPen(look::accent, 1.5));
-    painter.setBrush(look::accent.lighter(270));
+    painter.setBrush(QColor(0xE9, 0xF0, 0xF8));
     painter.drawRoundedRect(place.adjusted(1, 1, -1, -1), 4, 4);
 }
 
