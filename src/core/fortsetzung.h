@@ -6,8 +6,8 @@ namespace core {
 /// Stands in place of the continuation of a saved training while there is none.
 inline constexpr const char* keineFortsetzung = "---------------";
 
-/// "1", "4", "1b", "4b": exercise and branch in the keys of the host's records. "E" and it holds the
-/// settings of a saved training, "A" and it where it was left.
+/// "1", "4", "1b", "4b": exercise and branch in the keys of the host's records. "E" and it holds
+/// the settings of a saved training, "A" and it where it was left.
 std::string satz(const Zustand& z);
 
 /// Offers that continuation on a set-up form, or takes the offer away, and selects the mode

@@ -27,6 +27,7 @@ struct Aufruf {
     std::string kommandozeile = {};
     std::string tempOrdner = {};       ///< folder of the result record, without a slash at its end
     std::string rechnername = {};      ///< the computer's name
+    std::string programmOrdner = {};   ///< folder of the texts that come with the program
     std::string stueckeOrdner = {};    ///< folder of the settings files, without a slash at its end
     std::string startdatei = {};       ///< settings file to begin with, "" for none
     int startTyp = uebung::bestimmen;  ///< the exercise type that it is for

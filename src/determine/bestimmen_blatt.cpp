@@ -100,6 +100,12 @@ void BestimmenBlatt::FalscheAntwortMerken(const Antwort& antwort) {
     }
 }
 
+void BestimmenBlatt::AntwortVermerken(pugi::xml_node node, const Antwort& antwort) {
+    wertung_.xml.AntwortEigenschaft(node, "Skala", antwort.name);
+}
+
+void BestimmenBlatt::VersuchVermerken(pugi::xml_node node) { node.append_attribute("Skala") = "1"; }
+
 std::string BestimmenBlatt::Loesung(bool richtig) const {
     const int nr = z.skala_nr;
     const std::string& name = skal_bez(nr).caption();

@@ -27,6 +27,8 @@ class BestimmenBlatt : public engine::Arbeitsblatt {
     void AntwortenZuruecksetzen() override;
     void AntwortSperren(const Antwort& antwort) override;
     void FalscheAntwortMerken(const Antwort& antwort) override;
+    void AntwortVermerken(pugi::xml_node node, const Antwort& antwort) override;
+    void VersuchVermerken(pugi::xml_node node) override;
     std::string Loesung(bool richtig) const override;
 
   private:

@@ -1,11 +1,17 @@
 #include "drill/drill.h"
 
 #include "determine/arbeitsblatt1.h"
+#include "notation/arbeitsblatt4.h"
 #include "results/testergebnis.h"
 #include "setup/datei_formulare.h"
 #include "setup/einstellung.h"
 
 namespace drill {
+
+template <class Sheet>
+void Drill::worksheet(const std::string& name) {
+    programm.forms.add(name, [this] { return std::make_unique<Sheet>(programm, midi, wertung); });
+}
 
 Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiAusgabe,
              std::int64_t seed)
@@ -18,9 +24,8 @@ Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiAusg
         return std::make_unique<setup::Einstellung>(programm, wertung, midi, ausgabe,
                                                     setup::Zweig::Gehoerbildung);
     });
-    forms.add("arbeitsblatt1", [this] {
-        return std::make_unique<determine::Arbeitsblatt1>(programm, midi, wertung);
-    });
+    worksheet<determine::Arbeitsblatt1>("arbeitsblatt1");
+    worksheet<notation::Arbeitsblatt4>("arbeitsblatt4");
     forms.add("frmSave", [this] { return std::make_unique<setup::FrmSave>(programm); });
     forms.add("frmLoad", [this] { return std::make_unique<setup::FrmLoad>(programm); });
     forms.add("testergebnis",

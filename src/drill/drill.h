@@ -16,6 +16,10 @@ struct Drill {
     sound::Midi midi;
     results::Wertung wertung;
     sound::MidiOutput& ausgabe;
+
+  private:
+    template <class Sheet>
+    void worksheet(const std::string& name);
 };
 
 }  // namespace drill

@@ -185,6 +185,7 @@ void Arbeitsblatt::MatWahl() {
         z.antwort_nr = 1;
         wertung_.xml.LektionNeu(p.katalog.skal_name[z.skal_typ][z.skala_nr]);
         vorfuehrung().AufgabeBeginnt();
+        AufgabeZeigen();
         ereignis(Ereignis::AufgabeGezogen);
         vorfuehrung().Vorfuehren();
     });
@@ -204,7 +205,7 @@ void Arbeitsblatt::AntwortWerten(const Antwort& antwort) {
     if (!wertung_.xml.antwort()) wertung_.xml.AntwortNeu(wertung_.xml.lektion(), z.antwort_nr);
     const auto node = wertung_.xml.AntwortSchluss();
     wertung_.xml.AntwortEigenschaft(node, "Antwort", antwort.richtig ? "true" : "false");
-    wertung_.xml.AntwortEigenschaft(node, "Skala", antwort.name);
+    AntwortVermerken(node, antwort);
     if (antwort.richtig)
         RichtigeAntwort();
     else
@@ -248,7 +249,7 @@ void Arbeitsblatt::FalscheAntwort(const Antwort& antwort) {
     ergebnis.caption = Wort(232);
     AntwortSperren(antwort);
     z.antwort_nr += 1;
-    wertung_.xml.AntwortNeu(wertung_.xml.lektion(), z.antwort_nr).append_attribute("Skala") = "1";
+    VersuchVermerken(wertung_.xml.AntwortNeu(wertung_.xml.lektion(), z.antwort_nr));
 }
 
 void Arbeitsblatt::AufgabeAbschliessen() {

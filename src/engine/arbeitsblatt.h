@@ -83,6 +83,11 @@ class Arbeitsblatt : public core::Formular {
     virtual void AntwortSperren(const Antwort& antwort) = 0;
     /// Keeps what was answered wrongly.
     virtual void FalscheAntwortMerken(const Antwort& antwort) = 0;
+    /// Enters an answer into the record, and begins a further one of the same task there.
+    virtual void AntwortVermerken(pugi::xml_node node, const Antwort& antwort) = 0;
+    virtual void VersuchVermerken(pugi::xml_node node) = 0;
+    /// Prepares what the learner sees of a task that was drawn, before it is presented.
+    virtual void AufgabeZeigen() {}
     /// The text of the solution. @param richtig after a right answer.
     virtual std::string Loesung(bool richtig) const = 0;
     /// After a task was lost.

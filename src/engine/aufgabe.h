@@ -16,8 +16,11 @@ struct Aufgabe {
     i16 oktSpanne;                         ///< octaves by which a task may be shifted up
     i16 oktLage;                           ///< base note, MIDI number
     i16 transp;                            ///< transposition, semitones
+    i16 transpLage;                        ///< the same on the staff: lower where that lies high
+    i16 quintLage;                         ///< key of a spelled task, in fifths from C
     i16 finalis;                           ///< pitch class of the first note where the final stays
     base::FixedArray<i16, 9> noten;        ///< MIDI numbers in scale order, always rising
+    base::FixedArray<i16, 9> notenQz;      ///< their fifths numbers where the task is spelled
     base::FixedArray<i16, 9> stimmWert;    ///< tuning correction of each note, in bend steps
     base::FixedArray<i16, 9> ton_abfolg;   ///< melodic order: indices into noten
     i16 letzteSkala = 11;                  ///< skala_nr of the task before

@@ -37,7 +37,8 @@ void Aufgabenwahl::Ziehen(int floodPercent) {
     do {
         tonart_.Ziehen();
         if (++versuch >= z.matboxanz) nutzeBox = false;
-        a.matIndex = matbox_.Ziehen(nutzeBox, floodPercent);
+        // After a plain draw the row drawn last stays in force.
+        if (const i16 zeile = matbox_.Ziehen(nutzeBox, floodPercent); zeile > 0) a.matIndex = zeile;
         tonart_.Toene();
     } while (a.letzteSkala == z.skala_nr && a.letzterTon == a.noten[0]);
 

@@ -25,13 +25,25 @@ KlangVorfuehrung::KlangVorfuehrung(Arbeitsblatt& blatt, core::Programm& programm
       whlgzaehler_lb(blatt, {"whlgzaehler_lb", Place::noIndex, &bereich}),
       spieltimer(blatt, {"spieltimer"}, 1000) {
     wieder.onClick = {"wieder_click.", [this] { wieder_click(); }};
-    wieder2.onClick = {"wieder2_click.", [this] { wieder2_click(); }};
+    wieder2.onClick = {"wieder2_click.", [this] { KontrolleSpielen(nullptr); }};
     spieltimer.onTick = {"spieltimer_timer.", [this] { spieltimer_timer(); }};
     wieder.enabled = false;
     wieder2.visible = false;
 }
 
+void KlangVorfuehrung::EigeneFassungAnbieten(std::function<Fassung()> fassung) {
+    fassung_ = std::move(fassung);
+    eigene =
+        std::make_unique<form::Panel>(blatt_, Place{"eigene", Place::noIndex, wieder2.container()});
+    eigene->visible = false;
+    eigene->onClick = {"eigene_click.", [this] {
+                           const Fassung noten = fassung_();
+                           KontrolleSpielen(&noten);
+                       }};
+}
+
 void KlangVorfuehrung::LaufBeginn() {
+    if (eigene) eigene->caption = p.Wort(822);
     wieder.caption = p.Wort(629);
     wieder2.caption = p.Wort(632);
     whlgzaehler_lb.caption = p.Wort(832);
@@ -44,6 +56,7 @@ int KlangVorfuehrung::wiederholungen() const { return base::leadingInt(whlgzaehl
 
 void KlangVorfuehrung::AufgabeBeginnt() {
     wieder2.visible = false;
+    if (eigene) eigene->visible = false;
     wieder.visible = true;
     wieder.enabled = false;
     spielArt_ = SpielArt::Aufgabe;
@@ -69,7 +82,7 @@ int KlangVorfuehrung::tonAn(int position) const {
     return z.akt_richtung == 1 ? position : int(a.tonAnz) - 1 - position;
 }
 
-void KlangVorfuehrung::AufgabeSpielen() {
+void KlangVorfuehrung::AufgabeSpielen(const Fassung* eigeneNoten) {
     midi_.MidiReset();
     midi_.Delay(atempause, blatt_.abbruch());
     if (blatt_.abbruch()) return;
@@ -86,7 +99,7 @@ void KlangVorfuehrung::AufgabeSpielen() {
         // A bend acts on a whole channel: outside equal temperament every degree has its own.
         const int kanal = z.stimmung == 0 ? 0 : k + 1;
         if (z.stimmung != 0) midi_.MidiPitchBend(kanal, a.stimmWert[k] + mitte);
-        midi_.MidiNote(a.noten[k], d * i, laenge, kanal, i);
+        midi_.MidiNote(eigeneNoten ? (*eigeneNoten)[i] : a.noten[k], d * i, laenge, kanal, i);
     }
     midi_.Delay(atempause, blatt_.abbruch());
     if (!blatt_.abbruch()) midi_.MidiEinblenden();
@@ -96,7 +109,7 @@ void KlangVorfuehrung::spieltimer_timer() {
     spieltimer.stop();
     if (blatt_.abbruch()) return;
     if (spielArt_ == SpielArt::Kontrolle) {
-        wieder2.enabled = true;
+        kontrolleErlauben(true);
         blatt_.NaechsteAnbieten();
         return;
     }
@@ -120,15 +133,21 @@ void KlangVorfuehrung::wieder_click() {
     if (!blatt_.abbruch()) spieltimer.start();
 }
 
-void KlangVorfuehrung::wieder2_click() {
-    wieder2.enabled = false;
+/// The task as a control, or the learner's own version of it.
+void KlangVorfuehrung::KontrolleSpielen(const Fassung* eigeneNoten) {
+    kontrolleErlauben(false);
     spielArt_ = SpielArt::Kontrolle;
     blatt_.NaechsteZurueckziehen();
     midi_.MidiReset();
     midi_.Delay(atempause, blatt_.abbruch());
     if (blatt_.abbruch()) return;
-    AufgabeSpielen();
+    AufgabeSpielen(eigeneNoten);
     if (!blatt_.abbruch()) spieltimer.start();
+}
+
+void KlangVorfuehrung::kontrolleErlauben(bool erlaubt) {
+    wieder2.enabled = erlaubt;
+    if (eigene) eigene->enabled = erlaubt;
 }
 
 void KlangVorfuehrung::Wiederholen() {
@@ -138,27 +157,22 @@ void KlangVorfuehrung::Wiederholen() {
         wieder2.click();
 }
 
-void KlangVorfuehrung::wieder2Anbieten() {
+void KlangVorfuehrung::kontrolleAnbieten(bool erlaubt) {
     wieder.enabled = false;
-    wieder2.enabled = true;
+    wieder.visible = false;
     wieder2.visible = true;
+    if (eigene) eigene->visible = true;
+    kontrolleErlauben(erlaubt);
 }
 
-void KlangVorfuehrung::AufgabeGeschlossen() {
-    wieder2Anbieten();
-    wieder.visible = false;
-}
+void KlangVorfuehrung::AufgabeGeschlossen() { kontrolleAnbieten(true); }
 
-void KlangVorfuehrung::LaufBeendet(bool kontrolle) {
-    wieder2Anbieten();
-    wieder2.enabled = kontrolle;
-    wieder.visible = false;
-}
+void KlangVorfuehrung::LaufBeendet(bool kontrolle) { kontrolleAnbieten(kontrolle); }
 
 void KlangVorfuehrung::Verlassen() {
     spieltimer.stop();
     wieder.enabled = false;
-    wieder2.enabled = false;
+    kontrolleErlauben(false);
     midi_.MidiReset();
     for (int i = 0; i < sound::kanaele; ++i) midi_.SetzeKlangfarbe(z.patch[i], i);
 }

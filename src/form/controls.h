@@ -154,8 +154,8 @@ class Slider : public Control {
 
 class TextBox : public Control {
   public:
-    /// A page is only read; a line is written by the user.
-    enum class Size { Page, Line };
+    /// A page is only read, rich text is a page of HTML; a line is written by the user.
+    enum class Size { Page, Line, Rich };
     TextBox(Form& form, Place place, Size size = Size::Page)
         : Control(form, Kind::TextBox, std::move(place)), size_(size) {}
     Size size() const { return size_; }

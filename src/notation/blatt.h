@@ -39,6 +39,8 @@ class Blatt final : public form::Control, public Flaeche {
     std::function<void(const Zug&, ZugZustand)> onUeber;
     std::function<bool(const Zug&)> lehntAb;
     std::function<void(Schreibtaste)> onTaste;
+    /// Enter means something here now; otherwise it is the form's.
+    std::function<bool()> nimmtEnter;
     /// What stands here, in words.
     std::function<std::string()> beschreibung;
 

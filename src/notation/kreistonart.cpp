@@ -50,8 +50,7 @@ void KreisTonart::Toene() {
     const i16 erster = a.quintLage + QzMitte + stufenQz(z.skal_typ, z.skala_nr);
     a.transp = tonklasse(erster);
     // A first note high in its octave would lead beyond the staff.
-    const bool hoch =
-        art_ == Art::Schreiben ? stammton(erster) == 6 : QzOffset(erster) / 4 > 3;
+    const bool hoch = art_ == Art::Schreiben ? stammton(erster) == 6 : QzOffset(erster) / 4 > 3;
     a.transpLage = a.transp - (hoch ? 12 : 0);
     a.oktLage = z.FrquMinAkt + rnd_.below(a.oktSpanne + 1) * 12 - (hoch ? 12 : 0);
     if (core::katalog::rotiert(z.skal_typ))
@@ -70,8 +69,7 @@ void KreisTonart::rotierteToene() {
         if (k > 0 && a.noten[k] < a.noten[k - 1]) a.noten[k] += 12;
         if (z.stimmung == 1) a.stimmWert[k] = a.stufenStimm[nr % 7];
         if (z.stimmung == 2)
-            a.stimmWert[k] =
-                core::katalog::mittelTab[static_cast<std::size_t>(a.noten[k] % 12)];
+            a.stimmWert[k] = core::katalog::mittelTab[static_cast<std::size_t>(a.noten[k] % 12)];
     }
 }
 

@@ -37,10 +37,12 @@ void Notenzeile::setzeSchluessel(i16 s) {
     for (const int i : {0, 1}) PicB(i).visible = i == s;
 }
 
-void Notenzeile::NotenzeileAufbauen(i16 tonAnz, const Umfang& umfang, i16 signatur) {
+void Notenzeile::NotenzeileAufbauen(i16 tonAnz, const Umfang& umfang, std::optional<i16> signatur) {
+    mitSignatur_ = signatur.has_value();
+    const int vz = signatur.value_or(0);
     tonAnz_ = tonAnz;
     umfang_ = umfang;
-    lage_.versatz = signaturSchritt * std::abs(signatur);
+    lage_.versatz = signaturSchritt * std::abs(vz);
     const int breite = lage_.breite(tonAnz);
     PicBNot.lage = Rechteck{0, 0, breite, halterHoehe};
     for (const int s : {0, 1})
@@ -48,7 +50,7 @@ void Notenzeile::NotenzeileAufbauen(i16 tonAnz, const Umfang& umfang, i16 signat
     grenzen_[SchlZ_] = grenzenAuf(SchlZ_, umfang);
     SpaltenZiffern();
     NotenlinienMalen(SchlZ_);
-    SignaturMalen(signatur);
+    SignaturMalen(vz);
 }
 
 void Notenzeile::SpaltenZiffern() {
@@ -118,6 +120,7 @@ void Notenzeile::eintragen(i16 c, i16 s, const Ton& ton, i16 SchrittY, i16 farbe
     spalte.SchrittY = SchrittY;
     spalte.farbe = farbe;
     spalte.zeichen = NotenVergleich(c) == -1 ? zeichen::schonDa : zeichen::von(spalte.vorzeichen);
+    if (mitSignatur_) spalte.zeichen = zeichen::ohne;
 }
 
 void Notenzeile::NoteMalen(i16 c) {
@@ -136,6 +139,17 @@ void Notenzeile::NoteMalen(i16 c) {
 void Notenzeile::OktavMarke(i16 c) {
     OktavMarkeMalen(PicB(schluessel::violin), lage_.oktavMarke(c), 6,
                     NotSelb_[c].oktave == 1 ? farbe::schwarz : farbe::weiss);
+}
+
+void Notenzeile::SchritteMalen() {
+    constexpr int schriftOben = 132;
+    for (int c = 0; c + 1 < tonAnz_; ++c) {
+        const int halbe = std::abs(int(NotSelb_[c + 1].midi - NotSelb_[c].midi));
+        std::string text = halbe > 1 ? std::to_string(halbe / 2) : "";
+        if (halbe % 2 == 1) text += "½";
+        const int mitte = (lage_.x(c) + lage_.x(c + 1)) / 2;
+        PicB(SchlZ_).text(mitte - 4, schriftOben, text, linienFarbe(farbe::gruen));
+    }
 }
 
 i16 Notenzeile::NotenVergleich(i16 c) const {

@@ -6,6 +6,7 @@
 #include "notation/spalte.h"
 
 #include <array>
+#include <optional>
 
 namespace notation {
 
@@ -22,9 +23,10 @@ class Notenzeile {
     i16 SchlZ() const { return SchlZ_; }
 
     /// Clean lines for a task: sizes, limits, clef, numbers of the columns.
-    /// @param tonAnz notes of the task, 4..9. @param signatur key signature that is drawn after
-    /// the clef, -7 flats .. 7 sharps.
-    void NotenzeileAufbauen(i16 tonAnz, const Umfang& umfang, i16 signatur = 0);
+    /// @param tonAnz notes of the task, 4..9. @param signatur key signature, -7 flats .. 7 sharps,
+    /// which is drawn after the clef in place of signs before the notes.
+    void NotenzeileAufbauen(i16 tonAnz, const Umfang& umfang,
+                            std::optional<i16> signatur = std::nullopt);
     void GrenzLinienMalen();
     /// Draws a piece of the limit lines around x in a colour.
     void GrenzStueckMalen(i16 x, i16 farbe);
@@ -39,6 +41,8 @@ class Notenzeile {
     void NoteMalen(i16 c);
     /// Draws or takes away "8va" above a column.
     void OktavMarke(i16 c);
+    /// Writes the steps between the notes below them, in whole tones.
+    void SchritteMalen();
     /// How the note of a column agrees with an earlier one of its staff: -1 the same note stands
     /// there, 1 another one on its line, 0 neither. The nearest decides.
     i16 NotenVergleich(i16 c) const;
@@ -65,6 +69,7 @@ class Notenzeile {
 
     i16 SchlZ_;
     i16 tonAnz_ = 8;
+    bool mitSignatur_ = false;
     Umfang umfang_{};
     Spaltenlage lage_;
     base::FixedArray<Spalte, Spaltenlage::spalten> NotSelb_;

@@ -37,7 +37,7 @@ SchreibBlatt::SchreibBlatt(core::Programm& programm, sound::Midi& midi, results:
     eingabe_.abgelegt = [this] { cmdOK.enabled = true; };
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
     cmdOK.enabled = false;
-    matbox_.zeileGefuellt = [this](int zeile) { tonarten_.fuellen(zeile); };
+    matbox_.zeileGefuellt = [this](int zeile) { tonarten_.fuellen(zeile, pruefAufgaben() / 2); };
     geschlossen_ = ereignis.connect([this](Ereignis turn) {
         if (turn == Ereignis::Geschlossen) HinweisMeldung.visible = false;
     });
@@ -47,10 +47,8 @@ void SchreibBlatt::AntwortenVorbereiten() {
     cmdOK.caption = Wort(801);
     palette_.PaletteMalen();
     zeile_.setzeSchluessel(z.FrquMaxAkt > mitte ? 0 : 1);
-    zeile_.NotenzeileAufbauen(
-        a.tonAnz, {0, 0, 0, z.FrquMinAkt, z.FrquMaxAkt});
+    zeile_.NotenzeileAufbauen(a.tonAnz, {0, 0, 0, z.FrquMinAkt, z.FrquMaxAkt});
     if (z.uebungsmodus > core::modus::fortsetzung) matbox_.anwesendSpalte = anwesendImTest;
-    tonarten_.beginnen(0);
     HinweisLaden();
 }
 
@@ -68,12 +66,15 @@ void SchreibBlatt::HinweisLaden() {
 }
 
 void SchreibBlatt::AufgabeZeigen() {
-    erwartung_ = {.toene = {}, .tonAnz = a.tonAnz, .abfolge = z.abfolge,
-                  .akt_richtung = z.akt_richtung, .ton_abfolg = a.ton_abfolg};
+    erwartung_ = {.toene = {},
+                  .tonAnz = a.tonAnz,
+                  .abfolge = z.abfolge,
+                  .akt_richtung = z.akt_richtung,
+                  .ton_abfolg = a.ton_abfolg};
     for (int k = 0; k < a.tonAnz; ++k) erwartung_.toene[k] = {a.noten[k], a.notenQz[k]};
     zeile_.SchluesselWahl(a.noten[a.tonAnz - 1]);
-    zeile_.NotenzeileAufbauen(
-        a.tonAnz, {a.quintLage, ersterTon(), a.transpLage, z.FrquMinAkt, z.FrquMaxAkt});
+    zeile_.NotenzeileAufbauen(a.tonAnz,
+                              {a.quintLage, ersterTon(), a.transpLage, z.FrquMinAkt, z.FrquMaxAkt});
     eingabe_.AufgabeBeginnt();
     tasten_.AufgabeBeginnt();
     NotenZeigen(zeile_, erwartung_);

@@ -5,6 +5,7 @@ namespace notation {
 Tastenschrift::Tastenschrift(Notenzeile& zeile, Noteneingabe& eingabe, Palette& palette)
     : zeile_(zeile), eingabe_(eingabe), palette_(palette) {
     zeile_.PicBNot.onTaste = [this](Schreibtaste t) { taste(t); };
+    zeile_.PicBNot.nimmtEnter = [this] { return inHand_ >= 0 && palette_.pbNoten.enabled(); };
 }
 
 void Tastenschrift::AufgabeBeginnt() {
@@ -52,7 +53,7 @@ void Tastenschrift::nehmen(int index) {
 }
 
 void Tastenschrift::ablegen(int index) {
-    if (index < 0 || index >= quelle::anzahl) return;
+    if (index < 0 || index >= quelle::anzahl || !palette_.pbNoten.enabled()) return;
     eingabe_.DragDrop(zeile_.SchlZ(), static_cast<i16>(index),
                       static_cast<float>(zeile_.lage().x(spalte_)),
                       static_cast<float>(zeile_.NotSelb(spalte_).y()));

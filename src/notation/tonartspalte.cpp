@@ -12,26 +12,20 @@ constexpr int mittel = 3;
 
 }  // namespace
 
-void Tonartspalte::beginnen(i16 aufgaben) {
-    haelfte_ = aufgaben / 2;
-    reihe_ = schwereSumme_ = 0;
-    for (auto& tonarten : gehabt_) tonarten.clear();
-}
-
-i16 Tonartspalte::ziehen(int versuch) const {
+i16 Tonartspalte::ziehen(bool ausgleichen) const {
     const int richtung = rnd_.sign();
-    if (reihe_ <= haelfte_ || versuch >= freieVersuche) return rnd_.upTo(6) * richtung;
+    if (!ausgleichen) return rnd_.upTo(6) * richtung;
     const bool schwer = schwereSumme_ >= mittel * (reihe_ - 1);
-    return (schwer ? int(rnd_.upTo(3)) : rnd_.upTo(2) + 4) * richtung;
+    return schwer ? rnd_.upTo(3) * richtung : (rnd_.upTo(2) + 4) * richtung;
 }
 
-void Tonartspalte::fuellen(int zeile) {
+void Tonartspalte::fuellen(int zeile, int haelfte) {
     ++reihe_;
     const int skala = std::abs(int(z.matbox(zeile, 0))) - 1;
     auto& gehabt = gehabt_.at(static_cast<std::size_t>(skala));
     i16 tonart;
     for (int versuch = 1; versuch <= letzterVersuch; ++versuch) {
-        tonart = ziehen(versuch);
+        tonart = ziehen(reihe_ > haelfte && versuch < freieVersuche);
         if (!gehabt.contains(tonart)) break;
     }
     gehabt.insert(tonart);

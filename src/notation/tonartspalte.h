@@ -16,19 +16,16 @@ class Tonartspalte {
   public:
     Tonartspalte(core::Zustand& zustand, base::Rnd& rnd) : z(zustand), rnd_(rnd) {}
 
-    /// @param aufgaben of the whole run, in two fillings of the bag.
-    void beginnen(i16 aufgaben);
-    /// Draws the key of a row into column 1 of the bag.
-    void fuellen(int zeile);
+    /// Draws the key of a row into column 1 of the bag. @param haelfte rows of the first filling.
+    void fuellen(int zeile, int haelfte);
 
   private:
-    i16 ziehen(int versuch) const;
+    i16 ziehen(bool ausgleichen) const;
 
     core::Zustand& z;
     base::Rnd& rnd_;
-    int haelfte_ = 0;      ///< rows of the first filling
-    int reihe_ = 0;        ///< rows filled so far
-    int schwereSumme_ = 0; ///< accidentals of their keys
+    int reihe_ = 0;                         ///< rows filled so far, in both fillings
+    int schwereSumme_ = 0;                  ///< accidentals of their keys
     std::array<std::set<int>, 10> gehabt_;  ///< keys of each scale
 };
 

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTextEdit>
 
 namespace qt {
 
@@ -29,8 +30,28 @@ QWidget* Binder::label(form::Label& control) {
     return label;
 }
 
+template <class W>
+QWidget* Binder::textPage(W* text, form::TextBox& control, void (W::*setText)(const QString&)) {
+    common(control, *text);
+    text->setReadOnly(true);
+    const auto show = [&control, text, setText](Aspect aspect) {
+        if (aspect == Aspect::Value) (text->*setText)(QString::fromStdString(control.text()));
+    };
+    show(Aspect::Value);
+    follow(control, show);
+    return text;
+}
+
 QWidget* Binder::textBox(form::TextBox& control) {
-    return control.size() == form::TextBox::Size::Line ? textLine(control) : textPage(control);
+    switch (control.size()) {
+        case form::TextBox::Size::Line:
+            return textLine(control);
+        case form::TextBox::Size::Page:
+            return textPage(new QPlainTextEdit(&window_), control, &QPlainTextEdit::setPlainText);
+        case form::TextBox::Size::Rich:
+            return textPage(new QTextEdit(&window_), control, &QTextEdit::setHtml);
+    }
+    return nullptr;
 }
 
 QWidget* Binder::textLine(form::TextBox& control) {
@@ -44,18 +65,6 @@ QWidget* Binder::textLine(form::TextBox& control) {
     follow(control, show);
     QObject::connect(text, &QLineEdit::textEdited, text,
                      [&control](const QString& written) { control.text = written.toStdString(); });
-    return text;
-}
-
-QWidget* Binder::textPage(form::TextBox& control) {
-    auto* text = new QPlainTextEdit(&window_);
-    common(control, *text);
-    text->setReadOnly(true);
-    const auto show = [&control, text](Aspect aspect) {
-        if (aspect == Aspect::Value) text->setPlainText(QString::fromStdString(control.text()));
-    };
-    show(Aspect::Value);
-    follow(control, show);
     return text;
 }
 

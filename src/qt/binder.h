@@ -45,7 +45,8 @@ class Binder {
     QWidget* label(form::Label& control);
     QWidget* textBox(form::TextBox& control);
     QWidget* textLine(form::TextBox& control);
-    QWidget* textPage(form::TextBox& control);
+    template <class W>
+    QWidget* textPage(W* text, form::TextBox& control, void (W::*setText)(const QString&));
     QWidget* button(form::Button& control);
     QWidget* panel(form::Panel& control);
     QWidget* option(form::Option& control);

@@ -1,6 +1,7 @@
 #include "qt/form_window.h"
 
 #include "look/look.h"
+#include "qt/staff_widget.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -98,6 +99,8 @@ bool FormWindow::keyPressed(QWidget& widget, int pressed) {
         button->click();
         return true;
     }
+    const auto* staff = dynamic_cast<const StaffWidget*>(&widget);
+    if (staff && key->kind == form::Key::Kind::Enter && staff->takesEnter()) return false;
     // In a list both choose the item.
     if (qobject_cast<QAbstractItemView*>(&widget) &&
         (key->kind == form::Key::Kind::Enter || key->kind == form::Key::Kind::Space))

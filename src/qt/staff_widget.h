@@ -17,6 +17,8 @@ class StaffWidget final : public QWidget {
     explicit StaffWidget(notation::Blatt& surface, QWidget* parent = nullptr);
 
     notation::Blatt& surface() const { return surface_; }
+    /// Enter writes here now.
+    bool takesEnter() const { return surface_.nimmtEnter && surface_.nimmtEnter(); }
     /// Logical pixels of the screen to one of the surface.
     double scale() const;
     /// Where a point of a surface shown here lies in this widget.

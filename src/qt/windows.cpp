@@ -13,10 +13,11 @@ struct Layout {
     void (*build)(FormWindow&);
 };
 constexpr std::array layouts{
-    Layout{"grd_einst", layoutGrdEinst},         Layout{"einstellung1", layoutEinstellung},
-    Layout{"arbeitsblatt1", layoutArbeitsblatt}, Layout{"testergebnis", layoutTestergebnis},
-    Layout{"frmMessage", layoutFrmMessage},      Layout{"frmSave", layoutFrmSave},
-    Layout{"frmLoad", layoutFrmLoad},
+    Layout{"grd_einst", layoutGrdEinst},        Layout{"einstellung1", layoutEinstellung},
+    Layout{"arbeitsblatt1", layoutBestimmen},   Layout{"arbeitsblatt1b", layoutBestimmen},
+    Layout{"arbeitsblatt4", layoutSchreiben},   Layout{"arbeitsblatt4b", layoutSchreiben},
+    Layout{"testergebnis", layoutTestergebnis}, Layout{"frmMessage", layoutFrmMessage},
+    Layout{"frmSave", layoutFrmSave},           Layout{"frmLoad", layoutFrmLoad},
 };
 
 }  // namespace

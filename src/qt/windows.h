@@ -26,7 +26,8 @@ class Windows {
 // The layouts, one a form.
 void layoutGrdEinst(FormWindow& window);
 void layoutEinstellung(FormWindow& window);
-void layoutArbeitsblatt(FormWindow& window);
+void layoutBestimmen(FormWindow& window);
+void layoutSchreiben(FormWindow& window);
 void layoutTestergebnis(FormWindow& window);
 void layoutFrmMessage(FormWindow& window);
 void layoutFrmSave(FormWindow& window);

@@ -32,6 +32,8 @@ core::Aufruf aufruf(const QStringList& arguments) {
     return {.kommandozeile = arguments.mid(1).join(' ').toStdString(),
             .tempOrdner = temp.empty() ? environment("TEMP") : temp,
             .rechnername = QSysInfo::machineHostName().toStdString(),
+            .programmOrdner =
+                (QCoreApplication::applicationDirPath() + "/../share/melvora").toStdString(),
             .stueckeOrdner = documents.toStdString() + "/Melvora/Stuecke_Files",
             .startdatei = settings,
             .startTyp = settings.empty() ? core::uebung::bestimmen : setup::uebungstyp(settings),

@@ -1,23 +1,20 @@
+// What all worksheets show: result, counters, bar or clock, and the way on, beside their own area.
+#include "qt/worksheet_page.h"
+
 #include "look/look.h"
-#include "qt/answer_card.h"
-#include "qt/painter_surface.h"
-#include "qt/windows.h"
 
 #include <QGridLayout>
-#include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace qt {
 
-namespace {
-
-constexpr int answers = 10;
-constexpr int sideWidth = 250;
-
-QLabel* labelOf(Binder& bind, const char* name, int index = form::Place::noIndex) {
+QLabel* labelOf(Binder& bind, const char* name, int index) {
     return static_cast<QLabel*>(bind(name, index));
 }
+
+namespace {
+
+constexpr int sideWidth = 250;
 
 /// Result, counters, and what leads on.
 QWidget* sidePanel(Binder& bind) {
@@ -25,6 +22,15 @@ QWidget* sidePanel(Binder& bind) {
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(look::gap);
+
+    if (bind.has("aufg")) {
+        column->addWidget(labelOf(bind, "Label2"));
+        QLabel* scale = labelOf(bind, "aufg");
+        scale->setWordWrap(true);
+        look::font(*scale, 1.5, true);
+        look::colours(*scale, look::accent);
+        column->addWidget(scale);
+    }
 
     QLabel* result = labelOf(bind, "ergebnis");
     result->setAlignment(Qt::AlignCenter);
@@ -62,10 +68,8 @@ QWidget* sidePanel(Binder& bind) {
     look::font(*next, 1, true);
     look::colours(*next, look::accent);
     column->addWidget(next);
-    if (bind.has("wieder")) {
-        tall("wieder");
-        tall("wieder2");
-    }
+    for (const char* more : {"wieder", "wieder2", "eigene", "schrittmarken"})
+        if (bind.has(more)) tall(more);
     column->addStretch();
 
     // Training bar and exam clock share one place.
@@ -98,71 +102,16 @@ QWidget* sidePanel(Binder& bind) {
     return side;
 }
 
-QLabel* digit(Binder& bind, int i) {
-    QLabel* label = labelOf(bind, "ziffer", i);
-    look::colours(*label, look::muted);
-    look::font(*label, 0.9, true);
-    label->setFixedWidth(14);
-    label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    return label;
-}
-
-/// Digit and name in one line, the picture below; the frame's colour tells the state.
-QWidget* pictureAnswer(Binder& bind, int i) {
-    auto& frame = bind.control<form::Panel>("skal_pan", i);
-    auto* card = new AnswerCard;
-    bind.common(frame, *card);
-    card->setColour(colour(frame.backColour()));
-    bind.follow(frame, [card, &frame](form::Aspect aspect) {
-        if (aspect == form::Aspect::Colour) card->setColour(colour(frame.backColour()));
-    });
-    auto* inside = new QVBoxLayout(card);
-    inside->setContentsMargins(6, 4, 6, 6);
-    inside->setSpacing(2);
-    auto* head = new QHBoxLayout;
-    head->addWidget(labelOf(bind, "skal_bez", i), 1);
-    inside->addLayout(head);
-    inside->addWidget(bind("ton_art", i), 1);
-    return card;
-}
-
-QWidget* answerArea(Binder& bind) {
-    QWidget* area = bind("PicArb2");
-    auto* column = new QVBoxLayout(area);
-    column->setContentsMargins(0, 0, 0, 0);
-    QLabel* heading = labelOf(bind, "tonarten");
-    look::font(*heading, 1.3, true);
-    column->addWidget(heading);
-    auto* grid = new QGridLayout;
-    grid->setSpacing(look::gap);
-    for (int i = 0; i < answers; ++i) {
-        auto* line = new QHBoxLayout;
-        line->setSpacing(2);
-        line->addWidget(digit(bind, i));
-        line->addWidget(pictureAnswer(bind, i), 1);
-        QWidget* name = bind("tonart", i);
-        name->setMinimumHeight(56);
-        name->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        look::font(*name, 1.15);
-        line->addWidget(name, 1);
-        grid->addLayout(line, i / 2, i % 2);
-    }
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    column->addLayout(grid, 1);
-    return area;
-}
-
 }  // namespace
 
-void layoutArbeitsblatt(FormWindow& window) {
+void worksheetPage(FormWindow& window, QWidget* area) {
     Binder& bind = window.binder();
     auto* page = new QVBoxLayout(&window);
     page->setContentsMargins(16, look::margin, 16, look::gap);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(20);
     columns->addWidget(sidePanel(bind));
-    columns->addWidget(answerArea(bind), 1);
+    columns->addWidget(area, 1);
     page->addLayout(columns, 1);
 
     auto* footer = new QHBoxLayout;

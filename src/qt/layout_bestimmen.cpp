@@ -1,0 +1,77 @@
+// The worksheets on which a scale is named.
+#include "look/look.h"
+#include "qt/answer_card.h"
+#include "qt/painter_surface.h"
+#include "qt/windows.h"
+#include "qt/worksheet_page.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+namespace qt {
+
+namespace {
+
+constexpr int answers = 10;
+
+QLabel* digit(Binder& bind, int i) {
+    QLabel* label = labelOf(bind, "ziffer", i);
+    look::colours(*label, look::muted);
+    look::font(*label, 0.9, true);
+    label->setFixedWidth(14);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    return label;
+}
+
+/// Digit and name in one line, the picture below; the frame's colour tells the state.
+QWidget* pictureAnswer(Binder& bind, int i) {
+    auto& frame = bind.control<form::Panel>("skal_pan", i);
+    auto* card = new AnswerCard;
+    bind.common(frame, *card);
+    card->setColour(colour(frame.backColour()));
+    bind.follow(frame, [card, &frame](form::Aspect aspect) {
+        if (aspect == form::Aspect::Colour) card->setColour(colour(frame.backColour()));
+    });
+    auto* inside = new QVBoxLayout(card);
+    inside->setContentsMargins(6, 4, 6, 6);
+    inside->setSpacing(2);
+    auto* head = new QHBoxLayout;
+    head->addWidget(labelOf(bind, "skal_bez", i), 1);
+    inside->addLayout(head);
+    inside->addWidget(bind("ton_art", i), 1);
+    return card;
+}
+
+QWidget* answerArea(Binder& bind) {
+    QWidget* area = bind("PicArb2");
+    auto* column = new QVBoxLayout(area);
+    column->setContentsMargins(0, 0, 0, 0);
+    QLabel* heading = labelOf(bind, "tonarten");
+    look::font(*heading, 1.3, true);
+    if (bind.has("PicBNot")) column->addWidget(bind("PicBNot"), 2);
+    column->addWidget(heading);
+    auto* grid = new QGridLayout;
+    grid->setSpacing(look::gap);
+    for (int i = 0; i < answers; ++i) {
+        auto* line = new QHBoxLayout;
+        line->setSpacing(2);
+        line->addWidget(digit(bind, i));
+        line->addWidget(pictureAnswer(bind, i), 1);
+        QWidget* name = bind("tonart", i);
+        name->setMinimumHeight(56);
+        name->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        look::font(*name, 1.15);
+        line->addWidget(name, 1);
+        grid->addLayout(line, i / 2, i % 2);
+    }
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    column->addLayout(grid, 3);
+    return area;
+}
+
+}  // namespace
+
+void layoutBestimmen(FormWindow& window) { worksheetPage(window, answerArea(window.binder())); }
+
+}  // namespace qt

@@ -1,0 +1,56 @@
+// The worksheets on which a scale is written.
+#include "look/look.h"
+#include "qt/windows.h"
+#include "qt/worksheet_page.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace qt {
+
+namespace {
+
+/// The five fields with their keys, in their coloured frames.
+QWidget* palette(Binder& bind) {
+    QWidget* frame = bind("pbNoten");
+    auto* fields = new QHBoxLayout(frame);
+    fields->setContentsMargins(look::gap, look::gap, look::gap, look::gap);
+    fields->setSpacing(look::gap);
+    for (int i = 0; bind.has("NotP", i); ++i) {
+        auto* number = new QLabel(QString::number(i + 1));
+        look::colours(*number, look::muted);
+        look::font(*number, 0.9, true);
+        fields->addWidget(number);
+        QWidget* field = bind("grdnot", i);
+        auto* inside = new QHBoxLayout(field);
+        inside->setContentsMargins(4, 4, 4, 4);
+        inside->addWidget(bind("NotP", i));
+        fields->addWidget(field);
+    }
+    frame->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+    return frame;
+}
+
+QWidget* writingArea(Binder& bind) {
+    QWidget* area = bind("PicArb2");
+    auto* column = new QVBoxLayout(area);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(look::margin);
+    auto* tools = new QHBoxLayout;
+    tools->addWidget(palette(bind));
+    tools->addStretch();
+    QWidget* hand = bind("cmdOK");
+    hand->setMinimumSize(static_cast<int>(130 * look::scale()), 48);
+    look::font(*hand, 1.15, true);
+    tools->addWidget(hand);
+    column->addLayout(tools);
+    column->addWidget(bind("PicBNot"), 3);
+    column->addWidget(bind("HinweisMeldung"), 2);
+    return area;
+}
+
+}  // namespace
+
+void layoutSchreiben(FormWindow& window) { worksheetPage(window, writingArea(window.binder())); }
+
+}  // namespace qt
