@@ -1,0 +1,252 @@
+// The set-up form: a choice until it is painted, the start of a saved training, files of settings.
+// `setup_bench --read FILE` reads one such file and prints how far memory rose at its peak, in KB.
+#include "core/fortsetzung.h"
+#include "qt/stage.h"
+#include "setup/einstellungsdatei.h"
+#include "support/fake_words.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+constexpr int tetrachords = 6;  ///< ten scales: twenty items, or rows, in both directions
+constexpr std::size_t megabyte = 1 << 20;
+
+// A click in a list until the window is painted.
+
+void click(QWidget& viewport, QPoint at) {
+    const auto send = [&](QEvent::Type type, Qt::MouseButtons held) {
+        QMouseEvent event(type, at, viewport.mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
+        QApplication::sendEvent(&viewport, &event);
+    };
+    send(QEvent::MouseButtonPress, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, Qt::NoButton);
+}
+
+/// Counts how often a widget is painted.
+struct Painted final : QObject {
+    explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        times += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int times = 0;
+};
+
+/// Moves the first item on offer to the chosen ones and back.
+void choose(benchmark::State& state) {
+    Stage stage;
+    stage.openSetup();
+    stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(tetrachords);
+    stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+    QWidget& window = stage.window("einstellung1");
+    window.resize(2560, 1400);
+    QApplication::processEvents();
+    auto& offered = stage.widget<QListWidget>("einstellung1", "lst_ska_0");
+    auto& chosen = stage.widget<QListWidget>("einstellung1", "lst_ska_1");
+    if (offered.count() != 20) throw std::logic_error("other than 20 items");
+    const Painted left(*offered.viewport()), right(*chosen.viewport());
+    const int most = static_cast<int>(state.range(0));
+    QListWidget* source = &offered;
+    for ([[maybe_unused]] const auto _ : state) {
+        const int before = chosen.count(), leftBefore = left.times, rightBefore = right.times;
+        click(*source->viewport(), source->visualItemRect(source->item(0)).center());
+        if (std::abs(chosen.count() - before) != 1) throw std::logic_error("nothing has moved");
+        // The toolkit paints with the next frame, some milliseconds later.
+        while (left.times == leftBefore || right.times == rightBefore)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (chosen.count() == most) source = &chosen;
+        if (chosen.count() == 0) source = &offered;
+    }
+}
+BENCHMARK(choose)->Name("setup/choose")->Arg(15)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// OK until the first task can be called, on a host in memory.
+
+struct Desk {
+    support::FakeHost host;
+    form::VirtualTime loop;
+    support::FakeWords words;
+    support::ScriptedDialogs dialogs;
+    support::FakePrinter printer;
+    support::FakeHelp help;
+    support::RecordingMidi midi{loop};
+    drill::Drill drill{{loop, dialogs, printer, help, [this] { return host.connect(); }, &words},
+                       {.tempOrdner = "/tmp", .rechnername = "desk"},
+                       midi,
+                       1};
+
+    Desk() {
+        drill.programm.forms.load("grd_einst");
+        loop.advance(5);
+        get<form::Button>("grd_einst", "cmdOK").click();
+        loop.advance(250);
+        get<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(tetrachords);
+    }
+    template <class C>
+    C& get(const std::string& form, const std::string& name, int index = form::Place::noIndex) {
+        return static_cast<C&>(*drill.programm.forms.loaded(form)->find(name, index));
+    }
+    /// From the choice of the mode to the worksheet that is ready.
+    void start(int mode) {
+        get<form::Combo>("einstellung1", "training_Combo").setListIndex(mode);
+        get<form::Button>("einstellung1", "cmdOK").click();
+        while (!sheetReady()) loop.advance(1);
+        if (drill.programm.zustand.potSkala != 20) throw std::logic_error("other than 20 rows");
+    }
+    bool sheetReady() {
+        return drill.programm.forms.loaded("arbeitsblatt1") &&
+               get<form::Button>("arbeitsblatt1", "CmdNextAufg").usable();
+    }
+    void task() {
+        get<form::Button>("arbeitsblatt1", "CmdNextAufg").click();
+        auto& right =
+            get<form::Picture>("arbeitsblatt1", "ton_art", drill.programm.zustand.skala_nr);
+        while (!right.usable()) loop.advance(100);
+        right.click();
+        loop.advance(3000);
+    }
+    void leave(bool keep) {
+        dialogs.answers = {keep};
+        get<form::Panel>("arbeitsblatt1", "zurueck").click();
+        loop.advance(500);
+    }
+};
+
+void startTraining(benchmark::State& state) {
+    Desk desk;
+    desk.start(core::modus::training);
+    desk.task();
+    desk.leave(true);
+    for ([[maybe_unused]] const auto _ : state) {
+        desk.start(static_cast<int>(state.range(0)));
+        state.PauseTiming();
+        desk.leave(false);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(startTraining)
+    ->Name("setup/start_training")
+    ->Arg(core::modus::training)
+    ->Arg(core::modus::fortsetzung)
+    ->Iterations(500)
+    ->Unit(benchmark::kMillisecond);
+
+// Files of settings as large as they may be.
+
+struct Sample {
+    const char* name;
+    const char *begin, *each, *end;
+    bool read;  ///< the file says something; else it is refused
+};
+constexpr const char* control =
+    "<control><cname>temp_Combo</cname><index>0</index><value text=\"80\">3</value></control>\n";
+constexpr const char* head = "<test><basic><modul>VESHNA</modul></basic><setting>";
+constexpr Sample samples[]{
+    {"controls", head, control, "</setting></test>", true},
+    {"values", "<test><basic/><control><cname>lst_ska</cname>", "<value>x</value>",
+     "</control></test>", true},
+    {"short_elements", "<test><basic/>", "x<a/>", "</test>", false},
+    {"broken_at_the_end", head, control, "</setting>", false},
+    {"nested", "<a>", "<a>", "", false},
+    {"no_xml", "", "no settings at all ", "", false},
+};
+
+/// Writes a sample of up to a megabyte. @return its path.
+std::string written(const Sample& sample, const QTemporaryDir& folder) {
+    std::string text = sample.begin;
+    const std::size_t room = megabyte - std::string(sample.end).size();
+    while (text.size() + std::string(sample.each).size() <= room) text += sample.each;
+    text += sample.end;
+    const std::string path = folder.filePath(sample.name).toStdString() + ".mvs";
+    std::ofstream(path, std::ios::binary) << text;
+    return path;
+}
+
+/// A field of the memory that this process has used, KB.
+long memory(const char* field) {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with(field)) return std::stol(line.substr(line.find(':') + 1));
+    throw std::runtime_error("no memory count");
+}
+
+int printPeak(const char* path) {
+    const long before = memory("VmHWM");
+    benchmark::DoNotOptimize(setup::EinstellungenLesen(path));
+    std::printf("%ld\n", memory("VmHWM") - before);
+    return 0;
+}
+
+/// What a fresh process needs to read a file, MB.
+double peakOf(const std::string& path) {
+    std::FILE* out =
+        popen(("/proc/" + std::to_string(getpid()) + "/exe --read " + path).c_str(), "r");
+    long kilobytes = -1;
+    if (!out || std::fscanf(out, "%ld", &kilobytes) != 1 || pclose(out) != 0)
+        throw std::runtime_error("the memory could not be measured");
+    return static_cast<double>(kilobytes) / 1024;
+}
+
+void readSettings(benchmark::State& state) {
+    const Sample& sample = samples[state.range(0)];
+    const QTemporaryDir folder;
+    const std::string path = written(sample, folder);
+    for ([[maybe_unused]] const auto _ : state)
+        if (setup::EinstellungenLesen(path).eintraege.empty() == sample.read)
+            throw std::logic_error("read otherwise than meant");
+    state.counters["peak_MB"] = peakOf(path);
+    state.SetLabel(sample.name);
+}
+BENCHMARK(readSettings)
+    ->Name("setup/read_settings")
+    ->DenseRange(0, std::size(samples) - 1)
+    ->Unit(benchmark::kMillisecond);
+
+/// A file that fills a list with so many values, applied to the form in its window.
+void applySettings(benchmark::State& state) {
+    std::string text = "<test><basic/><control><cname>lst_ska</cname><index>1</index>";
+    for (int i = 0; i < state.range(0); ++i) text += "<value>x</value>";
+    const auto settings = setup::EinstellungenLesenAus(text + "</control></test>");
+    for ([[maybe_unused]] const auto _ : state) {
+        state.PauseTiming();
+        auto stage = std::make_unique<Stage>();
+        stage->openSetup();
+        state.ResumeTiming();
+        setup::EinstellungenAnwenden(stage->form("einstellung1"), settings);
+        state.PauseTiming();
+        const auto& list = stage->control<form::ListBox>("einstellung1", "lst_ska", 1);
+        if (list.count() != state.range(0)) throw std::logic_error("not applied");
+        stage.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(applySettings)
+    ->Name("setup/apply_settings")
+    ->Arg(20)
+    ->Arg(1000)
+    ->Iterations(3)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc == 3 && std::string(argv[1]) == "--read") return printPeak(argv[2]);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
