@@ -240,6 +240,14 @@
 <message id="876s"><translation>H</translation></message>
 <message id="877s"><translation>His</translation></message>
 <message id="878s"><translation>Hisis</translation></message>
+<message id="879s"><translation>Tasten: Pfeile wählen Spalte und Vorzeichen, 1–5 und Eingabe setzen, Eingabe: Fertig und weiter, Leertaste wiederholt, Esc verlässt</translation></message>
+<message id="880s"><translation>Notenzeile</translation></message>
+<message id="881s"><translation>Doppel-b</translation></message>
+<message id="882s"><translation>b</translation></message>
+<message id="883s"><translation>Auflösungszeichen</translation></message>
+<message id="884s"><translation>Kreuz</translation></message>
+<message id="885s"><translation>Doppelkreuz</translation></message>
+<message id="886s"><translation>Tasten: 1–0 antworten, Eingabe geht weiter, Esc verlässt</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Ergebnisse</translation></message>
 <message id="902s"><translation>Protokoll</translation></message>

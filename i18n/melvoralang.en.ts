@@ -240,6 +240,14 @@
 <message id="876s"><translation>B</translation></message>
 <message id="877s"><translation>B sharp</translation></message>
 <message id="878s"><translation>B double sharp</translation></message>
+<message id="879s"><translation>Keys: arrows choose column and accidental, 1–5 and Enter put one down, Enter: done and on, Space repeats, Esc leaves</translation></message>
+<message id="880s"><translation>Staff</translation></message>
+<message id="881s"><translation>double flat</translation></message>
+<message id="882s"><translation>flat</translation></message>
+<message id="883s"><translation>natural</translation></message>
+<message id="884s"><translation>sharp</translation></message>
+<message id="885s"><translation>double sharp</translation></message>
+<message id="886s"><translation>Keys: 1–0 answer, Enter goes on, Esc leaves</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Results</translation></message>
 <message id="902s"><translation>Log</translation></message>

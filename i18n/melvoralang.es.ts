@@ -240,6 +240,14 @@
 <message id="876s"><translation>si</translation></message>
 <message id="877s"><translation>si sostenido</translation></message>
 <message id="878s"><translation>si doble sostenido</translation></message>
+<message id="879s"><translation>Teclas: las flechas eligen columna y alteración, 1–5 e Intro la colocan, Intro: terminado y seguir, Espacio repite, Esc sale</translation></message>
+<message id="880s"><translation>Pentagrama</translation></message>
+<message id="881s"><translation>doble bemol</translation></message>
+<message id="882s"><translation>bemol</translation></message>
+<message id="883s"><translation>becuadro</translation></message>
+<message id="884s"><translation>sostenido</translation></message>
+<message id="885s"><translation>doble sostenido</translation></message>
+<message id="886s"><translation>Teclas: 1–0 responden, Intro sigue, Esc sale</translation></message>
 <message id="900s"><translation>Inicio</translation></message>
 <message id="901s"><translation>Resultados</translation></message>
 <message id="902s"><translation>Registro</translation></message>

@@ -240,6 +240,14 @@
 <message id="876s"><translation>si</translation></message>
 <message id="877s"><translation>si dièse</translation></message>
 <message id="878s"><translation>si double dièse</translation></message>
+<message id="879s"><translation>Touches : les flèches choisissent colonne et altération, 1–5 et Entrée la posent, Entrée : terminé et suite, Espace répète, Échap quitte</translation></message>
+<message id="880s"><translation>Portée</translation></message>
+<message id="881s"><translation>double bémol</translation></message>
+<message id="882s"><translation>bémol</translation></message>
+<message id="883s"><translation>bécarre</translation></message>
+<message id="884s"><translation>dièse</translation></message>
+<message id="885s"><translation>double dièse</translation></message>
+<message id="886s"><translation>Touches : 1–0 répondent, Entrée continue, Échap quitte</translation></message>
 <message id="900s"><translation>Accueil</translation></message>
 <message id="901s"><translation>Résultats</translation></message>
 <message id="902s"><translation>Journal</translation></message>

@@ -11,7 +11,7 @@ class Arbeitsblatt1b final : public BestimmenBlatt {
   public:
     Arbeitsblatt1b(core::Programm& programm, sound::Midi& midi, results::Wertung& wertung);
 
-    const notation::Notenzeile& notenzeile() const { return zeile_; }
+    notation::Notenzeile& notenzeile() { return zeile_; }
 
   protected:
     engine::Vorfuehrung& vorfuehrung() override { return vorfuehrung_; }

@@ -4,6 +4,7 @@
 #include "notation/rtf.h"
 #include "notation/tonname.h"
 
+#include <array>
 #include <exception>
 
 namespace notation {
@@ -44,7 +45,11 @@ SchreibBlatt::SchreibBlatt(core::Programm& programm, sound::Midi& midi, results:
 }
 
 void SchreibBlatt::AntwortenVorbereiten() {
-    cmdOK.caption = Wort(801);
+    beschriften({{cmdOK, 801}, {tasten, 879}});
+    zeile_.PicBNot.accessibleName = Wort(880);
+    constexpr std::array zeichenWorte{881, 882, 883, 884, 885};  // words
+    for (int i = 0; i < quelle::anzahl; ++i)
+        palette_.NotP(i).accessibleName = Wort(zeichenWorte.at(static_cast<std::size_t>(i)));
     palette_.PaletteMalen();
     zeile_.setzeSchluessel(z.FrquMaxAkt > mitte ? 0 : 1);
     zeile_.NotenzeileAufbauen(a.tonAnz, {0, 0, 0, z.FrquMinAkt, z.FrquMaxAkt});

@@ -22,7 +22,7 @@ class SchreibBlatt : public engine::Arbeitsblatt {
     /// The learner hands in what stands on the staff.
     void skal_antw();
 
-    const Notenzeile& notenzeile() const { return zeile_; }
+    Notenzeile& notenzeile() { return zeile_; }
     const Erwartung& erwartung() const { return erwartung_; }
 
   protected:

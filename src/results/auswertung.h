@@ -25,6 +25,9 @@ class Auswertung {
     void Add(i16 i, i16 x, float value) { tabelle_(i, x) += value; }
     /// Keeps the two lowest values of a row: the lowest ends in column 1, the second in column 0.
     void SaveBest(i16 i, float value);
+    /// Before a task of a written test is booked: counts it in column 0, and while fewer than
+    /// `bestAnz` scores are kept makes a free place for it in column 2.
+    void PlatzSchaffen(i16 i, i16 bestAnz);
     /// Keeps the lowest values of a row in columns 2 up, highest first.
     /// @param bestAnz how many are kept at most; column 0 holds how many were booked.
     void SortASaveBest(i16 i, float value, i16 bestAnz);

@@ -33,6 +33,7 @@ void Wertung::ErgebnisBuchen(i16 i, float wert) {
     } else if (z.ueb_typ == bestimmen) {
         auswertung.SaveBest(i, gebucht);
     } else {
+        auswertung.PlatzSchaffen(i, z.bestAnz);
         auswertung.SortASaveBest(i, gebucht, z.bestAnz);
     }
 }

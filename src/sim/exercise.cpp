@@ -18,6 +18,8 @@ using core::Zustand;
 constexpr std::array worksheets{
     Worksheet{"arbeitsblatt1", 0, core::uebung::bestimmen},
     Worksheet{"arbeitsblatt1b", 1, core::uebung::bestimmen},
+    Worksheet{"arbeitsblatt4", 0, core::uebung::schreiben},
+    Worksheet{"arbeitsblatt4b", 1, core::uebung::schreiben},
 };
 
 // MIDI notes: the highest that a set-up form offers, and what no task may reach.
@@ -109,6 +111,9 @@ core::Zustand exerciseState(const Worksheet& sheet, const std::vector<Assignment
         throw UsageError(std::string(sheet.name) + " is theoriewahl " +
                          std::to_string(sheet.theoriewahl) + ", ueb_typ " +
                          std::to_string(sheet.ueb_typ));
+    const bool spelled = z.theoriewahl == 1 || z.ueb_typ == core::uebung::schreiben;
+    if (spelled && z.skal_typ != 0)
+        throw UsageError(std::string(sheet.name) + " is for skal_typ 0 only");
     z.skal_anz = core::katalog::kategorien.at(static_cast<std::size_t>(int(z.skal_typ))).skal_max;
     if (z.ska_ausw == 1 && !given.contains("einzel_wahl"))
         throw UsageError("ska_ausw=1 needs einzel_wahl");

@@ -47,9 +47,11 @@ Learner::Learner(const std::string& text) {
     } else if (is("slow", 1)) {
         kind_ = Kind::Slow;
         time_ = static_cast<int>(decimalNumber("learner slow", parts[1], 0, longest) * 1000);
+    } else if (is("enharmonic", 0)) {
+        kind_ = Kind::Enharmonic;
     } else {
         throw UsageError("no learner \"" + text +
-                         "\": perfect, wrong, random:P, confuse:A:B or slow:SECONDS");
+                         "\": perfect, wrong, random:P, confuse:A:B, slow:SECONDS or enharmonic");
     }
 }
 
@@ -57,6 +59,7 @@ int Learner::answer(const Question& question, base::Rnd& chance) const {
     switch (kind_) {
         case Kind::Perfect:
         case Kind::Slow:
+        case Kind::Enharmonic:
             return question.right;
         case Kind::Wrong:
             return wrongAnswer(question, chance);
@@ -66,6 +69,24 @@ int Learner::answer(const Question& question, base::Rnd& chance) const {
             return confused(question);
     }
     return question.right;
+}
+
+Writing Learner::writes(const Question& question, base::Rnd& chance) const {
+    const bool confusing = question.right == a_ || question.right == b_;
+    switch (kind_) {
+        case Kind::Perfect:
+        case Kind::Slow:
+            return Writing::Right;
+        case Kind::Wrong:
+            return Writing::Wrong;
+        case Kind::Random:
+            return chance.R() < chanceOfRight_ ? Writing::Right : Writing::Wrong;
+        case Kind::Confuse:
+            return question.tries == 0 && confusing ? Writing::Wrong : Writing::Right;
+        case Kind::Enharmonic:
+            return Writing::Enharmonic;
+    }
+    return Writing::Right;
 }
 
 /// Any open answer but the right one, which is all that is left when there is no other.

@@ -1,5 +1,6 @@
 #pragma once
 #include "base/rnd.h"
+#include "sim/writer.h"
 
 #include <span>
 #include <string>
@@ -20,7 +21,8 @@ class Learner {
     static constexpr int usualTime = 1000;
 
     /// @param text perfect, wrong, random:P (right with chance P), confuse:A:B (takes scale A for B
-    /// and B for A at first) or slow:SECONDS (right, but late).
+    /// and B for A at first), slow:SECONDS (right, but late) or enharmonic (writes what sounds
+    /// alike).
     /// @throws UsageError for any other text.
     explicit Learner(const std::string& text = "perfect");
 
@@ -28,9 +30,11 @@ class Learner {
     int thinkingTime() const { return time_; }
     /// One of the open answers; `question.open` is not empty.
     int answer(const Question& question, base::Rnd& chance) const;
+    /// How it writes the scale of a task. `question.open` is not looked at.
+    Writing writes(const Question& question, base::Rnd& chance) const;
 
   private:
-    enum class Kind { Perfect, Wrong, Random, Confuse, Slow };
+    enum class Kind { Perfect, Wrong, Random, Confuse, Slow, Enharmonic };
 
     static int wrongAnswer(const Question& question, base::Rnd& chance);
     int confused(const Question& question) const;

@@ -9,14 +9,16 @@ namespace sim {
 
 const char* const helpText = R"(zepha9-sim: the drill without a screen, with a simulated learner
 
-  --form NAME          worksheet: arbeitsblatt1 (default), arbeitsblatt1b
+  --form NAME          worksheet: arbeitsblatt1 (default), arbeitsblatt4 (a heard scale is written),
+                       arbeitsblatt1b, arbeitsblatt4b (music theory: named, written)
   --set FIELD=VALUE    a field of the exercise, for example skal_typ=0, richtung=2, uebungsmodus=1,
                        einzel_wahl=1,-1,2,-2 (chosen scales, negative for descending)
   --tasks N            leave a run after N tasks; 0 (default): it ends by itself
   --runs N             runs, one after the other (default 1)
   --seed N             the same seed gives the same runs (default 1)
   --learner KIND       perfect (default), wrong, random:P (right with chance P), confuse:A:B (takes
-                       scale A for B and B for A, from 0), slow:SECONDS (right, but late)
+                       scale A for B and B for A, from 0), slow:SECONDS (right, but late), enharmonic
+                       (writes what sounds alike)
   --keep               a training that is left is saved, and the next run continues it
   --through-setup      take the whole road: start form, set-up form, worksheet, result form
   --words FILE         words of a language (.ts); without it a word tells its number

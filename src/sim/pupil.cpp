@@ -22,14 +22,14 @@ C* control(const form::Form& form, const char* name, int index = form::Place::no
 
 }  // namespace
 
-void Pupil::begin(const engine::Arbeitsblatt& sheet, int limit) {
+void Pupil::begin(engine::Arbeitsblatt& sheet, int limit) {
     sheet_ = &sheet;
     limit_ = limit;
     tasks_ = tries_ = rightFirst_ = 0;
     leftAtLimit_ = false;
     pictures_.clear();
     names_.clear();
-    for (int i = 0; i < maxAnswers; ++i) {
+    for (int i = 0; sheet.find("ton_art", i); ++i) {
         pictures_.push_back(control<form::Picture>(sheet, "ton_art", i));
         names_.push_back(control<form::Panel>(sheet, "tonart", i));
     }
@@ -67,6 +67,23 @@ void Pupil::notice(engine::Arbeitsblatt::Ereignis turn) {
 }
 
 void Pupil::answer() {
+    if (auto* sheet = dynamic_cast<notation::SchreibBlatt*>(sheet_))
+        write(*sheet);
+    else
+        name();
+}
+
+void Pupil::write(notation::SchreibBlatt& sheet) {
+    auto* const done = control<form::Button>(sheet, "cmdOK");
+    writeScale(sheet, learner_.writes({z.skala_nr, tries_, {}}, chance_), chance_);
+    // What was handed in once and stays as it is must be heard again before it can be handed in.
+    if (done->usable()) return done->click();
+    if (sheet.find("wieder")) return control<form::Panel>(sheet, "wieder")->click();
+    while (!done->usable()) writeScale(sheet, Writing::Wrong, chance_);
+    done->click();
+}
+
+void Pupil::name() {
     std::array<int, maxAnswers> open{};
     std::size_t count = 0;
     for (int i = 0; i < maxAnswers; ++i) {

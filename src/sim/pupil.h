@@ -18,7 +18,7 @@ class Pupil {
         : learner_(learner), z(state), chance_(seed), hand_(loop) {}
 
     /// Sits down before a worksheet. @param limit tasks after which it leaves.
-    void begin(const engine::Arbeitsblatt& sheet, int limit);
+    void begin(engine::Arbeitsblatt& sheet, int limit);
     /// Hears of a turn of the run.
     void notice(engine::Arbeitsblatt::Ereignis turn);
     /// The result form has come: presses its button as soon as it can be seen.
@@ -34,6 +34,8 @@ class Pupil {
 
   private:
     void answer();
+    void name();
+    void write(notation::SchreibBlatt& sheet);
     void goOn();
     bool runEnded() const;
 
@@ -41,7 +43,7 @@ class Pupil {
     const core::Zustand& z;
     base::Rnd chance_;
     Alarm hand_;
-    const engine::Arbeitsblatt* sheet_ = nullptr;
+    engine::Arbeitsblatt* sheet_ = nullptr;
     std::vector<form::Picture*> pictures_;
     std::vector<form::Panel*> names_;
     form::Button* next_ = nullptr;

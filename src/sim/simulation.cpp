@@ -88,6 +88,7 @@ Outcome Simulation::run() {
 void Simulation::made(form::Form& form) {
     if (auto* sheet = dynamic_cast<engine::Arbeitsblatt*>(&form)) {
         sheet_ = sheet;
+        if (trace_) trace_->follow(*sheet);
         pupil_.begin(*sheet, options_.tasks == 0 ? endless : options_.tasks);
         turns_ =
             sheet->ereignis.connect([this](engine::Arbeitsblatt::Ereignis turn) { notice(turn); });

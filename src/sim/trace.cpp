@@ -1,7 +1,8 @@
 #include "sim/trace.h"
 
+#include "determine/arbeitsblatt1b.h"
+#include "notation/schreib_blatt.h"
 #include "sim/exercise.h"
-#include "sim/json_line.h"
 
 #include <algorithm>
 
@@ -27,11 +28,12 @@ int bar(const engine::Arbeitsblatt& sheet) {
 void Trace::notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsblatt& sheet,
                    const core::Zustand& z) {
     using enum engine::Arbeitsblatt::Ereignis;
+    if (turn == AufgabeGezogen) task(sheet, z);
+    stream_ << drawn_;
+    drawn_.clear();
     switch (turn) {
         case LaufBereit:
             return run(sheet, z);
-        case AufgabeGezogen:
-            return task(sheet.aufgabe(), z);
         case Geantwortet:
             return answer(sheet, z);
         case Geschlossen:
@@ -39,10 +41,52 @@ void Trace::notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsbla
         case Uhr:
             stream_ << JsonLine("clock").number("restZeit", int(sheet.restZeit())).finish();
             return;
+        case AufgabeGezogen:
         case AntwortOffen:
         case LaufEnde:
             return;
     }
+}
+
+void Trace::follow(engine::Arbeitsblatt& sheet) {
+    staff_ = nullptr;
+    if (auto* writing = dynamic_cast<notation::SchreibBlatt*>(&sheet))
+        staff_ = &writing->notenzeile();
+    if (auto* naming = dynamic_cast<determine::Arbeitsblatt1b*>(&sheet))
+        staff_ = &naming->notenzeile();
+    draws_ = {};
+    if (staff_) draws_ = staff_->gemalt.connect([this](int column) { draw(column); });
+}
+
+/// Notes are told after the turn that puts them there.
+void Trace::draw(int column) {
+    const notation::Spalte& note = staff_->NotSelb(column);
+    drawn_ += JsonLine("draw")
+                  .number("c", column)
+                  .number("y", int(note.y()))
+                  .number("x", int(staff_->lage().x(column)))
+                  .number("qz", int(note.qz))
+                  .number("midi", int(note.midi))
+                  .number("glyph", int(note.zeichen))
+                  .number("colour", int(note.farbe))
+                  .finish();
+}
+
+/// What only worksheets with a staff have.
+void Trace::spelling(JsonLine& line, const engine::Arbeitsblatt& sheet) {
+    const engine::Aufgabe& a = sheet.aufgabe();
+    const auto* writing = dynamic_cast<const notation::SchreibBlatt*>(&sheet);
+    line.number(writing ? "quintLage" : "vzAnz", int(a.quintLage));
+    line.list(writing ? "notenQz" : "tonPos", a.tonAnz, writeItems(line, a.notenQz));
+    if (writing) {
+        const auto shown = [&](int k) {
+            const notation::Ton ton{a.noten[k], a.notenQz[k]};
+            return k == 0 || k == a.tonAnz - 1 ? ton : notation::ohneVorzeichen(ton);
+        };
+        line.list("zeigNoten", a.tonAnz, [&](int k) { line.item(int(shown(k).midi)); });
+        line.list("zeigQz", a.tonAnz, [&](int k) { line.item(int(shown(k).qz)); });
+    }
+    line.number("SchlZ", int(staff_->SchlZ()));
 }
 
 void Trace::run(const engine::Arbeitsblatt& sheet, const core::Zustand& z) {
@@ -57,7 +101,8 @@ void Trace::run(const engine::Arbeitsblatt& sheet, const core::Zustand& z) {
     stream_ << line.finish();
 }
 
-void Trace::task(const engine::Aufgabe& a, const core::Zustand& z) {
+void Trace::task(const engine::Arbeitsblatt& sheet, const core::Zustand& z) {
+    const engine::Aufgabe& a = sheet.aufgabe();
     JsonLine line("task");
     line.number("t", loop_.elapsed()).number("skal_typ", int(z.skal_typ));
     line.number("skala_nr", int(z.skala_nr)).number("akt_richtung", int(z.akt_richtung));
@@ -65,6 +110,7 @@ void Trace::task(const engine::Aufgabe& a, const core::Zustand& z) {
     line.list("noten", a.tonAnz, writeItems(line, a.noten));
     line.list("stimmWert", a.tonAnz, writeItems(line, a.stimmWert));
     line.list("ton_abfolg", a.tonAnz, writeItems(line, a.ton_abfolg));
+    if (staff_) spelling(line, sheet);
     const int rows = std::min(int(z.matboxanz), std::max(0, z.matbox.rows() - 1));
     line.list("matbox", rows, [&](int i) { line.item(int(z.matbox(i + 1, 0))); });
     line.number("matboxanz", int(z.matboxanz));

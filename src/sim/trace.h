@@ -1,7 +1,9 @@
 #pragma once
 #include "engine/arbeitsblatt.h"
 #include "form/virtual_time.h"
+#include "notation/notenzeile.h"
 #include "results/testergebnis.h"
+#include "sim/json_line.h"
 #include "sim/outcome.h"
 #include "sound/null_output.h"
 
@@ -14,6 +16,8 @@ class Trace {
   public:
     Trace(std::ostream& stream, const form::VirtualTime& loop) : stream_(stream), loop_(loop) {}
 
+    /// A worksheet has come: what is put on its staff, when it has one, is told.
+    void follow(engine::Arbeitsblatt& sheet);
     /// A turn of a run.
     void notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsblatt& sheet,
                 const core::Zustand& z);
@@ -25,12 +29,17 @@ class Trace {
 
   private:
     void run(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
-    void task(const engine::Aufgabe& a, const core::Zustand& z);
+    void task(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
+    void spelling(JsonLine& line, const engine::Arbeitsblatt& sheet);
+    void draw(int column);
     void answer(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
     void closed(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
 
     std::ostream& stream_;
     const form::VirtualTime& loop_;
+    notation::Notenzeile* staff_ = nullptr;
+    form::Connection draws_;
+    std::string drawn_;  ///< notes not told yet
 };
 
 /// A silent device that tells a trace what it was given.

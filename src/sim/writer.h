@@ -1,0 +1,18 @@
+#pragma once
+#include "base/rnd.h"
+#include "notation/schreib_blatt.h"
+
+namespace sim {
+
+/// How a scale is written.
+enum class Writing {
+    Right,
+    Wrong,       ///< one note carries another accidental
+    Enharmonic,  ///< flats become sharps on the letter below: it sounds alike and is misspelled
+};
+
+/// Drags accidentals from the palette onto the staff, as a user would, until it stands as wanted.
+/// Does not hand it in.
+void writeScale(notation::SchreibBlatt& sheet, Writing how, base::Rnd& chance);
+
+}  // namespace sim
