@@ -201,7 +201,7 @@
 <message id="837s"><translation>Save as:</translation></message>
 <message id="838s"><translation>Description:</translation></message>
 <message id="839s"><translation>Load settings</translation></message>
-<message id="840s"><translation>Load file::</translation></message>
+<message id="840s"><translation>Load file:</translation></message>
 <message id="841s"><translation>Save settings as</translation></message>
 <message id="842s"><translation>Melvora Settings</translation></message>
 <message id="843s"><translation>Exam</translation></message>

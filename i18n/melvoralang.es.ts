@@ -201,7 +201,7 @@
 <message id="837s"><translation>Guardar como:</translation></message>
 <message id="838s"><translation>Descripción:</translation></message>
 <message id="839s"><translation>Cargar ajustes</translation></message>
-<message id="840s"><translation>Cargar archivo::</translation></message>
+<message id="840s"><translation>Cargar archivo:</translation></message>
 <message id="841s"><translation>Guardar ajustes como</translation></message>
 <message id="842s"><translation>Melvora Settings</translation></message>
 <message id="843s"><translation>Examen</translation></message>
