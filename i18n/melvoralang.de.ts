@@ -248,6 +248,7 @@
 <message id="884s"><translation>Kreuz</translation></message>
 <message id="885s"><translation>Doppelkreuz</translation></message>
 <message id="886s"><translation>Tasten: 1–0 antworten, Eingabe geht weiter, Esc verlässt</translation></message>
+<message id="887s"><translation>Hinweis</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Ergebnisse</translation></message>
 <message id="902s"><translation>Protokoll</translation></message>

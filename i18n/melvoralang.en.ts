@@ -248,6 +248,7 @@
 <message id="884s"><translation>sharp</translation></message>
 <message id="885s"><translation>double sharp</translation></message>
 <message id="886s"><translation>Keys: 1–0 answer, Enter goes on, Esc leaves</translation></message>
+<message id="887s"><translation>Hint</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Results</translation></message>
 <message id="902s"><translation>Log</translation></message>

@@ -248,6 +248,7 @@
 <message id="884s"><translation>sostenido</translation></message>
 <message id="885s"><translation>doble sostenido</translation></message>
 <message id="886s"><translation>Teclas: 1–0 responden, Intro sigue, Esc sale</translation></message>
+<message id="887s"><translation>Indicación</translation></message>
 <message id="900s"><translation>Inicio</translation></message>
 <message id="901s"><translation>Resultados</translation></message>
 <message id="902s"><translation>Registro</translation></message>

@@ -248,6 +248,7 @@
 <message id="884s"><translation>dièse</translation></message>
 <message id="885s"><translation>double dièse</translation></message>
 <message id="886s"><translation>Touches : 1–0 répondent, Entrée continue, Échap quitte</translation></message>
+<message id="887s"><translation>Indication</translation></message>
 <message id="900s"><translation>Accueil</translation></message>
 <message id="901s"><translation>Résultats</translation></message>
 <message id="902s"><translation>Journal</translation></message>

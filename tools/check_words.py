@@ -26,7 +26,7 @@ MARK = "\x01"  # stands for the comment `// words`
 
 CALL = re.compile(r"\b[Ww]ort\s*\(([^()]*(?:\([^()]*\)[^()]*)*)\)")
 CALL_NUMBER = re.compile(r"(?:^|[?:])\s*(\d+)")
-CAPTIONS = re.compile(r"\bbeschriften\s*\(\s*\{")
+CAPTIONS = re.compile(r"\b(?:beschriften|benennen)\s*\(\s*\{")
 CAPTION_NUMBER = re.compile(r",\s*(\d+)\s*\}")
 CONSTANT = re.compile(r"\bconstexpr\s+(?:std::)?\w+\s+\w*[Ww]ort\s*(?:=|\{)\s*(\d+)")
 NUMBER = re.compile(r"(?<![\w.])(\d+)(?![\w.])")

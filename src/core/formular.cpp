@@ -16,6 +16,10 @@ void Formular::beschriften(std::initializer_list<Beschriftung> beschriftungen) {
     for (const auto& [control, wort] : beschriftungen) control.caption = Wort(wort);
 }
 
+void Formular::benennen(std::initializer_list<Beschriftung> namen) {
+    for (const auto& [control, wort] : namen) control.accessibleName = Wort(wort);
+}
+
 void Formular::failed(const std::string& prozedur, const std::exception& fehler) {
     p.host.HostFehler(logText(prozedur), fehler);
     std::string text = Wort(720) + "\n" + Wort(721) + "\n" + Wort(722) + "\n" + Wort(723);

@@ -25,6 +25,8 @@ class Formular : public form::Form {
         int wort;
     };
     void beschriften(std::initializer_list<Beschriftung> beschriftungen);
+    /// The same for what a screen reader says.
+    void benennen(std::initializer_list<Beschriftung> namen);
     const std::string& Wort(int id) { return p.Wort(id); }
     void HilfeZeigen();
 

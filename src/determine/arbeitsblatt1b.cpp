@@ -33,7 +33,7 @@ Arbeitsblatt1b::Arbeitsblatt1b(core::Programm& programm, sound::Midi& midi,
 void Arbeitsblatt1b::AntwortenVorbereiten() {
     BestimmenBlatt::AntwortenVorbereiten();
     beschriften({{schrittmarken, 827}, {tasten, 886}});
-    zeile_.PicBNot.accessibleName = Wort(880);
+    benennen({{zeile_.PicBNot, 880}});
     zeile_.setzeSchluessel(z.FrquMaxAkt > 66 ? 0 : 1);
     zeile_.NotenzeileAufbauen(a.tonAnz, {0, 0, 0, z.FrquMinAkt, z.FrquMaxAkt}, i16(0));
 }

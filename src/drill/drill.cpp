@@ -22,10 +22,11 @@ Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiAusg
       wertung(programm),
       ausgabe(midiAusgabe) {
     form::Forms& forms = programm.forms;
-    forms.add("einstellung1", [this] {
-        return std::make_unique<setup::Einstellung>(programm, wertung, midi, ausgabe,
-                                                    setup::Zweig::Gehoerbildung);
-    });
+    for (const setup::Zweig zweig : {setup::Zweig::Gehoerbildung, setup::Zweig::Musiklehre})
+        forms.add(zweig == setup::Zweig::Gehoerbildung ? "einstellung1" : "einstellung1b", [this,
+                                                                                            zweig] {
+            return std::make_unique<setup::Einstellung>(programm, wertung, midi, ausgabe, zweig);
+        });
     worksheet<determine::Arbeitsblatt1>("arbeitsblatt1");
     worksheet<determine::Arbeitsblatt1b>("arbeitsblatt1b");
     worksheet<notation::Arbeitsblatt4>("arbeitsblatt4");

@@ -46,7 +46,7 @@ SchreibBlatt::SchreibBlatt(core::Programm& programm, sound::Midi& midi, results:
 
 void SchreibBlatt::AntwortenVorbereiten() {
     beschriften({{cmdOK, 801}, {tasten, 879}});
-    zeile_.PicBNot.accessibleName = Wort(880);
+    benennen({{zeile_.PicBNot, 880}, {HinweisMeldung, 887}});
     constexpr std::array zeichenWorte{881, 882, 883, 884, 885};  // words
     for (int i = 0; i < quelle::anzahl; ++i)
         palette_.NotP(i).accessibleName = Wort(zeichenWorte.at(static_cast<std::size_t>(i)));

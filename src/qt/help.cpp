@@ -1,6 +1,6 @@
 #include "qt/help.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
 #include <QShortcut>
@@ -8,9 +8,12 @@
 #include <QTextDocument>
 #include <QUrl>
 
+/// The pages lie in a library: the linker keeps them only when they are asked for.
+static void takePages() { Q_INIT_RESOURCE(help); }
+
 namespace qt {
 
-QtHelp::QtHelp() = default;
+QtHelp::QtHelp() { takePages(); }
 QtHelp::~QtHelp() = default;
 
 void QtHelp::open(const std::string& page, const std::string& language) {
@@ -24,6 +27,10 @@ void QtHelp::open(const std::string& page, const std::string& language) {
         browser_->resize(640, 620);
         new QShortcut(Qt::Key_Escape, browser_.get(), [this] { browser_->close(); });
     }
+    // Beside a dialog that holds up everything else it must be usable too.
+    browser_->hide();
+    browser_->setWindowModality(QApplication::activeModalWidget() ? Qt::ApplicationModal
+                                                                  : Qt::NonModal);
     browser_->setSource(QUrl(QStringLiteral("qrc") + ':' + file));
     browser_->document()->setDocumentMargin(16);
     browser_->setWindowTitle(browser_->documentTitle());

@@ -31,8 +31,10 @@ class Groups {
         return inside;
     }
 
+    /// Nothing where the branch has no such group.
     void options(QBoxLayout* column, int index, const char* name,
                  std::initializer_list<int> indices) {
+        if (!bind_.has("grdeinst", index)) return;
         QVBoxLayout* inside = begin(column, index);
         for (const int i : indices) inside->addWidget(bind_(name, i));
     }
@@ -48,6 +50,26 @@ class Groups {
   private:
     Binder& bind_;
 };
+
+void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
+    QVBoxLayout* sound = groups.begin(column, 15);
+    sound->addWidget(bind("ComboPatch"));
+    auto* tempo = new QHBoxLayout;
+    tempo->addWidget(bind("lb15", 0));
+    tempo->addWidget(bind("temp_Combo"), 1);
+    tempo->addWidget(bind("lb15", 1));
+    sound->addLayout(tempo);
+    QVBoxLayout* check = groups.begin(nullptr, 14);
+    auto* volume = new QHBoxLayout;
+    volume->addWidget(bind("lb14", 0));
+    volume->addWidget(bind("HSliderVolume"), 1);
+    QWidget* value = bind("lb14", 1);
+    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("127")) + 4);
+    volume->addWidget(value);
+    check->addLayout(volume);
+    check->addWidget(bind("klang_contr"));
+    sound->addWidget(check->parentWidget());
+}
 
 /// The two lists of single scales, each below its heading, with what the choice lacks.
 QWidget* chosenScales(Binder& bind, Groups& groups) {
@@ -130,23 +152,7 @@ void layoutEinstellung(FormWindow& window) {
     mode->addWidget(bind("training_Combo"));
     mode->addWidget(bind("prfnr_Comb"));
     groups.options(run, 5, "abfrage", {0, 1});
-    QVBoxLayout* sound = groups.begin(run, 15);
-    sound->addWidget(bind("ComboPatch"));
-    auto* tempo = new QHBoxLayout;
-    tempo->addWidget(bind("lb15", 0));
-    tempo->addWidget(bind("temp_Combo"), 1);
-    tempo->addWidget(bind("lb15", 1));
-    sound->addLayout(tempo);
-    QVBoxLayout* check = groups.begin(nullptr, 14);
-    auto* volume = new QHBoxLayout;
-    volume->addWidget(bind("lb14", 0));
-    volume->addWidget(bind("HSliderVolume"), 1);
-    QWidget* value = bind("lb14", 1);
-    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("127")) + 4);
-    volume->addWidget(value);
-    check->addLayout(volume);
-    check->addWidget(bind("klang_contr"));
-    sound->addWidget(check->parentWidget());
+    if (bind.has("lb14", 0)) soundGroup(bind, groups, run);
     run->addStretch();
 
     auto* hint = static_cast<QLabel*>(bind("tonHinweis"));

@@ -90,6 +90,9 @@ QWidget* weights(Binder& bind) {
     return frame;
 }
 
+/// So many stand below each other before the next go beside them.
+constexpr int pairsBelow = 18;
+
 /// Keys and values below each other.
 QWidget* pairs(Binder& bind, const char* frameName, const char* keys, const char* values) {
     QWidget* frame = bind(frameName);
@@ -100,8 +103,9 @@ QWidget* pairs(Binder& bind, const char* frameName, const char* keys, const char
     for (int i = 0; bind.has(keys, i); ++i) {
         QWidget* key = bind(keys, i);
         look::colours(*key, look::muted);
-        grid->addWidget(key, i, 0, Qt::AlignTop);
-        grid->addWidget(bind(values, i), i, 1);
+        const int column = i / pairsBelow * 2;
+        grid->addWidget(key, i % pairsBelow, column, Qt::AlignTop);
+        grid->addWidget(bind(values, i), i % pairsBelow, column + 1);
     }
     grid->setColumnStretch(1, 1);
     frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);

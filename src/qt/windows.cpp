@@ -13,11 +13,12 @@ struct Layout {
     void (*build)(FormWindow&);
 };
 constexpr std::array layouts{
-    Layout{"grd_einst", layoutGrdEinst},        Layout{"einstellung1", layoutEinstellung},
-    Layout{"arbeitsblatt1", layoutBestimmen},   Layout{"arbeitsblatt1b", layoutBestimmen},
-    Layout{"arbeitsblatt4", layoutSchreiben},   Layout{"arbeitsblatt4b", layoutSchreiben},
-    Layout{"testergebnis", layoutTestergebnis}, Layout{"frmMessage", layoutFrmMessage},
-    Layout{"frmSave", layoutFrmSave},           Layout{"frmLoad", layoutFrmLoad},
+    Layout{"einstellung1b", layoutEinstellung}, Layout{"grd_einst", layoutGrdEinst},
+    Layout{"einstellung1", layoutEinstellung},  Layout{"arbeitsblatt1", layoutBestimmen},
+    Layout{"arbeitsblatt1b", layoutBestimmen},  Layout{"arbeitsblatt4", layoutSchreiben},
+    Layout{"arbeitsblatt4b", layoutSchreiben},  Layout{"testergebnis", layoutTestergebnis},
+    Layout{"frmMessage", layoutFrmMessage},     Layout{"frmSave", layoutFrmSave},
+    Layout{"frmLoad", layoutFrmLoad},
 };
 
 }  // namespace

@@ -24,11 +24,14 @@ std::string mitEins(std::string text) {
 }  // namespace
 
 std::string Einstellung::captionVon(const form::ControlArray<form::Option>& optionen, int wert) {
-    return optionen(wert).caption();
+    for (const form::Option& option : optionen)
+        if (option.index() == wert) return option.caption();
+    return {};
 }
 
 void Einstellung::EinstDatSave() {
     const bool auswahl = z.ska_ausw == 1;
+    const bool klang = klingt();
     struct Eintrag {
         std::string label, wert;
         bool gilt = true;
@@ -36,23 +39,24 @@ void Einstellung::EinstDatSave() {
     std::vector<Eintrag> eintraege{
         {"Übungsmodus", training_Combo.text()},
         {"Nr.:", prfnr_Comb.text(), z.uebungsmodus == core::modus::pruefung},
-        {"Klangfarbe", ComboPatch.text()},
-        {"Tempo", temp_Combo.text()},
-        {"Frequenz", mitEins(captionVon(frequenz, z.frequenz))},
+        {"Klangfarbe", ComboPatch.text(), klang},
+        {"Tempo", temp_Combo.text(), klang},
+        {"Frequenz", mitEins(captionVon(frequenz, z.frequenz)), klang},
         {"Abfolge", captionVon(abfrage, z.abfrage)},
         {"Tonraum", CmbOktAnz.text()},
         {"Oktavbereich", CmbOktBer.text()},
         {"Skalentyp", skal_typ_cmb.text()},
         {"Tonfolge", captionVon(abfolge, z.abfolge)},
         {"Ska-Richtung", Combo_richtung.text(), z.abfolge == 0},
-        {"Anzeige", captionVon(an_zeig, z.an_zeig)},
+        {"Anzeige", captionVon(an_zeig, z.an_zeig), klang},
         {"Vz/Finalis", captionVon(final, z.final)},
-        {"Stimmung", captionVon(stimm_g, z.stimmung)},
+        {"Stimmung", captionVon(stimm_g, z.stimmung), klang},
         {"Vorkommen", captionVon(ska_ausw, z.ska_ausw)},
         {"Einzel-Auswahl Anzahl", std::to_string(z.einzelAnz + 1), auswahl},
     };
+    const std::string gewaehlt = klang ? "gewähltes Iv Nr." : "gewählte Skala Nr.";
     for (int i = 0; auswahl && i <= z.einzelAnz; ++i)
-        eintraege.push_back({"gewähltes Iv Nr." + std::to_string(i + 1), lst_ska1.item(i).text});
+        eintraege.push_back({gewaehlt + std::to_string(i + 1), lst_ska1.item(i).text});
 
     auto& liste = z.einst_liste;
     liste.assign(1, "");

@@ -33,16 +33,20 @@ Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung, so
       midi_(midi),
       MIDI(ausgabe),
       zweig_(zweig) {
-    setCaption(zweig == Zweig::Gehoerbildung ? "GHB: Einstellung: Skalen bestimmen"
-                                             : "ML: Einstellung: Skalen bestimmen");
+    setCaption(klingt() ? "GHB: Einstellung: Skalen bestimmen"
+                        : "ML: Einstellung: Skalen bestimmen");
     for (const Gruppe& g : gruppen) {
+        if (!find("grdeinst", g.index)) continue;
         grdeinst(g.index).backColour = g.farbe;
         geinst_lb(g.index).setContainer(grdeinst(g.index));
     }
     grdeinst(14).backColour = farben::klang;
     grdeinst(14).setContainer(grdeinst(15));
     grdeinst(10).visible = false;
-    Combo_mt.visible = false;
+    if (Combo_mt) {
+        Combo_mt->visible = false;
+        Combo_mt->tag = "Combo_mt#var";
+    }
     prfnr_Comb.visible = false;
     lb10(0).foreColour = base::colours::red;
     temp_Combo.backColour = farben::tempoOffen;
@@ -51,7 +55,7 @@ Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung, so
     for (const auto& [control, tag] : std::initializer_list<std::pair<form::Control&, const char*>>{
              {lst_ska1, "Skalen ausgewählt"},
              {lst_ska0, "Skalen auswählen"},
-             {Combo_mt, "Combo_mt#var"},
+
              {skal_typ_cmb, "Skalentyp#var"},
              {temp_Combo, "Tempo#var"},
              {Combo_richtung, "Richtung#var"},
@@ -67,10 +71,31 @@ Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung, so
                                         {&frequenz, "Frequenz"}})
         for (form::Option& option : *optionen) option.tag = tag;
     // What stands chosen at design; nothing is stored by it.
-    for (form::Option* option : {&stimm_g(0), &an_zeig(0), &ska_ausw(0), &final(2), &abfrage(0),
-                                 &abfolge(0), &frequenz(0)})
+    for (form::Option* option : {&an_zeig(0), &ska_ausw(0), &final(2), &abfrage(0), &abfolge(0)})
         option->choose();
+    if (klingt()) {
+        stimm_g(0).choose();
+        frequenz(0).choose();
+    } else {
+        OhneKlang();
+    }
     Verbinden();
+}
+
+/// The groups that a branch has with or without their headings, in the order of the form.
+std::vector<int> Einstellung::gruppenIndices(Zweig zweig, bool ueberschrift) {
+    std::vector<int> indices{0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 14, 15};
+    std::erase_if(indices, [&](int i) {
+        return (zweig == Zweig::Musiklehre && (i == 2 || i == 3)) || (ueberschrift && i == 14);
+    });
+    return indices;
+}
+
+/// In music theory nothing sounds, and the scale is always written with its own key.
+void Einstellung::OhneKlang() {
+    for (form::Control* nie :
+         std::initializer_list<form::Control*>{&grdeinst(15), &grdeinst(11), &final(0), &final(1)})
+        nie->visible = false;
 }
 
 void Einstellung::Verbinden() {
@@ -122,8 +147,8 @@ void Einstellung::start_timer() {
     bereit_ = false;
     wertung_.vorbereiten();
     LadewerteSetzen();
-    KlangEinrichten();
-    if (z.ueb_typ == core::uebung::schreiben)
+    if (klingt()) KlangEinrichten();
+    if (klingt() && z.ueb_typ == core::uebung::schreiben)
         for (form::Option* option : {&final(0), &final(1), &an_zeig(1)}) option->visible = false;
     CombosFuellen();
     writeHint(0);
@@ -141,7 +166,8 @@ void Einstellung::LadewerteSetzen() {
     z.tempoIdx = 1;
     z.frequenz = 0;
     z.abfolge = 0;
-    z.richtung = 2;
+    z.richtung = klingt() ? 2 : 0;
+    if (!klingt()) z.an_zeig = 1;
     z.final = 2;
     z.ska_ausw = 0;
     z.zufallsNr = 0;
@@ -161,11 +187,14 @@ void Einstellung::KlangEinrichten() {
 }
 
 void Einstellung::CombosFuellen() {
-    for (int n = 2; n <= 5; ++n) CmbOktAnz.add(zahl(n) + " " + Wort(41), n - 2);
+    const int kleinste = klingt() ? 2 : 1;  // octaves
+    for (int n = kleinste; n < kleinste + 4; ++n)
+        CmbOktAnz.add(zahl(n) + " " + Wort(n == 1 ? 433 : 41), n - kleinste);
     CmbOktAnz.setListIndex(0);
     for (const int wort : {132, 83, 623}) Combo_richtung.add(Wort(wort), ohneDaten);
     Combo_richtung.setListIndex(2);
-    const int typen = z.ueb_typ == core::uebung::schreiben ? 1 : core::katalog::kategorienAnz;
+    const bool alleTypen = klingt() && z.ueb_typ == core::uebung::bestimmen;
+    const int typen = alleTypen ? core::katalog::kategorienAnz : 1;
     for (int typ = 0; typ < typen; ++typ) skal_typ_cmb.add(p.katalog.skal_typ_name[typ], ohneDaten);
     skal_typ_cmb.setListIndex(0);
     for (int modus = 0; modus < 5; ++modus)
@@ -175,32 +204,45 @@ void Einstellung::CombosFuellen() {
     training_Combo.setListIndex(0);
     for (int n = 1; n <= 5; ++n) prfnr_Comb.add(Wort(426) + zahl(n), ohneDaten);
     prfnr_Comb.setListIndex(0);
-    Combo_mt.add(Wort(355), ohneDaten);
-    Combo_mt.setListIndex(0);
+    if (!Combo_mt) return;
+    Combo_mt->add(Wort(355), ohneDaten);
+    Combo_mt->setListIndex(0);
 }
 
 void Einstellung::Beschriften() {
-    for (const Gruppe& g : gruppen) geinst_lb(g.index).caption = Wort(g.wort);
+    for (const Gruppe& g : gruppen)
+        if (find("geinst_lb", g.index)) geinst_lb(g.index).caption = Wort(g.wort);
     beschriften(
-        {{lb0, 153},           {frequenz(0), 238},   {frequenz(1), 603}, {stimm_g(0), 546},
-         {stimm_g(1), 458},    {stimm_g(2), 401},    {abfolge(0), 489},  {abfolge(1), 385},
-         {lb4, 469},           {abfrage(0), 383},    {abfrage(1), 142},  {final(0), 621},
-         {final(1), 240},      {final(2), 151},      {ska_ausw(0), 103}, {ska_ausw(1), 413},
-         {an_zeig(0), 505},    {an_zeig(1), 157},    {klang_contr, 366}, {lb14(0), 372},
-         {lb15(0), 547},       {lb10(1), 140},       {lb10(2), 135},     {popExamToggle, 843},
+        {{lb0, 153},           {abfolge(0), 489},    {abfolge(1), 385},  {lb4, 469},
+         {abfrage(0), 383},    {abfrage(1), 142},    {final(0), 621},    {final(1), 240},
+         {final(2), 151},      {ska_ausw(0), 103},   {ska_ausw(1), 413}, {an_zeig(0), 505},
+         {an_zeig(1), 157},    {lb10(1), 140},       {lb10(2), 135},     {popExamToggle, 843},
          {cmdOptionRead, 829}, {cmdOptionSave, 830}, {cmdHilfe, 816},    {cmdZurueck, 640},
          {cmdOK, 432},         {copyright, 6}});
+    if (klingt()) KlangBeschriften();
+    benennen({{CmbOktAnz, 107},
+              {CmbOktBer, 153},
+              {skal_typ_cmb, 494},
+              {Combo_richtung, 469},
+              {training_Combo, 587},
+              {prfnr_Comb, 438},
+              {ComboPatch, 365},
+              {temp_Combo, 547},
+              {HSliderVolume, 372},
+              {lst_ska0, 140},
+              {lst_ska1, 135}});
+}
+
+void Einstellung::KlangBeschriften() {
+    beschriften({{frequenz(0), 238},
+                 {frequenz(1), 603},
+                 {stimm_g(0), 546},
+                 {stimm_g(1), 458},
+                 {stimm_g(2), 401},
+                 {klang_contr, 366},
+                 {lb14(0), 372},
+                 {lb15(0), 547}});
     lb15(1).caption = "=MM";
-    struct Name {
-        form::Control& control;
-        int wort;
-    };
-    for (const auto& [control, wort] :
-         {Name{CmbOktAnz, 107}, Name{CmbOktBer, 153}, Name{skal_typ_cmb, 494},
-          Name{Combo_richtung, 469}, Name{training_Combo, 587}, Name{prfnr_Comb, 438},
-          Name{ComboPatch, 365}, Name{temp_Combo, 547}, Name{HSliderVolume, 372},
-          Name{lst_ska0, 140}, Name{lst_ska1, 135}})
-        control.accessibleName = Wort(wort);
 }
 
 void Einstellung::TonHinweisZeigen() {
@@ -211,6 +253,7 @@ void Einstellung::TonHinweisZeigen() {
 }
 
 void Einstellung::unloading() {
+    if (!klingt()) return;
     MIDI.queueEmpty = nullptr;
     MIDI.problemChanged = nullptr;
 }

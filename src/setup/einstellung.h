@@ -6,15 +6,13 @@
 #include "sound/midi.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace setup {
 
 using base::i16;
-
-/// The branches of the program: what the set-up form is built for.
-enum class Zweig { Gehoerbildung, Musiklehre };
 
 /// The set-up form: every choice of an exercise, in coloured groups, and a sound check. It writes
 /// the choices into the shared state as they are made, and opens the worksheet.
@@ -41,7 +39,9 @@ class Einstellung final : public core::Formular {
     void LadewerteSetzen();
     void KlangEinrichten();
     void CombosFuellen();
+    void OhneKlang();
     void Beschriften();
+    void KlangBeschriften();
 
     void skal_typ_cmb_click();
     void RegelnAnwenden();
@@ -91,6 +91,15 @@ class Einstellung final : public core::Formular {
     void AuswahlUebernehmen();
     void cmdZurueck_click();
 
+    /// The sound of a task can be set up.
+    bool klingt() const { return zweig_ == Zweig::Gehoerbildung; }
+    /// Indices of controls that only a branch with sound has.
+    std::vector<int> wennKlang(std::vector<int> indices) const {
+        return klingt() ? std::move(indices) : std::vector<int>{};
+    }
+    form::Group* klangGruppe(int index) const { return klingt() ? &grdeinst(index) : nullptr; }
+    static std::vector<int> gruppenIndices(Zweig zweig, bool ueberschrift);
+
     static constexpr int ohne = form::Place::noIndex;
     static std::string zahl(int n) { return " " + std::to_string(n); }
     static std::string captionVon(const form::ControlArray<form::Option>& optionen, int wert);
@@ -104,19 +113,19 @@ class Einstellung final : public core::Formular {
     form::Group* popGruppe_ = nullptr;  ///< of the last right-click
 
     // The order of the controls is also their order in a settings file.
-    form::ControlArray<form::Group> grdeinst{
-        *this, "grdeinst", std::vector<int>{0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 14, 15}};
-    form::ControlArray<form::Label> geinst_lb{
-        *this, "geinst_lb", std::vector<int>{0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 15}};
+    form::ControlArray<form::Group> grdeinst{*this, "grdeinst", gruppenIndices(zweig_, false)};
+    form::ControlArray<form::Label> geinst_lb{*this, "geinst_lb", gruppenIndices(zweig_, true)};
     form::ControlArray<form::Group> kl_rahmen{*this, "kl_rahmen", 2, &grdeinst(10)};
     form::ListBox lst_ska1{*this, {"lst_ska", 1, &kl_rahmen(1)}};
     form::ListBox lst_ska0{*this, {"lst_ska", 0, &kl_rahmen(0)}};
     form::ControlArray<form::Label> lb10{*this, "lb10", 3, &grdeinst(10)};
     /// How many of the places are taken.
     form::Label wahlStand{*this, {"wahlStand", ohne, &grdeinst(10)}};
-    form::Combo Combo_mt{*this, {"Combo_mt", ohne, &grdeinst(3)}};
-    form::ControlArray<form::Option> stimm_g{*this, "stimm_g", std::vector<int>{2, 0, 1},
-                                             &grdeinst(3)};
+    std::unique_ptr<form::Combo> Combo_mt =
+        klingt() ? std::make_unique<form::Combo>(*this, form::Place{"Combo_mt", ohne, &grdeinst(3)})
+                 : nullptr;
+    form::ControlArray<form::Option> stimm_g{*this, "stimm_g", wennKlang({2, 0, 1}),
+                                             klangGruppe(3)};
     form::Combo skal_typ_cmb{*this, {"skal_typ_cmb", ohne, &grdeinst(1)}};
     form::Combo temp_Combo{*this, {"temp_Combo", ohne, &grdeinst(15)}};
     form::ControlArray<form::Option> an_zeig{*this, "an_zeig", 2, &grdeinst(11)};
@@ -127,18 +136,17 @@ class Einstellung final : public core::Formular {
     form::Combo Combo_richtung{*this, {"Combo_richtung", ohne, &grdeinst(4)}};
     form::Label lb4{*this, {"lb4", ohne, &grdeinst(4)}};
     form::ControlArray<form::Option> abfolge{*this, "abfolge", 2, &grdeinst(4)};
-    form::ControlArray<form::Option> frequenz{*this, "frequenz", std::vector<int>{1, 0},
-                                              &grdeinst(2)};
+    form::ControlArray<form::Option> frequenz{*this, "frequenz", wennKlang({1, 0}), klangGruppe(2)};
     form::Label lb0{*this, {"lb0", ohne, &grdeinst(0)}};
     form::Combo CmbOktAnz{*this, {"CmbOktAnz", ohne, &grdeinst(0)}};
     form::Combo CmbOktBer{*this, {"CmbOktBer", ohne, &grdeinst(0)}};
     form::Combo training_Combo{*this, {"training_Combo", ohne, &grdeinst(8)}};
     form::Combo prfnr_Comb{*this, {"prfnr_Comb", ohne, &grdeinst(8)}};
     form::Combo ComboPatch{*this, {"ComboPatch", ohne, &grdeinst(15)}};
-    form::ControlArray<form::Label> lb15{*this, "lb15", 2, &grdeinst(15)};
+    form::ControlArray<form::Label> lb15{*this, "lb15", klingt() ? 2 : 4, &grdeinst(15)};
     form::Picture pic15{*this, {"pic15", ohne, &grdeinst(15)}};
     form::Button klang_contr{*this, {"klang_contr", ohne, &grdeinst(14)}};
-    form::ControlArray<form::Label> lb14{*this, "lb14", 2, &grdeinst(14)};
+    form::ControlArray<form::Label> lb14{*this, "lb14", wennKlang({0, 1}), &grdeinst(14)};
     form::Slider HSliderVolume{*this, {"HSliderVolume", ohne, &grdeinst(14)}, 0, 127};
     /// Why nothing can be heard, and what to do.
     form::Label tonHinweis{*this, {"tonHinweis"}};

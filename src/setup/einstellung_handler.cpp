@@ -1,4 +1,5 @@
 // What the choices of the set-up form do.
+#include "core/fortsetzung.h"
 #include "setup/einstellung.h"
 #include "sound/klang.h"
 
@@ -24,11 +25,11 @@ void Einstellung::RegelnAnwenden() {
     if (!r.vorzeichen && final(0).value()) final(1).choose();
 
     abfolge(1).enabled = r.melodieStimmung;
-    stimm_g(1).enabled = r.melodieStimmung;
-    stimm_g(2).enabled = r.melodieStimmung;
+    for (form::Option& stimmung : stimm_g)
+        if (stimmung.index() != 0) stimmung.enabled = r.melodieStimmung;
     if (r.melodieStimmung) return;
     abfolge(0).choose();
-    stimm_g(0).choose();
+    if (klingt()) stimm_g(0).choose();
     // The stored tuning may differ from the one shown: a run must not sound in a forbidden one.
     z.stimmung = 0;
 }
@@ -44,14 +45,16 @@ void Einstellung::abfolge_click(int index) {
 
 void Einstellung::CmbOktAnz_click() {
     z.oktAnz = CmbOktAnz.item(CmbOktAnz.listIndex()).data;
+    const int unten = klingt() ? 671 : 681;
+    const int oben = klingt() ? 673 : 693;
     CmbOktBer.clear();
     for (int i = 0; i < bereicheAnz(z.oktAnz); ++i)
-        CmbOktBer.add(Wort(671 + i) + " " + Wort(702) + " " + Wort(673 + z.oktAnz + i), -999);
-    CmbOktBer.setListIndex(z.oktAnz < 3 ? 1 : 0);
+        CmbOktBer.add(Wort(unten + i) + " " + Wort(702) + " " + Wort(oben + z.oktAnz + i), -999);
+    CmbOktBer.setListIndex(ersterBereich(zweig_, z.oktAnz));
 }
 
 void Einstellung::CmbOktBer_click() {
-    const Bereich bereich = tonbereich(z.oktAnz, CmbOktBer.listIndex());
+    const Bereich bereich = tonbereich(zweig_, z.oktAnz, CmbOktBer.listIndex());
     z.FrquMinAkt = bereich.tief;
     z.FrquMaxAkt = bereich.hoch;
 }
@@ -82,6 +85,7 @@ void Einstellung::training_Combo_click() {
 /// While scales are being picked, their type and the direction stay locked.
 void Einstellung::GruppenOeffnen() {
     for (const int i : modusGruppen) {
+        if (!find("grdeinst", i)) continue;
         if ((i != 4 && i != 1) || z.ska_ausw == 0) grdeinst(i).enabled = true;
         grdeinst(i).backColour = farben::offen;
     }
@@ -109,7 +113,7 @@ void Einstellung::PruefungVorgeben() {
             z.ska_ausw = vorgabe.ska_ausw;
         }
     abfrage(1).choose();
-    temp_Combo.setListIndex(z.tempoIdx);
+    if (klingt()) temp_Combo.setListIndex(z.tempoIdx);
     Combo_richtung.setListIndex(z.richtung);
     final(2).choose();
     for (const int i : pruefungsGruppen) sperren(grdeinst(i));
@@ -127,8 +131,7 @@ void Einstellung::cmdOK_click() {
     cmdOK.enabled = true;
     forms().hide(name());
     setPointer(form::Pointer::Arrow);
-    const std::string blatt = "arbeitsblatt" + std::to_string(z.ueb_typ);
-    forms().show(zweig_ == Zweig::Gehoerbildung ? blatt : blatt + "b");
+    forms().show("arbeitsblatt" + core::satz(z));
 }
 
 void Einstellung::AuswahlUebernehmen() {
@@ -142,7 +145,7 @@ void Einstellung::ModusSchritt() {
         abfrage(1).choose();
     }
     if (z.uebungsmodus == pruefung) {
-        PruefungVorgeben();
+        if (klingt() || z.ueb_typ == core::uebung::bestimmen) PruefungVorgeben();
         p.host.HostMeldung(std::string(core::Host::programm) +
                            "; prfNr=" + std::to_string(z.prfNr));
     }
@@ -151,7 +154,7 @@ void Einstellung::ModusSchritt() {
 void Einstellung::cmdZurueck_click() {
     cmdZurueck.enabled = false;
     abbruch_ = true;
-    midi_.MidiReset();
+    if (klingt()) midi_.MidiReset();
     forms().show("grd_einst");
     forms().unload(name());
 }

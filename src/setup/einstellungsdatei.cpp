@@ -10,13 +10,15 @@
 
 #include <exception>
 #include <string_view>
+#include <utility>
 
 namespace setup {
 
 namespace {
 
 constexpr const char* modul = "VESHNA";
-constexpr std::size_t groesste = 1 << 20;
+/// A file with every group marked has less than 4 KB.
+constexpr std::size_t groesste = 1 << 19;
 
 /// UTF-8 to ISO 8859-1.
 std::string latin1(std::string_view utf8) {
@@ -153,10 +155,13 @@ void anwenden(form::Form& form, const Einstellungssatz::Eintrag& eintrag) {
             if (stelle < combo.count()) combo.setListIndex(stelle);
             break;
         }
-        case form::Kind::ListBox:
-            for (const std::string& text : eintrag.values)
-                static_cast<form::ListBox*>(control)->add(text);
+        case form::Kind::ListBox: {
+            auto& liste = *static_cast<form::ListBox*>(control);
+            auto items = liste.items();
+            for (const std::string& text : eintrag.values) items.push_back({text, 0});
+            liste.setItems(std::move(items));
             break;
+        }
         default:
             break;
     }

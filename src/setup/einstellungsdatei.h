@@ -34,7 +34,7 @@ std::string EinstellungenText(const form::Form& form, int ueb_typ, const std::st
 /// Writes the file as a whole. @throws std::system_error, and what was there stays.
 void EinstellungenSchreiben(const std::string& pfad, const std::string& text);
 
-/// Never throws: what is no settings file, or is bigger than 1 MB, reads as an empty one.
+/// Never throws: what is no settings file, or is bigger than 512 KB, reads as an empty one.
 /// Attributes and unknown elements are passed over.
 Einstellungssatz EinstellungenLesen(const std::string& pfad);
 Einstellungssatz EinstellungenLesenAus(const std::string& bytes);

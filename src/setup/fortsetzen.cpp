@@ -117,7 +117,8 @@ void Einstellung::TrainingFortsetzen() {
     } catch (const base::RuntimeError&) {
         return training_Combo.setListIndex(core::modus::training);
     }
-    for (const int i : modusGruppen) sperren(grdeinst(i));
+    for (const int i : modusGruppen)
+        if (find("grdeinst", i)) sperren(grdeinst(i));
     sperren(temp_Combo);
 }
 

@@ -19,6 +19,9 @@ inline constexpr base::Colour tempoOffen = base::rgb(0, 0, 255);
 /// Locks a control and shows it.
 void sperren(form::Control& control);
 
+/// The branches of the program: what the set-up form is built for.
+enum class Zweig { Gehoerbildung, Musiklehre };
+
 /// What a category of scales allows on the set-up form.
 struct Regel {
     bool namen;            ///< the answers may be labelled with names
@@ -31,13 +34,18 @@ const Regel& regel(int skal_typ);
 struct Bereich {
     int tief, hoch;
 };
-/// Lowest and highest note of a range on the ear-training form.
-constexpr Bereich tonbereich(int oktAnz, int listIndex) {
+/// Lowest and highest note of a range: from two octaves up in ear training, from one in theory.
+constexpr Bereich tonbereich(Zweig zweig, int oktAnz, int listIndex) {
     const int tief = 36 + 12 * listIndex;
-    return {tief, tief + 12 * (oktAnz + 2)};
+    return {tief, tief + 12 * (oktAnz + (zweig == Zweig::Gehoerbildung ? 2 : 1))};
 }
 /// How many ranges a size offers.
 constexpr int bereicheAnz(int oktAnz) { return 4 - oktAnz; }
+/// The one that a size begins with.
+constexpr int ersterBereich(Zweig zweig, int oktAnz) {
+    if (zweig == Zweig::Gehoerbildung) return oktAnz < 3 ? 1 : 0;
+    return oktAnz < 2 ? 2 - oktAnz : 3 - oktAnz;
+}
 
 /// A preset exam.
 struct Pruefungsvorgabe {

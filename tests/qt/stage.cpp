@@ -10,7 +10,10 @@
 Stage::Stage(const std::string& language, std::int64_t seed)
     : midi(loop),
       drill({loop, dialogs, printer, help, [this] { return host.connect(); }, &languages},
-            {"", std::filesystem::temp_directory_path().string(), "practice-room-3"}, midi, seed),
+            {.tempOrdner = std::filesystem::temp_directory_path().string(),
+             .rechnername = "practice-room-3",
+             .programmOrdner = (qt::LanguageFiles::installedFolder() + "/..").toStdString()},
+            midi, seed),
       windows(drill.programm.forms) {
     host.language = language;
     drill.programm.forms.load("grd_einst");
@@ -33,13 +36,17 @@ void Stage::wait(std::int64_t milliseconds) {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void Stage::openSetup() {
+void Stage::openSetup(bool theory, int type) {
+    setup_ = theory ? "einstellung1b" : "einstellung1";
+    sheet_ = "arbeitsblatt" + std::to_string(type) + (theory ? "b" : "");
+    control<form::Option>("grd_einst", "Theoriewahl", theory ? 1 : 0).click();
+    control<form::Option>("grd_einst", "ueb_typ", type).click();
     control<form::Button>("grd_einst", "cmdOK").click();
     wait(300);
 }
 
 void Stage::openWorksheet() {
-    control<form::Button>("einstellung1", "cmdOK").click();
+    control<form::Button>(setup_, "cmdOK").click();
     wait(10);
 }
 

@@ -29,9 +29,13 @@ struct Stage {
         return static_cast<C&>(*this->form(form).find(name, index));
     }
     void wait(std::int64_t milliseconds);
-    /// From the start form to the worksheet of the set-up form's choices.
-    void openSetup();
+    /// From the start form to the set-up form. @param theory the second branch.
+    /// @param type 1 naming, 4 writing.
+    void openSetup(bool theory = false, int type = 1);
+    /// On to the worksheet of its choices.
     void openWorksheet();
+    const std::string& setup() const { return setup_; }
+    const std::string& sheet() const { return sheet_; }
     /// Presses a key in the window of a form.
     void press(const std::string& form, Qt::Key key);
     /// Plays the task in hand to its end and answers it. @return false when the run is over.
@@ -50,5 +54,6 @@ struct Stage {
     qt::Windows windows;
 
   private:
+    std::string setup_ = "einstellung1", sheet_ = "arbeitsblatt1";
     form::Connection made_, shown_;
 };

@@ -1,96 +1,22 @@
 // Every form in a real window, in every language and at several sizes.
+#include "pictures.h"
+#include "qt/help.h"
 #include "qt/printer.h"
 #include "stage.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 namespace {
-
-const std::vector<std::string> allLanguages{"Deutsch", "English", "Español", "Français"};
-
-struct Size {
-    const char* name;
-    QSize size;
-};
-/// What a window gets of a small and of a large screen.
-const std::vector<Size> sizes{{"1024x768", {1008, 700}}, {"2560x1440", {2560, 1400}}};
-
-/// MELVORA_SCREENSHOTS names a folder for pictures of what the tests have seen.
-void keepPicture(QWidget& window, const std::string& name) {
-    const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
-    if (folder.isEmpty()) return;
-    QDir().mkpath(folder);
-    window.grab().save(folder + '/' + QString::fromStdString(name) + ".png");
-}
-
-int widthOfText(const QWidget& widget) {
-    if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->wordWrap() ? 0 : label->sizeHint().width();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        return button->sizeHint().width();
-    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
-        int widest = 0;
-        for (int i = 0; i < combo->count(); ++i)
-            widest = std::max(widest, combo->fontMetrics().horizontalAdvance(combo->itemText(i)));
-        return widest + 30;
-    }
-    return 0;
-}
-
-/// Every text has its room, nothing lies over anything else, and all that can be used has a name.
-void expectReadable(QWidget& window) {
-    const QString where = window.objectName();
-    std::vector<QWidget*> seen;
-    for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (!widget->isVisible() || widget->objectName().isEmpty() || widget->window() != &window)
-            continue;
-        if (widget->objectName().startsWith("qt_")) continue;
-        EXPECT_LE(widthOfText(*widget), widget->width())
-            << (where + ": cut off: " + widget->objectName()).toStdString();
-        if (widget->focusPolicy() != Qt::NoFocus) {
-            EXPECT_FALSE(widget->accessibleName().isEmpty())
-                << (where + ": no name: " + widget->objectName()).toStdString();
-        }
-        const QRect area(widget->mapTo(&window, QPoint()), widget->size());
-        EXPECT_TRUE(window.rect().contains(area) || widget->parentWidget()->inherits("QScrollArea"))
-            << (where + ": outside: " + widget->objectName()).toStdString();
-        for (QWidget* other : seen) {
-            if (other->isAncestorOf(widget) || widget->isAncestorOf(other)) continue;
-            const QRect otherArea(other->mapTo(&window, QPoint()), other->size());
-            EXPECT_FALSE(otherArea.intersects(area))
-                << (where + ": " + widget->objectName() + " over " + other->objectName())
-                       .toStdString();
-        }
-        seen.push_back(widget);
-    }
-    EXPECT_GT(seen.size(), 5U);
-}
-
-void look(Stage& stage, const std::string& form, const std::string& picture) {
-    for (const auto& [name, size] : sizes) {
-        SCOPED_TRACE(picture + " " + name);
-        QWidget& window = stage.window(form);
-        ASSERT_TRUE(window.isVisible());
-        const bool small = form == "grd_einst" || form == "frmSave" || form == "frmLoad";
-        window.resize(small ? window.size() : size);
-        QApplication::processEvents();
-        expectReadable(window);
-        keepPicture(window, picture + "-" + name);
-    }
-}
 
 TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
     for (const std::string& language : allLanguages) {
@@ -222,6 +148,16 @@ TEST(Windows, WidgetsTellTheFormAndFollowIt) {
     EXPECT_EQ(stage.widget<QComboBox>("einstellung1", "CmbOktBer").count(), 1);
     stage.window("einstellung1").close();
     EXPECT_TRUE(stage.window("grd_einst").isVisible()) << "the close box is the way back";
+}
+
+TEST(Help, HasAPageForEveryFormInEveryLanguage) {
+    const qt::QtHelp help;  // brings the pages
+    for (const char* language : {"de", "en", "es", "fr"})
+        for (const char* page : {"index", "grd_einst", "einstellung1", "einstellung1b", "frmSave",
+                                 "frmLoad", "arbeitsblatt1", "arbeitsblatt1b", "arbeitsblatt4",
+                                 "arbeitsblatt4b", "testergebnis"})
+            EXPECT_TRUE(QFile::exists(QString(":/help/%1/%2.html").arg(language, page)))
+                << language << " " << page;
 }
 
 TEST(Printing, TheResultFormFillsOneLandscapePage) {

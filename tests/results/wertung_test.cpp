@@ -30,7 +30,7 @@ TEST_F(WertungTest, BooksByModeAndExerciseType) {
                            {"resumed training", 2, 4, {2, -24, 0, 0}},
                            {"test, determine: the best two", 3, 1, {-8, -16, 0, 0}},
                            {"exam, determine", 4, 1, {-8, -16, 0, 0}},
-                           {"exam, write: none kept while none is counted", 4, 4, {0, 0, 0, 0}}}) {
+                           {"exam, write: counted, and the best four", 4, 4, {2, 0, -8, -16}}}) {
         SCOPED_TRACE(row.name);
         wertung.auswertung.Clear();
         z.uebungsmodus = row.modus;

@@ -1,0 +1,83 @@
+#include "pictures.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QScrollArea>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Size {
+    const char* name;
+    QSize size;
+};
+/// What a window gets of a small and of a large screen.
+const std::vector<Size> sizes{{"1024x768", {1008, 700}}, {"2560x1440", {2560, 1400}}};
+
+int widthOfText(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return label->wordWrap() ? 0 : label->sizeHint().width();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->sizeHint().width();
+    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
+        int widest = 0;
+        for (int i = 0; i < combo->count(); ++i)
+            widest = std::max(widest, combo->fontMetrics().horizontalAdvance(combo->itemText(i)));
+        return widest + 30;
+    }
+    return 0;
+}
+
+}  // namespace
+
+void keepPicture(QWidget& window, const std::string& name) {
+    const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
+    if (folder.isEmpty()) return;
+    QDir().mkpath(folder);
+    window.grab().save(folder + '/' + QString::fromStdString(name) + ".png");
+}
+
+void expectReadable(QWidget& window) {
+    const QString where = window.objectName();
+    std::vector<QWidget*> seen;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->objectName().isEmpty() || widget->window() != &window)
+            continue;
+        if (widget->objectName().startsWith("qt_")) continue;
+        EXPECT_LE(widthOfText(*widget), widget->width())
+            << (where + ": cut off: " + widget->objectName()).toStdString();
+        if (widget->focusPolicy() != Qt::NoFocus) {
+            EXPECT_FALSE(widget->accessibleName().isEmpty())
+                << (where + ": no name: " + widget->objectName()).toStdString();
+        }
+        const QRect area(widget->mapTo(&window, QPoint()), widget->size());
+        EXPECT_TRUE(window.rect().contains(area) || widget->parentWidget()->inherits("QScrollArea"))
+            << (where + ": outside: " + widget->objectName()).toStdString();
+        for (QWidget* other : seen) {
+            if (other->isAncestorOf(widget) || widget->isAncestorOf(other)) continue;
+            const QRect otherArea(other->mapTo(&window, QPoint()), other->size());
+            EXPECT_FALSE(otherArea.intersects(area))
+                << (where + ": " + widget->objectName() + " over " + other->objectName())
+                       .toStdString();
+        }
+        seen.push_back(widget);
+    }
+    EXPECT_GT(seen.size(), 5U);
+}
+
+void look(Stage& stage, const std::string& form, const std::string& picture) {
+    for (const auto& [name, size] : sizes) {
+        SCOPED_TRACE(picture + " " + name);
+        QWidget& window = stage.window(form);
+        ASSERT_TRUE(window.isVisible());
+        const bool small = form == "grd_einst" || form == "frmSave" || form == "frmLoad";
+        window.resize(small ? window.size() : size);
+        QApplication::processEvents();
+        expectReadable(window);
+        keepPicture(window, picture + "-" + name);
+    }
+}
