@@ -240,7 +240,7 @@
 <message id="876s"><translation>H</translation></message>
 <message id="877s"><translation>His</translation></message>
 <message id="878s"><translation>Hisis</translation></message>
-<message id="879s"><translation>Tasten: Pfeile wählen Spalte und Vorzeichen, 1–5 und Eingabe setzen, Eingabe: Fertig und weiter, Leertaste wiederholt, Esc verlässt</translation></message>
+<message id="879s"><translation>Tasten: Pfeile schreiben, 1–5 und Eingabe setzen, Eingabe: fertig und weiter, Leertaste wiederholt, Esc verlässt</translation></message>
 <message id="880s"><translation>Notenzeile</translation></message>
 <message id="881s"><translation>Doppel-b</translation></message>
 <message id="882s"><translation>b</translation></message>

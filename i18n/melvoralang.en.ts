@@ -240,7 +240,7 @@
 <message id="876s"><translation>B</translation></message>
 <message id="877s"><translation>B sharp</translation></message>
 <message id="878s"><translation>B double sharp</translation></message>
-<message id="879s"><translation>Keys: arrows choose column and accidental, 1–5 and Enter put one down, Enter: done and on, Space repeats, Esc leaves</translation></message>
+<message id="879s"><translation>Keys: arrows write, 1–5 and Enter put down, Enter: done and on, Space repeats, Esc leaves</translation></message>
 <message id="880s"><translation>Staff</translation></message>
 <message id="881s"><translation>double flat</translation></message>
 <message id="882s"><translation>flat</translation></message>

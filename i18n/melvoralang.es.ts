@@ -240,7 +240,7 @@
 <message id="876s"><translation>si</translation></message>
 <message id="877s"><translation>si sostenido</translation></message>
 <message id="878s"><translation>si doble sostenido</translation></message>
-<message id="879s"><translation>Teclas: las flechas eligen columna y alteración, 1–5 e Intro la colocan, Intro: terminado y seguir, Espacio repite, Esc sale</translation></message>
+<message id="879s"><translation>Teclas: flechas escriben, 1–5 e Intro colocan, Intro: terminado y seguir, Espacio repite, Esc sale</translation></message>
 <message id="880s"><translation>Pentagrama</translation></message>
 <message id="881s"><translation>doble bemol</translation></message>
 <message id="882s"><translation>bemol</translation></message>

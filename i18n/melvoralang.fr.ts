@@ -240,7 +240,7 @@
 <message id="876s"><translation>si</translation></message>
 <message id="877s"><translation>si dièse</translation></message>
 <message id="878s"><translation>si double dièse</translation></message>
-<message id="879s"><translation>Touches : les flèches choisissent colonne et altération, 1–5 et Entrée la posent, Entrée : terminé et suite, Espace répète, Échap quitte</translation></message>
+<message id="879s"><translation>Touches : flèches écrivent, 1–5 et Entrée posent, Entrée : terminé et suite, Espace répète, Échap quitte</translation></message>
 <message id="880s"><translation>Portée</translation></message>
 <message id="881s"><translation>double bémol</translation></message>
 <message id="882s"><translation>bémol</translation></message>

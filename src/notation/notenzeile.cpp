@@ -22,7 +22,7 @@ constexpr std::array kreuzLinien{Zeichenlinien{64, 76, 60, 72, 84, 68, 80},
 constexpr std::array beLinien{Zeichenlinien{80, 68, 84, 72, 88, 76, 92},
                               Zeichenlinien{72, 60, 76, 64, 80, 68, 84}};
 constexpr int signaturX = 36;
-constexpr int signaturSchritt = 8;
+constexpr int signaturSchritt = 10;
 
 }  // namespace
 

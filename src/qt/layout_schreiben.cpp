@@ -44,8 +44,10 @@ QWidget* writingArea(Binder& bind) {
     look::font(*hand, 1.15, true);
     tools->addWidget(hand);
     column->addLayout(tools);
-    column->addWidget(bind("PicBNot"), 3);
-    column->addWidget(bind("HinweisMeldung"), 2);
+    column->addWidget(bind("PicBNot"), 1);
+    QWidget* hint = bind("HinweisMeldung");
+    hint->setFixedHeight(12 * hint->fontMetrics().lineSpacing());
+    column->addWidget(hint);
     return area;
 }
 

@@ -23,7 +23,7 @@ using notation::ZugZustand;
 
 namespace {
 
-constexpr double largestScale = 2.5;
+constexpr double largestScale = 4;
 constexpr auto dragFormat = "application/x-melvora-accidental";
 
 QRectF area(const Rechteck& r) { return QRectF(r.x, r.y, r.breite, r.hoehe); }

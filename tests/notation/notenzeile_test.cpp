@@ -69,7 +69,7 @@ TEST(Layout, AKeySignatureMovesTheColumns) {
           Row{"two sharps in the bass", 36, 2, 2, 36, 45}}) {
         SCOPED_TRACE(row.name);
         Sheet sheet(0, 0, row.base, row.signature);
-        const int by = 8 * row.glyphs;
+        const int by = 10 * row.glyphs;
         EXPECT_EQ(sheet.staff.PicBNot.lage().breite, 362 + by);
         EXPECT_EQ(sheet.staff.lage().x(3), 180 + by);
         EXPECT_EQ(sheet.staff.lage().spalteBei(static_cast<float>(180 + by)), 3);

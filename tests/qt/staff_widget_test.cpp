@@ -97,7 +97,7 @@ TEST(StaffWidget, GrowsInTheMiddleAndTellsPlaces) {
         double scale;
     };
     for (const Row& row :
-         {Row{{362, 158}, 1}, Row{{500, 158}, 1}, Row{{543, 237}, 1.5}, Row{{2000, 1000}, 2.5}}) {
+         {Row{{362, 158}, 1}, Row{{500, 158}, 1}, Row{{543, 237}, 1.5}, Row{{2000, 1000}, 4}}) {
         SCOPED_TRACE(row.scale);
         widget.resize(row.size);
         EXPECT_DOUBLE_EQ(widget.scale(), row.scale);
