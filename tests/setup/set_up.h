@@ -21,22 +21,40 @@ struct Session {
     drill::Drill drill;
     core::Zustand& z = drill.programm.zustand;
 
-    explicit Session(support::FakeHost& host,
-                     core::Aufruf aufruf = {.tempOrdner = ::testing::TempDir(),
-                                            .rechnername = "desk"})
+    /// Branch and type of the exercise.
+    struct Way {
+        bool theory = false;
+        int type = 1;
+        std::string setup() const { return theory ? "einstellung1b" : "einstellung1"; }
+        std::string sheet() const {
+            return "arbeitsblatt" + std::to_string(type) + (theory ? "b" : "");
+        }
+    };
+    const Way way;
+
+    explicit Session(support::FakeHost& host, core::Aufruf aufruf = somewhere())
+        : Session(host, Way{}, std::move(aufruf)) {}
+    Session(support::FakeHost& host, const Way& to, core::Aufruf aufruf = somewhere())
         : drill{{loop, dialogs, printer, help, [&host] { return host.connect(); }, &words},
                 std::move(aufruf),
                 midi,
-                1} {
+                1},
+          way(to) {
         drill.programm.forms.load("grd_einst");
         loop.advance(5);
+        get<form::Option>("Theoriewahl", way.theory ? 1 : 0, "grd_einst").click();
+        get<form::Option>("ueb_typ", way.type, "grd_einst").click();
         get<form::Button>("cmdOK", form::Place::noIndex, "grd_einst").click();
         loop.advance(250);
     }
+    static core::Aufruf somewhere() {
+        return {.tempOrdner = ::testing::TempDir(), .rechnername = "desk"};
+    }
+    form::Form& form(const std::string& name) { return *drill.programm.forms.loaded(name); }
     template <class C>
     C& get(const std::string& name, int index = form::Place::noIndex,
-           const std::string& formName = "einstellung1") {
-        return static_cast<C&>(*drill.programm.forms.loaded(formName)->find(name, index));
+           const std::string& formName = "") {
+        return static_cast<C&>(*form(formName.empty() ? way.setup() : formName).find(name, index));
     }
     form::Option& option(const std::string& name, int index) {
         return get<form::Option>(name, index);

@@ -1,0 +1,278 @@
+// The worksheets with a staff, from their set-up forms to the record: written and named scales.
+#include "determine/arbeitsblatt1b.h"
+#include "notation/schreib_blatt.h"
+#include "setup/set_up.h"
+#include "sim/writer.h"
+
+#include <pugixml.hpp>
+
+#include <cstdlib>
+#include <map>
+#include <set>
+
+namespace setup::test {
+
+namespace {
+
+using core::Value;
+using engine::AufgZustand;
+using sim::Writing;
+
+constexpr Session::Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{true, 4};
+
+struct Exercise : Session {
+    using Session::Session;
+
+    Exercise(support::FakeHost& host, const Way& to, int mode) : Session(host, to) {
+        combo("training_Combo").setListIndex(mode);
+    }
+    void begin() {
+        button("cmdOK").click();
+        loop.advance(50);
+    }
+    template <class Sheet = notation::SchreibBlatt>
+    Sheet& sheet() {
+        return dynamic_cast<Sheet&>(form(way.sheet()));
+    }
+    template <class C>
+    C& on(const std::string& name, int index = form::Place::noIndex) {
+        return get<C>(name, index, way.sheet());
+    }
+    void next() {
+        on<form::Button>("CmdNextAufg").click();
+        for (int i = 0; i < 300 && !(way.type == 4 && on<form::Button>("cmdOK").usable()); ++i)
+            loop.advance(100);
+    }
+    void write(Writing how) {
+        sim::writeScale(sheet(), how, chance);
+        on<form::Button>("cmdOK").click();
+        loop.advance(10);
+    }
+    void leave(bool keep) {
+        dialogs.answers = {keep};
+        on<form::Panel>("zurueck").click();
+        loop.advance(500);
+    }
+    std::map<int, int> weights() {
+        std::map<int, int> all;
+        for (int i = 1; i <= z.potSkala; ++i) all[z.mathaeufgk_box(i, 0)] = z.mathaeufgk_box(i, 1);
+        return all;
+    }
+    pugi::xml_document record() {
+        pugi::xml_document document;
+        document.load_string(drill.wertung.xml.text().c_str());
+        return document;
+    }
+
+    base::Rnd chance{3};
+};
+
+struct Worksheets : ::testing::Test {
+    support::FakeHost host;
+};
+
+TEST_F(Worksheets, FourWrongAnswersBringTheSolution) {
+    for (const auto& way : {writing, theoryWriting}) {
+        SCOPED_TRACE(way.sheet());
+        Exercise run(host, way, 1);
+        run.begin();
+        auto& sheet = run.sheet();
+        EXPECT_FALSE(run.on<form::Button>("cmdOK").usable());
+        run.next();
+        EXPECT_EQ(run.z.ton_anz_akt, 4);
+        if (way.theory) {
+            EXPECT_EQ(run.on<form::Label>("aufg").caption(),
+                      run.drill.programm.katalog.skal_name[0][run.z.skala_nr]);
+        }
+        for (int tries = 1; tries <= 4; ++tries) {
+            EXPECT_TRUE(run.on<form::Button>("cmdOK").enabled() || tries > 1);
+            for (int i = 0; i < 20 && (tries > 1 && !run.on<form::Button>("cmdOK").enabled()); ++i)
+                sim::writeScale(sheet, Writing::Wrong, run.chance);
+            run.write(Writing::Wrong);
+            EXPECT_EQ(run.on<form::Label>("zaehler", 1).caption(), std::to_string(tries));
+        }
+        EXPECT_EQ(sheet.aufgZustand(), AufgZustand::Geschlossen);
+        EXPECT_EQ(notation::falscheSpalten(sheet.notenzeile(), sheet.erwartung()), 0);
+        int red = 0;
+        for (int c = 1; c <= 6; ++c) red += sheet.notenzeile().NotSelb(c).farbe == 12 ? 1 : 0;
+        EXPECT_GE(red, 1);
+        EXPECT_FALSE(run.on<form::Group>("pbNoten").enabled());
+        EXPECT_FALSE(run.on<form::Button>("cmdOK").usable()) << "a closed task is not handed in";
+
+        const auto document = run.record();
+        const auto answers =
+            document.child("exercise").child("lessons").child("lesson").child("answers");
+        int lfd = 0;
+        for (const auto answer : answers) {
+            EXPECT_EQ(answer.attribute("lfd").as_int(), ++lfd);
+            std::string keys;
+            for (const auto property : answer)
+                keys += std::string(property.attribute("key").value()) + ";";
+            EXPECT_EQ(keys, std::string(lfd > 1 ? "Skala;" : "") +
+                                "Dauer Antwort;Anz Whlg;Antwort;FalschSkala;");
+        }
+        EXPECT_EQ(lfd, 4);
+    }
+}
+
+TEST_F(Worksheets, SpellingCountsAsMuchAsSound) {
+    Exercise run(host, theoryWriting, 0);
+    run.begin();
+    int misspelled = 0;
+    for (int task = 0; task < 30; ++task) {
+        run.next();
+        auto& sheet = run.sheet();
+        sim::writeScale(sheet, Writing::Enharmonic, run.chance);
+        const bool same = notation::falscheSpalten(sheet.notenzeile(), sheet.erwartung()) == 0;
+        run.on<form::Button>("cmdOK").click();
+        EXPECT_EQ(sheet.aufgZustand() == AufgZustand::Geschlossen, same);
+        misspelled += same ? 0 : 1;
+        if (!same) run.write(Writing::Right);
+        EXPECT_EQ(sheet.aufgZustand(), AufgZustand::Geschlossen);
+        EXPECT_TRUE(run.midi.noteOns().empty()) << "nothing sounds";
+    }
+    EXPECT_GT(misspelled, 5);
+}
+
+/// An exam to its end: the presence mark stands apart from the scores, and every scale of the
+/// result counts.
+TEST_F(Worksheets, AnExamOfWrittenScalesKeepsTheBest) {
+    for (const auto& way : {writing, theoryWriting}) {
+        SCOPED_TRACE(way.sheet());
+        Exercise run(host, way, 4);
+        run.begin();
+        const int tasks = run.sheet().pruefAufgaben();
+        std::map<int, std::set<int>> keys;
+        int signs = 0;
+        const auto lookIntoBag = [&] {
+            for (int i = 1; i <= run.z.matboxanz; ++i) {
+                const int key = run.z.matbox(i, 1);
+                signs += std::abs(key);
+                EXPECT_TRUE(key != 0 && std::abs(key) <= 6) << key;
+                EXPECT_TRUE(keys[std::abs(int(run.z.matbox(i, 0)))].insert(key).second)
+                    << "a scale twice in one key";
+            }
+        };
+        lookIntoBag();
+        for (int task = 0; task < tasks; ++task) {
+            run.loop.advance(2000);
+            for (int i = 0; i < 200 && !run.on<form::Button>("cmdOK").usable(); ++i)
+                run.loop.advance(100);
+            run.write(Writing::Right);
+            if (run.sheet().restAufgaben() == tasks / 2) lookIntoBag();
+        }
+        EXPECT_NEAR(signs / double(tasks), 3.5, 0.7) << "the second half evens out the first";
+        EXPECT_EQ(run.sheet().aufgZustand(), AufgZustand::PruefungBeendet);
+        const auto& scores = run.drill.wertung.auswertung;
+        for (int slot = 1; slot <= 7; ++slot) {
+            EXPECT_GE(scores.read(slot, 6), 1);
+            EXPECT_GE(scores.read(slot, 0), 1);
+            const auto row = results::ergebnisZeile(scores, run.z, slot);
+            EXPECT_TRUE(row.zaehlt);
+            EXPECT_GT(row.anteil, 0.9F);
+        }
+    }
+}
+
+TEST_F(Worksheets, TheoryAndWritingAreSavedUnderTheirOwnKeys) {
+    for (const auto& way : {writing, theoryNaming, theoryWriting}) {
+        SCOPED_TRACE(way.sheet());
+        const auto task = [](Exercise& run) {
+            run.next();
+            if (run.way.type == 4) return run.write(Writing::Right);
+            run.on<form::Panel>("tonart", run.z.skala_nr).click();
+            run.loop.advance(100);
+        };
+        std::map<int, int> weights;
+        {
+            Exercise run(host, way, 1);
+            run.begin();
+            for (int i = 0; i < 3; ++i) task(run);
+            weights = run.weights();
+            run.leave(true);
+        }
+        const std::string key = std::to_string(way.type) + (way.theory ? "b" : "");
+        ASSERT_TRUE(host.records.contains("zepha9/A" + key));
+        EXPECT_EQ(host.records["zepha9/E" + key].items().size(), way.theory ? 9U : 11U);
+        // The offer looks at the ear-training keys only.
+        if (way.theory)
+            for (const char* record : {"A", "E"})
+                host.records["zepha9/" + std::string(record) + std::to_string(way.type)] =
+                    host.records["zepha9/" + (record + key)];
+        Exercise again(host, way, 2);
+        EXPECT_EQ(again.z.uebungsmodus, 2);
+        again.begin();
+        EXPECT_EQ(again.weights(), weights);
+        EXPECT_EQ(again.on<form::Label>("zaehler", 0).caption(), "3");
+        host.records.clear();
+    }
+}
+
+/// Settings of the other branch have another layout: they never restore a form in part.
+TEST_F(Worksheets, SettingsOfTheOtherBranchAreNotTaken) {
+    for (const int tempo : {0, 1, 2, 9})
+        for (const int direction : {0, 1, 2}) {
+            host.records["zepha9/A1"] = Value::Array{"true", "x"};
+            Value::Array settings(11, "0");
+            settings[1] = std::to_string(tempo);
+            settings[2] = std::to_string(direction);
+            settings[4] = "2";
+            host.records["zepha9/E1"] = settings;
+            Exercise run(host, theoryNaming, 2);
+            EXPECT_EQ(run.z.uebungsmodus, 1);
+            EXPECT_EQ(run.z.richtung, 2);
+            EXPECT_EQ(run.z.final, 2);
+            EXPECT_TRUE(run.group(5).enabled());
+            EXPECT_TRUE(run.dialogs.messages.empty());
+        }
+}
+
+TEST_F(Worksheets, TheoryOffersItsOwnRangesAndRecap) {
+    Exercise run(host, theoryNaming, 0);
+    EXPECT_EQ(run.z.FrquMinAkt, 60);
+    EXPECT_EQ(run.z.FrquMaxAkt, 72);
+    for (int size = 0; size < 4; ++size) {
+        run.combo("CmbOktAnz").setListIndex(size);
+        EXPECT_EQ(run.combo("CmbOktBer").count(), 4 - size);
+        EXPECT_EQ(run.z.FrquMaxAkt - run.z.FrquMinAkt, 12 * (size + 1));
+    }
+    EXPECT_EQ(run.z.FrquMaxAkt, 84);
+    for (const int group : {2, 3}) EXPECT_FALSE(run.form("einstellung1b").find("grdeinst", group));
+    for (const int group : {11, 15}) EXPECT_FALSE(run.group(group).visible());
+    run.begin();
+    EXPECT_EQ(run.recap("Tempo"), "-");
+    EXPECT_EQ(run.recap("Vz/Finalis"), "W151");
+    EXPECT_EQ(run.on<form::Label>("tonarten").caption(), "W354");
+}
+
+TEST_F(Worksheets, TheLearnerHearsSolutionAndOwnVersionInTurn) {
+    Exercise run(host, writing, 0);
+    run.combo("Combo_richtung").setListIndex(0);
+    run.begin();
+    run.next();
+    auto& sheet = run.sheet();
+    for (int tries = 0; tries < 4; ++tries) {
+        for (int i = 0; i < 20 && !run.on<form::Button>("cmdOK").enabled(); ++i)
+            sim::writeScale(sheet, Writing::Wrong, run.chance);
+        run.write(Writing::Wrong);
+    }
+    const auto played = [&](const char* button) {
+        run.on<form::Panel>(button).click();
+        run.loop.advance(500);
+        std::vector<int> notes;
+        for (const auto& note : run.midi.noteOns()) notes.push_back(note.data1);
+        run.loop.advance(20000);
+        return notes;
+    };
+    std::vector<int> solution;
+    for (int k = 0; k < 8; ++k) solution.push_back(sheet.aufgabe().noten[k]);
+    EXPECT_EQ(played("wieder2"), solution);
+    const auto own = played("eigene");
+    ASSERT_EQ(own.size(), 8U);
+    EXPECT_NE(own, solution);
+    EXPECT_TRUE(run.on<form::Button>("CmdNextAufg").usable());
+}
+
+}  // namespace
+
+}  // namespace setup::test
