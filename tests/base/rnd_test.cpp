@@ -21,13 +21,6 @@ TEST(Rnd, StaysInItsRangeAndReachesAllOfIt) {
     }
 }
 
-/// The greatest number below 1 that the generator can give must not be rounded up to k.
-TEST(Rnd, ItsGreatestNumberStaysBelowEveryFactor) {
-    constexpr float greatest = static_cast<float>((1 << 24) - 1) * 0x1p-24F;
-    for (int k = 1; k <= 32767; ++k)
-        ASSERT_LT(static_cast<int>(greatest * static_cast<float>(k)), k);
-}
-
 TEST(Rnd, IsUniformFromTheFirstNumbersOfEverySeed) {
     std::array<int, 11> counts{};
     for (int seed = 0; seed < 11000; ++seed)

@@ -9,9 +9,9 @@ namespace core {
 
 /// A program with its ports faked, not yet linked to its host.
 struct BenchProgramm {
-    explicit BenchProgramm(std::string kommandozeile = {})
+    BenchProgramm()
         : p({loop, dialogs, printer, help, [this] { return host.connect(); }, &words},
-            {std::move(kommandozeile), "/nowhere", "desk12"}, 1) {}
+            {.kommandozeile = "/P=a;b;;c", .tempOrdner = "/nowhere", .rechnername = "desk12"}, 1) {}
 
     form::VirtualTime loop;
     support::FakeHost host;

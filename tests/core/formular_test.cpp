@@ -35,8 +35,8 @@ TEST(CommonErrorPath, LogsWarnsAndGoesOnInThatOrder) {
         bench.loop.advance(1000);
         EXPECT_EQ(form.ticks, 1) << "the timer stays off";
         ASSERT_EQ(bench.host.faults.size(), 1U);
-        EXPECT_EQ(bench.host.faults[0].at(0).text(), "zepha9.faultystart_timer.");
-        EXPECT_EQ(bench.host.faults[0].at(1), Value(6));
+        EXPECT_EQ(bench.host.faults[0],
+                  Value(Value::Array{"zepha9.faultystart_timer.", 6, "overflow", "zepha9"}));
         ASSERT_EQ(bench.dialogs.messages.size(), warned ? 2U : 1U);
         if (warned) {
             EXPECT_EQ(bench.dialogs.messages[0].title, "Warnung") << "the host's warning first";

@@ -35,8 +35,6 @@ TEST(HostVerbinden, StandsOnlyWithTheHostThatStartedTheModule) {
          notStarted},
         {"only the beginning is the same", [](auto& h) { h.started = "zepha9"; }, "zepha9", false,
          notStarted},
-        {"both wrong and refused", [](auto& h) { h.started = "x", h.refused = {"APP"}; }, "zepha9",
-         false, "Status 9"},
         {"the name in any case", [](auto& h) { h.started = "ZePha9.ExE"; }, "zEphA9", true, ""},
         {"without a name its own", [](auto&) {}, {}, true, ""},
     };
@@ -89,7 +87,6 @@ TEST(HostLesen, FindsOnlyWhatIsARecord) {
         {"no array", holding("True"), false},
         {"the call fails", [](auto& h) { h.failing = {"READ"}; }, false},
         {"answered false", [](auto& h) { h.refused = {"READ"}; }, false},
-        {"under another key", [&](auto& h) { h.records["zepha9/A4"] = record; }, false},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -102,15 +99,6 @@ TEST(HostLesen, FindsOnlyWhatIsARecord) {
         EXPECT_EQ(bench.p.zustand.gelesen_a, row.found ? record : Value("before"));
         EXPECT_EQ(bench.p.zustand.gelesen_e, Value("before"));
     }
-}
-
-TEST(HostSichern, WhatIsStoredIsReadBack) {
-    BenchProgramm bench;
-    bench.p.host.HostVerbinden();
-    const Value record = Value::Array{"True", 7, 2.5, Value::Array{"a", true}};
-    bench.p.host.HostSichern("E4b", record);
-    ASSERT_TRUE(bench.p.host.LeseEinstellung("E4b"));
-    EXPECT_EQ(bench.p.zustand.gelesen_e, record);
 }
 
 TEST(Host, EveryRequestToleratesAHostThatIsGone) {
@@ -128,22 +116,6 @@ TEST(Host, EveryRequestToleratesAHostThatIsGone) {
     host.HostSichern("A1", "x");
     EXPECT_EQ(lost, 1) << "told once";
     EXPECT_TRUE(bench.dialogs.messages.empty());
-}
-
-TEST(HostFehler, LogsProgramNumberDescriptionAndSource) {
-    BenchProgramm bench;
-    bench.p.host.HostVerbinden();
-    bench.host.warnsOfErrors = true;
-    try {
-        base::throwSubscript();
-    } catch (const base::RuntimeError& fault) {
-        bench.p.host.HostFehler("MatWahl.arbeitsblatt1", fault);
-    }
-    EXPECT_EQ(bench.host.faults,
-              std::vector<Value>{(Value::Array{"zepha9.MatWahl.arbeitsblatt1", 9,
-                                               "subscript out of range", "zepha9"})});
-    ASSERT_EQ(bench.dialogs.messages.size(), 1U);
-    EXPECT_EQ(bench.dialogs.messages[0].title, "Warnung");
 }
 
 }  // namespace

@@ -26,13 +26,5 @@ TEST(Worte, AreVoidUntilThereIsALanguageThatKnowsThem) {
     EXPECT_EQ(worte.Wort(354), "E354") << "an unknown name changes nothing";
 }
 
-TEST(Worte, WithoutAListEverythingIsVoid) {
-    Worte worte(nullptr);
-    worte.SprachenLaden();
-    worte.SpracheSetzen("Deutsch");
-    EXPECT_FALSE(worte.SprachenVorhanden());
-    EXPECT_EQ(worte.Wort(1), "VOID");
-}
-
 }  // namespace
 }  // namespace core

@@ -1,0 +1,52 @@
+#include "setup/set_up.h"
+
+#include <filesystem>
+
+namespace core {
+namespace {
+
+/// The whole drill, opened by a teacher, with a folder for its files that has gone.
+struct Unwritable : setup::test::SetUp {
+    Unwritable() {
+        words.texts = {{"815s", "no record in %1: free some space"},
+                       {"834s", "no settings in %1: choose another folder"}};
+        drill.programm.aufruf.tempOrdner = gone;
+        drill.programm.aufruf.pruefEdit = true;
+        drill.programm.forms.unload("einstellung1");
+        drill.programm.forms.load("einstellung1");
+        loop.advance(250);
+    }
+    const std::string gone = (std::filesystem::path(testing::TempDir()) / "gone/x").string();
+    const std::string warning = "W720\nW721\nW722\nW723\n\n";
+};
+
+TEST_F(Unwritable, AResultRecordIsToldWithItsPathAndWhatToDo) {
+    button("cmdOK").click();
+    loop.advance(500);
+    ASSERT_NE(drill.programm.forms.loaded("arbeitsblatt1"), nullptr);
+    const std::string file = drill.wertung.xml.datei();
+    EXPECT_EQ(file.rfind(gone, 0), 0U);
+    get<form::Panel>("zurueck", form::Place::noIndex, "arbeitsblatt1").click();
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_EQ(dialogs.messages[0].text,
+              warning + "no record in " + file + ": free some space (No such file or directory)");
+}
+
+TEST_F(Unwritable, AFileOfSettingsIsToldWithItsPathAndWhatToDo) {
+    dialogs.files = {gone + "/exam.mvs"};
+    const auto watch = drill.programm.forms.made.connect([&](form::Form& made) {
+        if (made.name() != "frmSave") return;
+        loop.post([&] {
+            for (const char* name : {"cmdSave", "cmdOK"})
+                get<form::Button>(name, form::Place::noIndex, "frmSave").click();
+        });
+    });
+    button("cmdOptionSave").click();
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_EQ(dialogs.messages[0].text,
+              warning + "no settings in " + gone +
+                  "/exam.mvs: choose another folder (No such file or directory)");
+}
+
+}  // namespace
+}  // namespace core
