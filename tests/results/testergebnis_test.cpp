@@ -69,21 +69,17 @@ TEST(Testergebnis, EachRowReadsItsOwnSlot) {
 
 TEST(Testergebnis, TheTotalIsTheMeanOfTheRowsThatCount) {
     ResultForm result;
-    result.score(1, -16);
-    result.score(4, -8);
-    result.score(14, 3);
+    for (const auto& [slot, booked] : {std::pair{1, -16.F}, {4, -8.F}, {14, 3.F}})
+        result.score(slot, booked);
     result.open();
     EXPECT_EQ(result.form().gesamtText(), "50.0%");
-}
 
-TEST(Testergebnis, TheLargestCategoryFits) {
-    ResultForm result;
-    result.drill.category(6);
-    for (int slot = 1; slot <= 20; ++slot) result.score(slot, -16);
-    result.open();
-    ASSERT_EQ(result.form().zeilen().size(), 20U);
-    EXPECT_EQ(result.form().gesamtText(), "100.0%");
-    EXPECT_TRUE(result.drill.host.faults.empty());
+    ResultForm largest;
+    largest.drill.category(6);
+    for (int slot = 1; slot <= 20; ++slot) largest.score(slot, -16);
+    largest.open();
+    ASSERT_EQ(largest.form().zeilen().size(), 20U);
+    EXPECT_EQ(largest.form().gesamtText(), "100.0%");
 }
 
 TEST(Testergebnis, NamesWhoWasLoggedIn) {
@@ -91,13 +87,8 @@ TEST(Testergebnis, NamesWhoWasLoggedIn) {
         ResultForm result;
         result.drill.z.angemeldet = known;
         result.open();
-        EXPECT_EQ(result.form().caption(), "W492W700W224");
-        EXPECT_EQ(result.control("g_einst_inh", 0).caption(), "02.01.2026 ");
-        EXPECT_EQ(result.control("g_einst_inh", 2).caption(), "desk12 ");
         EXPECT_EQ(result.control("g_einst_inh", 5).visible(), known);
         EXPECT_EQ(result.control("g_einst_inh", 5).caption(), known ? "4711" : "");
-        EXPECT_EQ(result.control("einst_lab", 1).caption(), "Tonraum");
-        EXPECT_FALSE(result.control("einst_lab", 2).visible());
     }
 }
 
@@ -116,25 +107,21 @@ TEST(Testergebnis, PrintsOnceInWhiteAndTellsWhatFailed) {
     }
 }
 
-TEST(Testergebnis, AFaultWhileItFillsStillLetsItBeLeft) {
-    ResultForm result;
-    result.drill.wertung.auswertung.init_arr(2, 1);
-    result.drill.programm.forms.load("einstellung1");
-    result.drill.later(500, [&] {
-        auto* form = result.drill.programm.forms.loaded("testergebnis");
-        if (form) static_cast<form::Button*>(form->find("cmdOK"))->click();
-    });
-    EXPECT_NO_THROW(result.drill.programm.forms.runModal("testergebnis"));
-    EXPECT_EQ(result.drill.host.faults.size(), 1U);
-}
-
-TEST(Testergebnis, LeavesToTheSetUpForm) {
-    ResultForm result;
-    result.drill.programm.forms.load("einstellung1");
-    result.open();
-    result.form().key({form::Key::Kind::Enter});
-    EXPECT_FALSE(result.form().visible());
-    EXPECT_TRUE(result.drill.programm.forms.loaded("einstellung1")->visible());
+TEST(Testergebnis, LeavesToTheSetUpFormAndByItselfAfterAFaultWhileItFills) {
+    for (const bool faulty : {false, true}) {
+        SCOPED_TRACE(faulty);
+        ResultForm result;
+        auto& forms = result.drill.programm.forms;
+        if (faulty) result.drill.wertung.auswertung.init_arr(2, 1);
+        forms.load("einstellung1");
+        result.drill.later(500, [&] {
+            if (form::Form* form = forms.loaded("testergebnis"))
+                form->key({form::Key::Kind::Enter});
+        });
+        EXPECT_NO_THROW(forms.runModal("testergebnis"));
+        EXPECT_EQ(result.drill.host.faults.size(), faulty ? 1U : 0U);
+        EXPECT_EQ(forms.loaded("einstellung1")->visible(), !faulty) << "else the worksheet does it";
+    }
 }
 
 }  // namespace
