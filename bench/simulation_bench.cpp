@@ -28,6 +28,23 @@ BENCHMARK_CAPTURE(simulate, exam,
     ->Name("tasks/exams")
     ->Unit(benchmark::kMillisecond);
 
+BENCHMARK_CAPTURE(simulate, write_heard,
+                  {"--form", "arbeitsblatt4", "--tasks", "5000", "--learner", "random:0.7"})
+    ->Name("tasks/write_heard")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(simulate, write_named,
+                  {"--form", "arbeitsblatt4b", "--tasks", "5000", "--learner", "random:0.7"})
+    ->Name("tasks/write_named")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(simulate, write_training,
+                  {"--form", "arbeitsblatt4", "--set", "uebungsmodus=1", "--learner", "random:0.7"})
+    ->Name("tasks/write_trainings")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(simulate, theory,
+                  {"--form", "arbeitsblatt1b", "--tasks", "5000", "--learner", "random:0.7"})
+    ->Name("tasks/identify_seen")
+    ->Unit(benchmark::kMillisecond);
+
 constexpr int lessons = 10000;
 
 /// Saving of a record, file included.

@@ -33,25 +33,61 @@ void rasterTask(benchmark::State& state) {
 }
 BENCHMARK(rasterTask)->Name("staff/task_on_pixels")->Unit(benchmark::kMicrosecond);
 
-/// From a drop to the painted window, the staff as large as it becomes on 2560x1440 at scale 2.
+/// A staff with a written task, as large as it becomes on 2560x1440 at scale 2.
+class LargeStaff {
+  public:
+    LargeStaff() {
+        write(sheet);
+        widget_.resize(1280, 500);
+        window_ = QPixmap(widget_.size() * 2);
+        window_.setDevicePixelRatio(2);
+    }
+    void paint() { widget_.render(&window_); }
+
+  private:
+    static std::unique_ptr<QApplication> screen(int& arguments) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_SCALE_FACTOR", "2");
+        return std::make_unique<QApplication>(arguments, nullptr);
+    }
+
+    int arguments_ = 0;
+    std::unique_ptr<QApplication> application_ = screen(arguments_);
+
+  public:
+    Sheet sheet{6, 0, 60};
+
+  private:
+    qt::StaffWidget widget_{sheet.staff.PicBNot};
+    QPixmap window_;
+};
+
+/// From a drop to the painted window.
 void dropToPaint(benchmark::State& state) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_SCALE_FACTOR", "2");
-    int arguments = 0;
-    const auto application = std::make_unique<QApplication>(arguments, nullptr);
-    Sheet sheet(6, 0, 60);
-    write(sheet);
-    qt::StaffWidget widget(sheet.staff.PicBNot);
-    widget.resize(1280, 500);
-    QPixmap window(widget.size() * 2);
-    window.setDevicePixelRatio(2);
+    LargeStaff staff;
     int accidental = 0;
     for ([[maybe_unused]] const auto _ : state) {
         accidental = 1 - accidental;
-        sheet.drop(3, notation::quelle::mit(accidental));
-        widget.render(&window);
+        staff.sheet.drop(3, notation::quelle::mit(accidental));
+        staff.paint();
     }
 }
 BENCHMARK(dropToPaint)->Name("staff/drop_to_paint")->Unit(benchmark::kMillisecond);
+
+/// From the pointer's step into the next column to the painted preview there.
+void dragOverToPaint(benchmark::State& state) {
+    LargeStaff staff;
+    notation::Notenzeile& line = staff.sheet.staff;
+    const form::Control& source = staff.sheet.palette.NotP(notation::quelle::mit(-2));
+    const int s = line.SchlZ();
+    int column = 1;
+    for ([[maybe_unused]] const auto _ : state) {
+        column = column % 6 + 1;
+        const auto x = static_cast<float>(line.lage().x(column));
+        line.PicB(s).ueber({source, x, 80}, notation::ZugZustand::Ueber);
+        staff.paint();
+    }
+}
+BENCHMARK(dragOverToPaint)->Name("staff/drag_over_to_paint")->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -19,6 +19,7 @@ TITLES = {
     "draw/melody": "draw of a task with a melody",
     "staff/task_on_pixels": "a whole written task drawn on a grid of pixels",
     "staff/drop_to_paint": "drop on the staff to the painted window, 2560x1000 pixels",
+    "staff/drag_over_to_paint": "drag into the next column to the painted preview, 2560x1000 pixels",
     "setup/choose/15/real_time": "click on a scale in the lists to the painted form, 2560x1400 pixels",
     "setup/start_training/1/iterations:500": "start of a training of 20 rows",
     "setup/start_training/2/iterations:500": "start of a saved training of 20 rows",
@@ -33,6 +34,10 @@ TITLES = {
     "tasks/one_long_run": "simulated tasks, try-out of 20,000",
     "tasks/trainings": "simulated tasks, trainings",
     "tasks/exams": "simulated tasks, exams",
+    "tasks/write_heard": "simulated tasks, heard and written",
+    "tasks/write_named": "simulated tasks, named and written",
+    "tasks/write_trainings": "simulated tasks, trainings of writing",
+    "tasks/identify_seen": "simulated tasks, seen and named",
     "record/save_10000_lessons": "saving a record of 10,000 lessons",
 }
 
