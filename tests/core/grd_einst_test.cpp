@@ -72,18 +72,6 @@ TEST(GrdEinst, AnotherBranchFallsBackToTheDetermineType) {
     EXPECT_EQ(start.p.zustand.ueb_typ, 1) << "also when the branch was chosen already";
 }
 
-TEST(GrdEinst, GoesOnToTheSetUpFormOfItsBranch) {
-    for (const int branch : {0, 1}) {
-        StartForm start;
-        start.open();
-        start.branch(branch).click();
-        start.control<form::Button>("cmdOK").click();
-        EXPECT_FALSE(start.form().visible());
-        EXPECT_NE(start.p.forms.loaded(branch == 0 ? "einstellung1" : "einstellung1b"), nullptr);
-        EXPECT_EQ(start.p.forms.loaded(branch == 1 ? "einstellung1" : "einstellung1b"), nullptr);
-    }
-}
-
 TEST(GrdEinst, HandsOverToTheHostWhenNoFormIsLeft) {
     StartForm start;
     start.open();

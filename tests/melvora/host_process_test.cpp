@@ -66,14 +66,6 @@ TEST_F(HostProcess, OfTwoHostsStartedAtOnceOneStays) {
     other.waitForFinished();
 }
 
-TEST_F(HostProcess, StartsOverASocketThatAKilledHostLeft) {
-    start();
-    kill();
-    EXPECT_TRUE(QFile::exists(socket()));
-    start();
-    EXPECT_FALSE(ask("LANG", "").isEmpty());
-}
-
 TEST_F(HostProcess, TellsWhatIsWrongAndEndsWithStatusTwo) {
     QFile file(data());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -85,6 +77,9 @@ TEST_F(HostProcess, TellsWhatIsWrongAndEndsWithStatusTwo) {
     const Row rows[] = {
         {"data folder is a file", {}, data().toStdString()},
         {"unknown option", {"--nonsense"}, "nonsense"},
+        {"option without its value", {"--start"}, "start"},
+        {"empty folder", {"--data", ""}, "data"},
+        {"value for a switch", {"--teacher=1"}, "teacher"},
         {"unknown module", {"--start", "zepha8"}, "zepha8"},
         {"two files", {"a.mvs", "b.mvs"}, "b.mvs"},
         {"no such file", {"nowhere.mvs"}, QDir::current().filePath("nowhere.mvs").toStdString()},

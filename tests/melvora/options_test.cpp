@@ -17,19 +17,5 @@ TEST(Options, TakeWhatTheHelpNames) {
         EXPECT_TRUE(helpText().contains(name)) << name;
 }
 
-TEST(Options, RefuseWhatCannotBeMeant) {
-    const QStringList lines[] = {{"melvora", "--sart", "zepha9"},
-                                 {"melvora", "--start"},
-                                 {"melvora", "--start", "zepha8"},
-                                 {"melvora", "a.mvs", "b.mvs"},
-                                 {"melvora", "--data", ""},
-                                 {"melvora", "--teacher=1"},
-                                 {"melvora", ""}};
-    for (const QStringList& line : lines) {
-        SCOPED_TRACE(line.join(' ').toStdString());
-        EXPECT_THROW(parseOptions(line), UsageError);
-    }
-}
-
 }  // namespace
 }  // namespace melvora

@@ -31,17 +31,13 @@ TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
     };
     const Row rows[] = {
         {"unknown key", "NONSENSE", Value("")},
-        {"empty key", "", Value("")},
         {"key in other case", "read", Value(Value::Array{"zepha9", "E1"})},
         {"very long key", QString(1'000'000, 'x'), Value("")},
         {"unknown type", "LANG", {}},
-        {"read of nothing", "READ", Value()},
         {"read of a text", "READ", Value("zepha9")},
         {"read without key", "READ", Value(Value::Array{"zepha9"})},
         {"read with a number for a key", "READ", Value(Value::Array{"zepha9", 1})},
-        {"read with an empty key", "READ", Value(Value::Array{"zepha9", ""})},
         {"read with an array for a name", "READ", Value(Value::Array{Value::Array{}, "E1"})},
-        {"store without record", "STORE", Value(Value::Array{"zepha9", "E1"})},
         {"store of a text", "STORE", Value(Value::Array{"zepha9", "E1", "text"})},
         {"store of 50 MB", "STORE",
          Value(Value::Array{"zepha9", "E1", Value::Array{std::string(50 << 20, 'x'), 1}})},

@@ -1,6 +1,5 @@
 #include "synth/synth_output.h"
 
-#include "synth/loader.h"
 #include "synth/mail.h"
 #include "synth/sound_meter.h"
 
@@ -169,21 +168,6 @@ TEST(SynthOutput, FileHoldsTheWholeQueueAfterItsLeadIn) {
     std::filesystem::remove(options.audioFile);
 }
 
-TEST(SynthOutput, VolumeIsFullAfterOpeningAndKeepsToItsRange) {
-    Drill drill(unpaced("none"));
-    EXPECT_EQ(drill.output->volumeLeft(), 0) << "closed";
-    drill.output->open(99);
-    EXPECT_TRUE(drill.output->isOpen());
-    EXPECT_EQ(drill.output->volumeLeft(), MidiOutput::maxVolume);
-    drill.output->setVolume(-500, 70000);
-    EXPECT_EQ(drill.output->volumeLeft(), 0);
-    EXPECT_EQ(drill.output->volumeRight(), MidiOutput::maxVolume);
-    drill.output->close();
-    drill.output->open(MidiOutput::mapper);
-    EXPECT_EQ(drill.output->volumeLeft(), MidiOutput::maxVolume);
-    EXPECT_EQ(drill.output->device(MidiOutput::mapper).technology, 5);
-}
-
 TEST(SynthOutput, LostDeviceIsToldTheQueueEndsAndTheNextOpeningFindsItAgain) {
     std::atomic<bool> plugged{true};
     std::atomic<int> opened{0};
@@ -201,12 +185,15 @@ TEST(SynthOutput, LostDeviceIsToldTheQueueEndsAndTheNextOpeningFindsItAgain) {
     ASSERT_TRUE(drill.hasEnded());
     EXPECT_EQ(drill.output->problem(), SoundProblem::DeviceLost);
     plugged = true;
+    drill.output->setVolume(-500, 70000);
+    EXPECT_EQ(drill.output->volumeLeft(), 0) << "kept to its range";
     drill.output->close();
     drill.output->open(MidiOutput::mapper);
     drill.queueNotes(1, 100);
     drill.output->start();
     ASSERT_TRUE(drill.mail.runUntil([&] { return drill.ends == 2; }));
     EXPECT_EQ(drill.problems, (std::vector{SoundProblem::DeviceLost, SoundProblem::None}));
+    EXPECT_EQ(drill.output->volumeLeft(), MidiOutput::maxVolume) << "full after opening";
     EXPECT_EQ(opened, 2) << "reopening in between keeps the device";
 }
 
@@ -231,15 +218,4 @@ TEST(SynthOutput, ServerThatHangsHoldsUpNeitherTheQueueNorTheEnd) {
     release->set_value();
     for (int i = 0; i < 100 && latecomer.use_count() > 1; ++i) std::this_thread::sleep_for(20ms);
     EXPECT_EQ(latecomer.use_count(), 1) << "a device that comes too late is closed again";
-}
-
-TEST(SynthOutput, LoadableLibraryPlaysToo) {
-    Mail mail;
-    const auto output = synth::loadSynthOutput(mail.post());
-    int ends = 0;
-    output->queueEmpty = [&] { ++ends; };
-    output->open(MidiOutput::mapper);
-    for (const auto& event : note(0, 60, 0, 50)) output->queue(event);
-    output->start();
-    EXPECT_TRUE(mail.runUntil([&] { return ends == 1; }));
 }
