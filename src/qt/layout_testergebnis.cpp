@@ -150,6 +150,7 @@ void layoutTestergebnis(FormWindow& window) {
     actions->addWidget(ok);
     page->addWidget(buttons);
     window.openWith({860, 620});
+    ok->setFocus();
 }
 
 }  // namespace qt

@@ -253,6 +253,8 @@ void StaffWidget::changeEvent(QEvent* event) {
     if (event->type() != QEvent::EnabledChange) return;
     // A task that closes takes the accidental out of the user's hand.
     if (!isEnabled()) QDrag::cancel();
+    // Who writes by keys can begin as soon as the staff is open.
+    if (isEnabled() && surface_.onTaste) setFocus(Qt::OtherFocusReason);
     update();
 }
 

@@ -148,6 +148,75 @@ class Road(unittest.TestCase):
         tasks = [sum(float(t) for t in s[30:-3:4]) for s in (state, later)]
         self.assertEqual(tasks, [1, 2], "the second start took up the table of the first")
 
+    def choose(self, theory, write):
+        """From the start form to the set-up form of a branch and kind: its window, its kind."""
+        start = self.window("Scales: Basic settings")
+        for wanted, x in ((theory, 104), (write, 328)):
+            self.tool("mousemove", "--window", start, str(x), "224" if wanted else "192", "click", "1")
+            time.sleep(0.2)
+        self.key("Return")
+        kind = "Write scales" if write else "Identify scales"
+        return self.window(f"{kind}: Setup"), kind
+
+    def drag(self, window, source, target):
+        self.tool("mousemove", "--window", window, *map(str, source))
+        self.tool("mousedown", "1")
+        for step in range(1, 9):
+            self.tool("mousemove", "--window", window, *(
+                str(int(a + (b - a) * step / 8)) for a, b in zip(source, target)))
+            time.sleep(0.06)
+        time.sleep(0.2)
+        self.tool("mouseup", "1")
+        time.sleep(0.4)
+
+    def test_a_dragged_accidental_changes_the_note_and_can_be_handed_in(self):
+        self.host("--start", "zepha9")
+        _, kind = self.choose(False, True)
+        self.key("Return")
+        sheet = self.window(f"^{kind}$")
+        self.key("Return")
+        time.sleep(13)
+        self.key("Return", "Return")  # handed in as it stands; a second time nothing happens
+        for height in (177, 260):  # between the limits of the bass, and of the treble staff
+            self.drag(sheet, (552, 48), (623, height))
+        self.key("Return", "Escape")
+        self.window(f"{kind}: Setup")
+        self.key("Escape")
+        self.window("Scales: Basic settings")
+        self.key("Escape")
+        results = until("a result", lambda: self.rows("SELECT content FROM results"))
+        self.assertEqual(results[0][0].count('key="Antwort"'), 2, results[0][0])
+
+    def test_music_theory_from_the_menu_to_its_results_and_back(self):
+        self.host("--start", "zepha9")
+        for write in (False, True):
+            setup, kind = self.choose(True, write)
+            self.tool("mousemove", "--window", setup, "820", "62", "click", "1")
+            time.sleep(0.5)
+            self.key("Down", "Return", "Return")
+            self.window(f"^{'Write' if write else 'Identify'} scales$")
+            self.key("Return")
+            for _ in range(60):  # until the training is lost
+                if write:
+                    for change in ("Up", "Up", "Down", "Down"):
+                        self.tool("key", "--delay", "40", change, "Return")
+                else:
+                    self.tool("key", "--delay", "25", *"7654321")
+                self.tool("key", "--delay", "40", "Return")  # on, or to the result
+                time.sleep(0.6)
+                if self.tool("search", "--onlyvisible", "--name", "scales: Result"):
+                    break
+            self.window("scales: Result")
+            self.key("Return")
+            self.window(f"{kind}: Setup")
+            self.key("Escape")
+        self.window("Scales: Basic settings")
+        self.key("Escape")
+        self.window("Melvora")
+        results = until("both results", lambda: self.rows("SELECT exercise FROM results")[1:])
+        self.assertEqual(len(results), 1)
+        self.assertFalse(self.wav.exists(), "nothing sounded")
+
     def test_a_settings_file_leads_to_its_form(self):
         file = self.home / "exam.mvs"
         file.write_bytes(b"""<?xml version="1.0" encoding="ISO-8859-1" ?>
