@@ -81,9 +81,10 @@ void UsersPage::showUsers() {
         if (!host_.store().trainings.of(nobody).isEmpty()) users_.append({nobody, {}, {}, {}});
         QList<QStringList> rows;
         for (const User& user : users_)
-            rows.append({user.key == nobody ? nameOf(user) : user.surname, user.firstName,
-                         user.matriculation,
-                         user.key == host_.userKey() ? user.key + "  ✓" : user.key});
+            rows.append(user.key == nobody
+                            ? QStringList{nameOf(user), {}, {}, "–"}
+                            : QStringList{user.surname, user.firstName, user.matriculation,
+                                          user.key + (user.key == host_.userKey() ? "  ✓" : "")});
         table_->setRows(rows);
         choose(before);
     });

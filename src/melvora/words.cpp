@@ -63,7 +63,9 @@ QString Words::moment(const QDateTime& moment) const {
     const QLocale standard(suffix == "en" ? QString("en_GB") : suffix);
     const QLocale system = QLocale::system();
     const QLocale& locale = system.language() == standard.language() ? system : standard;
-    return locale.toString(moment.toLocalTime(), QLocale::ShortFormat);
+    QString format = locale.dateTimeFormat(QLocale::ShortFormat);
+    if (!format.contains("yyyy")) format.replace("yy", "yyyy");
+    return locale.toString(moment.toLocalTime(), format);
 }
 
 }  // namespace melvora

@@ -28,7 +28,8 @@ class Words {
 
     /// Text by number; "VOID" when the language lacks it.
     QString wort(int number) const;
-    /// Local date and time in the language's short format; a dash for an invalid moment.
+    /// Local date and time in the language's short format, the year in full; a dash for an invalid
+    /// moment.
     QString moment(const QDateTime& moment) const;
 
   private:

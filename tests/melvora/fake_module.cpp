@@ -1,12 +1,14 @@
 // A module that does what the variable FAKE_MODULE says: "run" leaves a result record in the spool
 // folder and hands over to the host, "crash" dies, "vanish" ends without a word, "stay" stays as
-// long as its host. All but the one that dies tell the log their arguments and what the host says
-// of them. Ends with status 4 when the host does not answer.
+// long as its host, "stranger" goes on as another user. All but the one that dies tell the log
+// their arguments and what the host says of them. Ends with status 4 when the host does not answer.
 #include "hostlink/dbus_host.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QThread>
+
+#include <unistd.h>
 
 #include <csignal>
 #include <string>
@@ -39,6 +41,7 @@ int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     const QString task = qEnvironmentVariable("FAKE_MODULE");
     if (task == "crash") raise(SIGKILL);
+    if (task == "stranger" && setuid(65534) != 0) return 3;
     try {
         return act(task, QCoreApplication::arguments().mid(1));
     } catch (const core::HostGone&) {
