@@ -27,6 +27,7 @@ MainWindow::MainWindow(Host& host)
     }
     retranslate();
     fill(Start);
+    pages_[Start]->setFocus();
     resize(sizeHint().expandedTo(
         {100 * fontMetrics().averageCharWidth(), 36 * fontMetrics().height()}));
 

@@ -71,7 +71,7 @@ StartPage::StartPage(Host& host, QWidget* parent)
     connect(&host_, &Host::moduleStarted, this, &StartPage::showModule);
     connect(&host_, &Host::moduleEnded, this, &StartPage::showModule);
     QTimer::singleShot(0, this, &StartPage::showMidiDevices);
-    start_->setFocus();
+    setFocusProxy(start_);
 }
 
 void StartPage::layOut() {

@@ -13,6 +13,9 @@ using form::Aspect;
 
 namespace {
 
+/// Room beside the text of a button, in addition to the style's.
+constexpr int air = 14;
+
 /// An ampersand in a caption is a letter, not a mark for a key.
 QString captionOf(const form::Control& control) {
     return QString::fromStdString(control.caption()).trimmed().replace('&', QStringLiteral("&&"));
@@ -27,7 +30,10 @@ QPushButton* Binder::pushButton(C& control) {
     button->setMinimumHeight(32);
     button->setAutoDefault(false);
     const auto show = [&control, button](Aspect aspect) {
-        if (aspect == Aspect::Caption) button->setText(captionOf(control));
+        if (aspect == Aspect::Caption) {
+            button->setText(captionOf(control));
+            button->setMinimumWidth(button->sizeHint().width() + air);
+        }
         if (aspect == Aspect::Colour)
             look::colours(*button, colour(control.foreColour()), colour(control.backColour()));
     };
