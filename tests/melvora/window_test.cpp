@@ -95,7 +95,9 @@ TEST_F(WindowTest, GoesAwayWhileTheModuleRunsAndComesBackWithTheReasonOfItsDeath
     ASSERT_EQ(notices.size(), 1);
     bool wasHidden = false;
     QObject::connect(&host_, &Host::moduleStarted, [&] { wasHidden = window_.isHidden(); });
-    host_.startModule("zepha9");
+    auto* wayOn = qobject_cast<QAbstractButton*>(window_.focusWidget());
+    ASSERT_TRUE(wayOn) << "Enter starts the module";
+    wayOn->click();
     until([&] { return wasHidden && window_.isVisible(); });
     EXPECT_TRUE(wasHidden);
     EXPECT_TRUE(window_.isVisible());
