@@ -1,4 +1,5 @@
 #include "hostlink/dbus_host.h"
+#include "look/fonts_ahead.h"
 #include "look/look.h"
 #include "melvora/main_window.h"
 #include "melvora/options.h"
@@ -144,6 +145,7 @@ bool answersAtOnce(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (answersAtOnce(argc, argv)) return 0;
+    const std::jthread fonts = look::readFontsAhead();
     QApplication application(argc, argv);
     QApplication::setApplicationName("melvora");
     QApplication::setApplicationDisplayName("Melvora");

@@ -4,7 +4,6 @@
 
 #include <QGridLayout>
 #include <QSignalBlocker>
-#include <QTimer>
 
 namespace melvora {
 
@@ -70,7 +69,6 @@ StartPage::StartPage(Host& host, QWidget* parent)
     connect(&host_, &Host::usersChanged, this, &StartPage::showUsers);
     connect(&host_, &Host::moduleStarted, this, &StartPage::showModule);
     connect(&host_, &Host::moduleEnded, this, &StartPage::showModule);
-    QTimer::singleShot(0, this, &StartPage::showMidiDevices);
     setFocusProxy(start_);
 }
 

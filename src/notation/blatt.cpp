@@ -18,6 +18,21 @@ Fall(F...) -> Fall<F...>;
 
 constexpr Rechteck ueberall{-10000, -10000, 20000, 20000};
 
+Rechteck linienRahmen(int x1, int y1, int x2, int y2) {
+    return {std::min(x1, x2), std::min(y1, y2), std::max(std::abs(x2 - x1), 1),
+            std::max(std::abs(y2 - y1), 1)};
+}
+
+Rechteck figurenRahmen(Figur figur, int x, int y) {
+    int links = 1000, oben = 1000, rechts = -1000, unten = -1000;
+    for (const Strich& s : figur)
+        jederPunkt(s, [&](int px, int py) {
+            links = std::min(links, px), rechts = std::max(rechts, px + 1);
+            oben = std::min(oben, py), unten = std::max(unten, py + 1);
+        });
+    return linienRahmen(x + links, y + oben, x + rechts, y + unten);
+}
+
 }  // namespace
 
 void Blatt::ablegen(const Zug& zug) {
@@ -40,60 +55,43 @@ void Blatt::leeren() {
 }
 
 void Blatt::fuellen(const Rechteck& r, Colour farbe) {
-    std::erase_if(gemaltes_, [&](const Gemaltes& g) { return r.enthaelt(rahmen(g)); });
-    dazu(Fuellung{r, farbe});
+    std::erase_if(gemaltes_, [&](const Gemaltes& g) { return r.enthaelt(g.rahmen); });
+    dazu(Fuellung{r, farbe}, r);
 }
 
 void Blatt::linie(int x1, int y1, int x2, int y2, Colour farbe, Linienart art) {
-    std::erase_if(gemaltes_, [&](const Gemaltes& g) {
-        const auto* l = std::get_if<Linie>(&g);
-        return l && l->x1 == x1 && l->y1 == y1 && l->x2 == x2 && l->y2 == y2 && l->art == art;
+    const Rechteck rahmen = linienRahmen(x1, y1, x2, y2);
+    ersetzen(rahmen, [&](const Strichzug& zug) {
+        const auto* l = std::get_if<Linie>(&zug);
+        return l && l->art == art;
     });
-    dazu(Linie{x1, y1, x2, y2, farbe, art});
+    dazu(Linie{x1, y1, x2, y2, farbe, art}, rahmen);
 }
 
 void Blatt::figur(Figur figur, int x, int y, Colour farbe) {
-    std::erase_if(gemaltes_, [&](const Gemaltes& g) {
-        const auto* f = std::get_if<Form>(&g);
-        return f && f->x == x && f->y == y && f->figur.data() == figur.data() &&
-               f->figur.size() == figur.size();
+    const Rechteck rahmen = figurenRahmen(figur, x, y);
+    ersetzen(rahmen, [&](const Strichzug& zug) {
+        const auto* f = std::get_if<Form>(&zug);
+        return f && f->figur.data() == figur.data() && f->figur.size() == figur.size();
     });
-    dazu(Form{figur, x, y, farbe});
+    dazu(Form{figur, x, y, farbe}, rahmen);
 }
 
-void Blatt::kurve(Kurve kurve, int x, int y, Colour farbe) { dazu(Bogen{kurve, x, y, farbe}); }
+void Blatt::kurve(Kurve kurve, int x, int y, Colour farbe) {
+    dazu(Bogen{kurve, x, y, farbe}, ueberall);
+}
 
 void Blatt::scheibe(double x, double y, double radius, Colour farbe) {
-    dazu(Scheibe{x, y, radius, farbe});
+    dazu(Scheibe{x, y, radius, farbe}, ueberall);
 }
 
 void Blatt::text(int x, int y, std::string_view text, Colour farbe) {
-    dazu(Text{x, y, std::string(text), farbe});
+    dazu(Text{x, y, std::string(text), farbe}, ueberall);
 }
 
-void Blatt::dazu(Gemaltes g) {
-    gemaltes_.push_back(std::move(g));
+void Blatt::dazu(Strichzug zug, const Rechteck& rahmen) {
+    gemaltes_.push_back({std::move(zug), rahmen});
     tell(form::Aspect::Picture);
-}
-
-Rechteck Blatt::rahmen(const Gemaltes& g) {
-    const auto ausEcken = [](int x1, int y1, int x2, int y2) {
-        return Rechteck{std::min(x1, x2), std::min(y1, y2), std::max(std::abs(x2 - x1), 1),
-                        std::max(std::abs(y2 - y1), 1)};
-    };
-    return std::visit(Fall{[](const Fuellung& f) { return f.r; },
-                           [&](const Linie& l) { return ausEcken(l.x1, l.y1, l.x2, l.y2); },
-                           [&](const Form& f) {
-                               int links = 1000, oben = 1000, rechts = -1000, unten = -1000;
-                               for (const Strich& s : f.figur)
-                                   jederPunkt(s, [&](int x, int y) {
-                                       links = std::min(links, x), rechts = std::max(rechts, x + 1);
-                                       oben = std::min(oben, y), unten = std::max(unten, y + 1);
-                                   });
-                               return ausEcken(f.x + links, f.y + oben, f.x + rechts, f.y + unten);
-                           },
-                           [](const auto&) { return ueberall; }},
-                      g);
 }
 
 void Blatt::zeigen(Flaeche& ziel) const {
@@ -104,7 +102,7 @@ void Blatt::zeigen(Flaeche& ziel) const {
                         [&](const Bogen& b) { ziel.kurve(b.kurve, b.x, b.y, b.farbe); },
                         [&](const Scheibe& s) { ziel.scheibe(s.x, s.y, s.radius, s.farbe); },
                         [&](const Text& t) { ziel.text(t.x, t.y, t.text, t.farbe); }},
-                   g);
+                   g.zug);
 }
 
 }  // namespace notation

@@ -93,10 +93,23 @@ class Blatt final : public form::Control, public Flaeche {
         std::string text;
         Colour farbe;
     };
-    using Gemaltes = std::variant<Fuellung, Linie, Form, Bogen, Scheibe, Text>;
-    /// Pixels that something may touch; for curves and texts more than any wipe takes.
-    static Rechteck rahmen(const Gemaltes& g);
-    void dazu(Gemaltes g);
+    using Strichzug = std::variant<Fuellung, Linie, Form, Bogen, Scheibe, Text>;
+    /// What was drawn, and the pixels that it may touch; for curves and texts more than any wipe
+    /// takes.
+    struct Gemaltes {
+        Strichzug zug;
+        Rechteck rahmen;
+    };
+    void dazu(Strichzug zug, const Rechteck& rahmen);
+    /// Takes out what covers just these pixels and is alike; there is at most one.
+    template <class Gleich>
+    void ersetzen(const Rechteck& rahmen, Gleich gleich) {
+        for (auto g = gemaltes_.rbegin(); g != gemaltes_.rend(); ++g)
+            if (g->rahmen == rahmen && gleich(g->zug)) {
+                gemaltes_.erase(std::next(g).base());
+                return;
+            }
+    }
 
     std::vector<Gemaltes> gemaltes_;
 };

@@ -1,5 +1,6 @@
 #include "drill/drill.h"
 #include "hostlink/dbus_host.h"
+#include "look/fonts_ahead.h"
 #include "look/look.h"
 #include "qt/dialogs.h"
 #include "qt/help.h"
@@ -43,6 +44,7 @@ core::Aufruf aufruf(const QStringList& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    const std::jthread fonts = look::readFontsAhead();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("zepha9"));
     QApplication::setApplicationVersion(QStringLiteral(MELVORA_VERSION));
