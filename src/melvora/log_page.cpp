@@ -50,7 +50,7 @@ void LogPage::showLines() {
         const Words& words = host_.words();
         QList<QStringList> rows;
         for (const LogLine& line : host_.store().log.lines(filter))
-            rows.append({line.time.toString("yyyy-MM-dd HH:mm:ss"), line.user,
+            rows.append({line.time.toString("yyyy-MM-dd HH:mm:ss"), shownKey(line.user),
                          words.wort(line.kind == LogKind::Error ? 940 : 939), line.text});
         table_->setRows(rows);
     });

@@ -1,5 +1,7 @@
 #include "melvora/record_html.h"
 
+#include "melvora/users.h"
+
 namespace melvora {
 
 namespace {
@@ -34,7 +36,8 @@ QString shareText(const Words& words, int right, int answered) {
 
 QString recordHtml(const Words& words, const ResultRecord& record) {
     QString html = "<table>" + pair(words.wort(930), record.exercise) +
-                   pair(words.wort(929), record.timestamp) + pair(words.wort(959), record.user) +
+                   pair(words.wort(929), record.timestamp) +
+                   pair(words.wort(959), shownKey(record.user)) +
                    pair(words.wort(931), shareText(words, record.rightFirst(), record.answered())) +
                    "</table>";
     if (!record.settings.isEmpty()) {

@@ -64,6 +64,8 @@ QString Users::proposeKey(const QString& surname, const QString& firstName) cons
     return key;
 }
 
+QString shownKey(const QString& key) { return key == nobody ? QString("–") : key; }
+
 bool isAllowedKey(const QString& key) {
     return !key.isEmpty() && key.trimmed() == key && key.compare(nobody, Qt::CaseInsensitive) != 0;
 }

@@ -41,6 +41,9 @@ class Users {
     Database& database_;
 };
 
+/// How tables show a user's key: a dash for nobody.
+QString shownKey(const QString& key);
+
 /// A key may be anything but empty, "unbekannt" in any case, or framed by blanks.
 bool isAllowedKey(const QString& key);
 

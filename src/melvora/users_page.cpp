@@ -82,7 +82,7 @@ void UsersPage::showUsers() {
         QList<QStringList> rows;
         for (const User& user : users_)
             rows.append(user.key == nobody
-                            ? QStringList{nameOf(user), {}, {}, "–"}
+                            ? QStringList{nameOf(user), {}, {}, shownKey(user.key)}
                             : QStringList{user.surname, user.firstName, user.matriculation,
                                           user.key + (user.key == host_.userKey() ? "  ✓" : "")});
         table_->setRows(rows);
