@@ -249,6 +249,7 @@
 <message id="885s"><translation>Doppelkreuz</translation></message>
 <message id="886s"><translation>Tasten: 1–0 antworten, Eingabe geht weiter, Esc verlässt</translation></message>
 <message id="887s"><translation>Hinweis</translation></message>
+<message id="888s"><translation>Tasten: Pfeile schreiben, 1–5 und Eingabe setzen, Eingabe: fertig und weiter, Esc verlässt</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Ergebnisse</translation></message>
 <message id="902s"><translation>Protokoll</translation></message>

@@ -249,6 +249,7 @@
 <message id="885s"><translation>double sharp</translation></message>
 <message id="886s"><translation>Keys: 1–0 answer, Enter goes on, Esc leaves</translation></message>
 <message id="887s"><translation>Hint</translation></message>
+<message id="888s"><translation>Keys: arrows write, 1–5 and Enter put down, Enter: done and on, Esc leaves</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Results</translation></message>
 <message id="902s"><translation>Log</translation></message>

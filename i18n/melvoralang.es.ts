@@ -188,7 +188,7 @@
 <message id="824s"><translation>No</translation></message>
 <message id="825s"><translation>Materia</translation></message>
 <message id="826s"><translation>Teclas: 1–0 responder, Espacio repite, Intro continúa, Esc sale</translation></message>
-<message id="827s"><translation>Marcas de grado</translation></message>
+<message id="827s"><translation>Tonos y semitonos</translation></message>
 <message id="828s"><translation>El ejercicio no puede realizarse: repetiría siempre la misma tarea. Elija más escalas, una armadura variable o un ámbito mayor.</translation></message>
 <message id="829s"><translation>Leer ajustes</translation></message>
 <message id="830s"><translation>Guardar ajustes</translation></message>
@@ -249,6 +249,7 @@
 <message id="885s"><translation>doble sostenido</translation></message>
 <message id="886s"><translation>Teclas: 1–0 responden, Intro sigue, Esc sale</translation></message>
 <message id="887s"><translation>Indicación</translation></message>
+<message id="888s"><translation>Teclas: flechas escriben, 1–5 e Intro colocan, Intro: terminado y seguir, Esc sale</translation></message>
 <message id="900s"><translation>Inicio</translation></message>
 <message id="901s"><translation>Resultados</translation></message>
 <message id="902s"><translation>Registro</translation></message>

@@ -188,7 +188,7 @@
 <message id="824s"><translation>Non</translation></message>
 <message id="825s"><translation>Matière</translation></message>
 <message id="826s"><translation>Touches : 1–0 répondre, Espace répète, Entrée continue, Échap quitte</translation></message>
-<message id="827s"><translation>Repères des pas</translation></message>
+<message id="827s"><translation>Tons et demi-tons</translation></message>
 <message id="828s"><translation>L’exercice est impossible ainsi : il répéterait toujours la même question. Choisissez plus de gammes, une armure variable ou un ambitus plus grand.</translation></message>
 <message id="829s"><translation>Lire les réglages</translation></message>
 <message id="830s"><translation>Enregistrer les réglages</translation></message>
@@ -249,6 +249,7 @@
 <message id="885s"><translation>double dièse</translation></message>
 <message id="886s"><translation>Touches : 1–0 répondent, Entrée continue, Échap quitte</translation></message>
 <message id="887s"><translation>Indication</translation></message>
+<message id="888s"><translation>Touches : flèches écrivent, 1–5 et Entrée posent, Entrée : terminé et suite, Échap quitte</translation></message>
 <message id="900s"><translation>Accueil</translation></message>
 <message id="901s"><translation>Résultats</translation></message>
 <message id="902s"><translation>Journal</translation></message>

@@ -10,7 +10,7 @@ Arbeitsblatt4b::Arbeitsblatt4b(core::Programm& programm, sound::Midi& midi,
 
 void Arbeitsblatt4b::AntwortenVorbereiten() {
     SchreibBlatt::AntwortenVorbereiten();
-    Label2.caption = Wort(802);
+    beschriften({{Label2, 802}, {tasten, 888}});
     aufg.caption = "";
 }
 

@@ -51,30 +51,18 @@ void Blatt::taste(Schreibtaste taste) {
 
 void Blatt::leeren() {
     gemaltes_.clear();
+    aufgeraeumt_ = 0;
     tell(form::Aspect::Picture);
 }
 
-void Blatt::fuellen(const Rechteck& r, Colour farbe) {
-    std::erase_if(gemaltes_, [&](const Gemaltes& g) { return r.enthaelt(g.rahmen); });
-    dazu(Fuellung{r, farbe}, r);
-}
+void Blatt::fuellen(const Rechteck& r, Colour farbe) { dazu(Fuellung{r, farbe}, r); }
 
 void Blatt::linie(int x1, int y1, int x2, int y2, Colour farbe, Linienart art) {
-    const Rechteck rahmen = linienRahmen(x1, y1, x2, y2);
-    ersetzen(rahmen, [&](const Strichzug& zug) {
-        const auto* l = std::get_if<Linie>(&zug);
-        return l && l->art == art;
-    });
-    dazu(Linie{x1, y1, x2, y2, farbe, art}, rahmen);
+    dazu(Linie{x1, y1, x2, y2, farbe, art}, linienRahmen(x1, y1, x2, y2));
 }
 
 void Blatt::figur(Figur figur, int x, int y, Colour farbe) {
-    const Rechteck rahmen = figurenRahmen(figur, x, y);
-    ersetzen(rahmen, [&](const Strichzug& zug) {
-        const auto* f = std::get_if<Form>(&zug);
-        return f && f->figur.data() == figur.data() && f->figur.size() == figur.size();
-    });
-    dazu(Form{figur, x, y, farbe}, rahmen);
+    dazu(Form{figur, x, y, farbe}, figurenRahmen(figur, x, y));
 }
 
 void Blatt::kurve(Kurve kurve, int x, int y, Colour farbe) {
@@ -89,12 +77,42 @@ void Blatt::text(int x, int y, std::string_view text, Colour farbe) {
     dazu(Text{x, y, std::string(text), farbe}, ueberall);
 }
 
+/// Tidied when it has doubled, so that a stroke costs the same however many there are.
 void Blatt::dazu(Strichzug zug, const Rechteck& rahmen) {
+    constexpr std::size_t spielraum = 256;
     gemaltes_.push_back({std::move(zug), rahmen});
+    if (gemaltes_.size() > 2 * aufgeraeumt_ + spielraum) aufraeumen();
     tell(form::Aspect::Picture);
 }
 
+bool Blatt::gleich(const Gemaltes& a, const Gemaltes& b) {
+    if (!(a.rahmen == b.rahmen) || a.zug.index() != b.zug.index()) return false;
+    if (const auto* l = std::get_if<Linie>(&a.zug)) return l->art == std::get<Linie>(b.zug).art;
+    const auto* f = std::get_if<Form>(&a.zug);
+    return f && f->figur.data() == std::get<Form>(b.zug).figur.data() &&
+           f->figur.size() == std::get<Form>(b.zug).figur.size();
+}
+
+void Blatt::aufraeumen() const {
+    if (gemaltes_.size() == aufgeraeumt_) return;
+    std::vector<Rechteck> wischer;
+    auto bleibt = gemaltes_.end();
+    for (auto g = gemaltes_.end(); g != gemaltes_.begin();) {
+        --g;
+        const auto verdeckt = [&](const Rechteck& r) { return r.enthaelt(g->rahmen); };
+        const auto ersetzt = [&](const Gemaltes& spaeter) { return gleich(*g, spaeter); };
+        if (std::ranges::any_of(wischer, verdeckt) || std::any_of(bleibt, gemaltes_.end(), ersetzt))
+            continue;
+        if (std::holds_alternative<Fuellung>(g->zug)) wischer.push_back(g->rahmen);
+        --bleibt;
+        if (bleibt != g) *bleibt = std::move(*g);
+    }
+    gemaltes_.erase(gemaltes_.begin(), bleibt);
+    aufgeraeumt_ = gemaltes_.size();
+}
+
 void Blatt::zeigen(Flaeche& ziel) const {
+    aufraeumen();
     for (const Gemaltes& g : gemaltes_)
         std::visit(Fall{[&](const Fuellung& f) { ziel.fuellen(f.r, f.farbe); },
                         [&](const Linie& l) { ziel.linie(l.x1, l.y1, l.x2, l.y2, l.farbe, l.art); },

@@ -62,7 +62,10 @@ class Blatt final : public form::Control, public Flaeche {
     /// Draws what was drawn here, in the same order.
     void zeigen(Flaeche& ziel) const;
     /// Strokes, shapes and wipes that are kept.
-    int gemaltes() const { return static_cast<int>(gemaltes_.size()); }
+    int gemaltes() const {
+        aufraeumen();
+        return static_cast<int>(gemaltes_.size());
+    }
 
   private:
     struct Fuellung {
@@ -100,18 +103,14 @@ class Blatt final : public form::Control, public Flaeche {
         Strichzug zug;
         Rechteck rahmen;
     };
+    /// Drawn at the same place and in the same way, in whatever colour.
+    static bool gleich(const Gemaltes& a, const Gemaltes& b);
     void dazu(Strichzug zug, const Rechteck& rahmen);
-    /// Takes out what covers just these pixels and is alike; there is at most one.
-    template <class Gleich>
-    void ersetzen(const Rechteck& rahmen, Gleich gleich) {
-        for (auto g = gemaltes_.rbegin(); g != gemaltes_.rend(); ++g)
-            if (g->rahmen == rahmen && gleich(g->zug)) {
-                gemaltes_.erase(std::next(g).base());
-                return;
-            }
-    }
+    /// Takes out what can no longer be seen.
+    void aufraeumen() const;
 
-    std::vector<Gemaltes> gemaltes_;
+    mutable std::vector<Gemaltes> gemaltes_;
+    mutable std::size_t aufgeraeumt_ = 0;  ///< how many were left by the last tidying
 };
 
 }  // namespace notation

@@ -48,13 +48,13 @@ void Notenzeile::NotenzeileAufbauen(i16 tonAnz, const Umfang& umfang, std::optio
     for (const int s : {0, 1})
         PicB(s).lage = Rechteck{0, zeileOben.at(static_cast<std::size_t>(s)), breite, zeileHoehe};
     grenzen_[SchlZ_] = grenzenAuf(SchlZ_, umfang);
-    SpaltenZiffern();
+    PicBNot.leeren();
+    if (!mitSignatur_) SpaltenZiffern();  // columns that are written in
     NotenlinienMalen(SchlZ_);
     SignaturMalen(vz);
 }
 
 void Notenzeile::SpaltenZiffern() {
-    PicBNot.leeren();
     for (int i = 1; i <= 6; ++i)
         for (const int y : {0, halterHoehe - 14})
             PicBNot.text(lage_.ziffer(i), y, std::to_string(i), base::colours::black);

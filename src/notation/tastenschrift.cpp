@@ -26,7 +26,8 @@ void Tastenschrift::taste(Schreibtaste taste) {
         case Schreibtaste::Tief:
             return ablegen(hier - 1);
         case Schreibtaste::Ablegen:
-            return ablegen(inHand_);
+            ablegen(inHand_);
+            return nehmen(-1);
         case Schreibtaste::Eins:
         case Schreibtaste::Zwei:
         case Schreibtaste::Drei:

@@ -47,6 +47,10 @@ QWidget* writingArea(Binder& bind) {
     column->addWidget(bind("PicBNot"), 1);
     QWidget* hint = bind("HinweisMeldung");
     hint->setFixedHeight(12 * hint->fontMetrics().lineSpacing());
+    // The staff stays where it is when the hint goes.
+    QSizePolicy keeps = hint->sizePolicy();
+    keeps.setRetainSizeWhenHidden(true);
+    hint->setSizePolicy(keeps);
     column->addWidget(hint);
     return area;
 }

@@ -154,8 +154,9 @@ void Einstellung::start_timer() {
     writeHint(0);
     bereit_ = true;
     Beschriften();
-    cmdOptionRead.visible = p.aufruf.pruefEdit;
-    cmdOptionSave.visible = p.aufruf.pruefEdit;
+    const bool dateien = p.aufruf.pruefEdit && klingt();
+    cmdOptionRead.visible = dateien;
+    cmdOptionSave.visible = dateien;
     forms().show(name());
     StartdateiAnwenden();
 }

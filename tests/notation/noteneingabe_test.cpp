@@ -215,7 +215,7 @@ TEST(Keys, WriteThroughTheRulesOfADrop) {
                                -1,
                                -1},
                            Row{"taken in hand alone", {Vier}, 1, 0, 3},
-                           Row{"taken and dropped", {Rechts, Fuenf, Ablegen}, 2, 2, 4},
+                           Row{"taken and dropped once", {Rechts, Fuenf, Ablegen, Rechts, Ablegen}, 3, 0, -1},
                            Row{"nothing in hand", {Ablegen}, 1, 0, -1}}) {
         SCOPED_TRACE(row.name);
         Task task;
