@@ -1,6 +1,5 @@
 #include "melvora/collector.h"
 
-#include "melvora/result_record.h"
 #include "melvora/store.h"
 
 #include <QFile>
@@ -26,16 +25,6 @@ const QByteArray record = R"(<?xml version="1.0" encoding="utf-8"?>
   <lesson><properties/><answers/></lesson>
  </lessons>
 </exercise>)";
-
-TEST(ResultRecord, CountsTasksByTheirFirstAnswer) {
-    const auto read = parseResultRecord(record);
-    ASSERT_TRUE(read);
-    EXPECT_EQ(read->rightFirst(), 1);
-    EXPECT_EQ(read->answered(), 2);
-    EXPECT_EQ(read->lessons.size(), 3);
-    EXPECT_EQ(read->lessons[0].answers[1].seconds, "2,5");
-    EXPECT_EQ(read->settings.first(), qMakePair(QString("Tempo"), QString("90")));
-}
 
 class CollectorTest : public testing::Test {
   protected:
