@@ -18,12 +18,12 @@ using core::Value;
 using engine::AufgZustand;
 using sim::Writing;
 
-constexpr Session::Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{true, 4};
+constexpr Practice::Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{true, 4};
 
-struct Exercise : Session {
-    using Session::Session;
+struct Exercise : Practice {
+    using Practice::Practice;
 
-    Exercise(support::FakeHost& host, const Way& to, int mode) : Session(host, to) {
+    Exercise(support::FakeHost& host, const Way& to, int mode) : Practice(host, to) {
         combo("training_Combo").setListIndex(mode);
     }
     void begin() {

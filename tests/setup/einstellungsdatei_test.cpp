@@ -17,10 +17,10 @@ namespace fs = std::filesystem;
 struct Datei : ::testing::Test {
     support::FakeHost host;
     fs::path folder = fs::path(::testing::TempDir()) / "settings_test";
-    Session teacher{host,
-                    {.tempOrdner = "/nowhere",
-                     .stueckeOrdner = (folder / "Stuecke_Files").string(),
-                     .pruefEdit = true}};
+    Practice teacher{host,
+                     {.tempOrdner = "/nowhere",
+                      .stueckeOrdner = (folder / "Stuecke_Files").string(),
+                      .pruefEdit = true}};
 
     Datei() { fs::create_directories(folder); }
     ~Datei() override { fs::remove_all(folder); }
@@ -88,7 +88,7 @@ TEST_F(Datei, ReadBackOnAnotherMachineItSetsAndLocks) {
               "W841|" + (folder / "Stuecke_Files" / "VESHNA_Set_XX.mvs").string());
 
     support::FakeHost other;
-    Session pupil(other, {.tempOrdner = "/nowhere", .startdatei = file.string()});
+    Practice pupil(other, {.tempOrdner = "/nowhere", .startdatei = file.string()});
     EXPECT_EQ(pupil.z.skal_typ, 1);
     EXPECT_EQ(pupil.z.tempoIdx, 6);
     EXPECT_EQ(pupil.z.stimmung, 1);
@@ -127,7 +127,7 @@ TEST_F(Datei, TheFirstEntryThatIsNotOfferedEndsTheReading) {
          }) {
         SCOPED_TRACE(row.name);
         support::FakeHost fresh;
-        Session s(fresh);
+        Practice s(fresh);
         EinstellungenAnwenden(
             *s.drill.programm.forms.loaded("einstellung1"),
             EinstellungenLesenAus("<a:test><basic/>" + row.entry +

@@ -12,9 +12,9 @@ namespace {
 
 using core::Value;
 
-/// A session with a worksheet at work.
-struct Training : Session {
-    using Session::Session;
+/// A practice with a worksheet at work.
+struct Training : Practice {
+    using Practice::Practice;
 
     void begin() {
         button("cmdOK").click();

@@ -107,7 +107,7 @@ void expectInRange(const core::Zustand& z) {
 /// A settings file that a teacher wrote.
 std::string honestFile() {
     support::FakeHost host;
-    Session teacher(host, {.tempOrdner = "/tmp", .pruefEdit = true});
+    Practice teacher(host, {.tempOrdner = "/tmp", .pruefEdit = true});
     for (const int group : {0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 15}) {
         teacher.group(group).context();
         teacher.get<form::MenuEntry>("popExamToggle").click();
@@ -119,7 +119,7 @@ std::string honestFile() {
 
 /// A run of chosen scales on a host that keeps what it saved.
 void train(support::FakeHost& host, int mode) {
-    Session s(host, {.tempOrdner = "/tmp"});
+    Practice s(host, {.tempOrdner = "/tmp"});
     if (mode == 1) {
         s.option("ska_ausw", 1).click();
         for (const int code : {1, -1, 2, -2}) s.pick(code);
@@ -146,7 +146,7 @@ void train(support::FakeHost& host, int mode) {
 }
 
 void damagedFile(Mutator& mutate, const std::string& honest, support::FakeHost& host) {
-    Session s(host, {.tempOrdner = "/tmp"});
+    Practice s(host, {.tempOrdner = "/tmp"});
     EinstellungenAnwenden(*s.drill.programm.forms.loaded("einstellung1"),
                           EinstellungenLesenAus(mutate.text(honest)));
     expectInRange(s.z);

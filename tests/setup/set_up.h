@@ -11,7 +11,7 @@
 namespace setup::test {
 
 /// The drill with its set-up form open, on a host that may outlive it.
-struct Session {
+struct Practice {
     form::VirtualTime loop;
     support::FakeWords words;
     support::ScriptedDialogs dialogs;
@@ -32,9 +32,9 @@ struct Session {
     };
     const Way way;
 
-    explicit Session(support::FakeHost& host, core::Aufruf aufruf = somewhere())
-        : Session(host, Way{}, std::move(aufruf)) {}
-    Session(support::FakeHost& host, const Way& to, core::Aufruf aufruf = somewhere())
+    explicit Practice(support::FakeHost& host, core::Aufruf aufruf = somewhere())
+        : Practice(host, Way{}, std::move(aufruf)) {}
+    Practice(support::FakeHost& host, const Way& to, core::Aufruf aufruf = somewhere())
         : drill{{loop, dialogs, printer, help, [&host] { return host.connect(); }, &words},
                 std::move(aufruf),
                 midi,
@@ -82,8 +82,8 @@ struct Session {
 struct WithHost {
     support::FakeHost host;
 };
-struct SetUp : ::testing::Test, WithHost, Session {
-    SetUp() : Session(host) {}
+struct SetUp : ::testing::Test, WithHost, Practice {
+    SetUp() : Practice(host) {}
 };
 
 }  // namespace setup::test
