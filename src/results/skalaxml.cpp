@@ -79,9 +79,9 @@ void Skalaxml::SkalaXmlSichern(const std::vector<std::string>& liste) {
     try {
         base::writeWhole(datei_, text());
     } catch (const std::system_error& fehler) {
-        throw base::RuntimeError(base::ErrorNumber::PathAccess,
-                                 core::eingesetzt(p.Wort(815), datei_) + " (" +
-                                     fehler.code().message() + ")");
+        throw base::RuntimeError(
+            base::ErrorNumber::PathAccess,
+            core::eingesetzt(p.Wort(815), datei_) + " (" + fehler.code().message() + ")");
     }
 }
 

@@ -70,8 +70,8 @@ void Testergebnis::ErgebnisZeile(int i, int slot, const std::string& name) {
 
 /// The training keeps its scales sorted by weight: what has been missed most stands first.
 void Testergebnis::GewichteZeigen() {
-    const bool training = z.uebungsmodus == core::modus::training ||
-                          z.uebungsmodus == core::modus::fortsetzung;
+    const bool training =
+        z.uebungsmodus == core::modus::training || z.uebungsmodus == core::modus::fortsetzung;
     schwach_cont.visible = training;
     for (int i = 0; i < maxZeilen - 1; ++i) {
         const bool da = training && i + 1 < z.mathaeufgk_box.rows();

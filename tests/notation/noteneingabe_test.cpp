@@ -204,19 +204,20 @@ TEST(Keys, WriteThroughTheRulesOfADrop) {
         std::vector<Schreibtaste> keys;
         int column, accidental, inHand;
     };
-    for (const Row& row : {Row{"up", {Hoch}, 1, 1, -1}, Row{"up twice", {Hoch, Hoch}, 1, 2, -1},
-                           Row{"no further than a double sharp", {Hoch, Hoch, Hoch}, 1, 2, -1},
-                           Row{"up and down", {Hoch, Tief}, 1, 0, -1},
-                           Row{"the third column", {Rechts, Rechts, Tief}, 3, -1, -1},
-                           Row{"no further left than the first", {Links, Hoch}, 1, 1, -1},
-                           Row{"no further right than the sixth",
-                               {Rechts, Rechts, Rechts, Rechts, Rechts, Rechts, Rechts, Tief},
-                               6,
-                               -1,
-                               -1},
-                           Row{"taken in hand alone", {Vier}, 1, 0, 3},
-                           Row{"taken and dropped once", {Rechts, Fuenf, Ablegen, Rechts, Ablegen}, 3, 0, -1},
-                           Row{"nothing in hand", {Ablegen}, 1, 0, -1}}) {
+    for (const Row& row :
+         {Row{"up", {Hoch}, 1, 1, -1}, Row{"up twice", {Hoch, Hoch}, 1, 2, -1},
+          Row{"no further than a double sharp", {Hoch, Hoch, Hoch}, 1, 2, -1},
+          Row{"up and down", {Hoch, Tief}, 1, 0, -1},
+          Row{"the third column", {Rechts, Rechts, Tief}, 3, -1, -1},
+          Row{"no further left than the first", {Links, Hoch}, 1, 1, -1},
+          Row{"no further right than the sixth",
+              {Rechts, Rechts, Rechts, Rechts, Rechts, Rechts, Rechts, Tief},
+              6,
+              -1,
+              -1},
+          Row{"taken in hand alone", {Vier}, 1, 0, 3},
+          Row{"taken and dropped once", {Rechts, Fuenf, Ablegen, Rechts, Ablegen}, 3, 0, -1},
+          Row{"nothing in hand", {Ablegen}, 1, 0, -1}}) {
         SCOPED_TRACE(row.name);
         Task task;
         for (const Schreibtaste key : row.keys) task.staff.PicBNot.taste(key);

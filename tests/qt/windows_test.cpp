@@ -153,9 +153,9 @@ TEST(Windows, WidgetsTellTheFormAndFollowIt) {
 TEST(Help, HasAPageForEveryFormInEveryLanguage) {
     const qt::QtHelp help;  // brings the pages
     for (const char* language : {"de", "en", "es", "fr"})
-        for (const char* page : {"index", "grd_einst", "einstellung1", "einstellung1b", "frmSave",
-                                 "frmLoad", "arbeitsblatt1", "arbeitsblatt1b", "arbeitsblatt4",
-                                 "arbeitsblatt4b", "testergebnis"})
+        for (const char* page :
+             {"index", "grd_einst", "einstellung1", "einstellung1b", "frmSave", "frmLoad",
+              "arbeitsblatt1", "arbeitsblatt1b", "arbeitsblatt4", "arbeitsblatt4b", "testergebnis"})
             EXPECT_TRUE(QFile::exists(QString(":/help/%1/%2.html").arg(language, page)))
                 << language << " " << page;
 }
