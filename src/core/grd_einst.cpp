@@ -57,8 +57,8 @@ void GrdEinst::start_timer() {
     z.theoriewahl = 0;
     z.ueb_typ = 1;
     ueb_typ(1).choose();
-    for (int i = 0; i < z.tempo_dauer.size(); ++i)
-        z.tempo_dauer[i] = katalog::tempo_dauer[static_cast<std::size_t>(i)];
+    int tempo = 0;
+    for (const int dauer : katalog::tempo_dauer) z.tempo_dauer[tempo++] = dauer;
     Theoriewahl(1).enabled = forms().knows("einstellung1b");
     ueb_typ(4).enabled = forms().knows("arbeitsblatt4");
     forms().show(name());

@@ -9,7 +9,7 @@
 namespace melvora {
 
 QString Words::installedFolder() {
-    const QString given = qEnvironmentVariable("MELVORA_I18N");
+    QString given = qEnvironmentVariable("MELVORA_I18N");
     if (!given.isEmpty()) return given;
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../share/melvora/i18n");
 }

@@ -24,7 +24,7 @@ class FormWindow final : public QWidget {
   private:
     void follow();
     void open();
-    bool keyPressed(QWidget& widget, int key);
+    bool keyPressed(QWidget& widget, int pressed);
 
     form::Form& form_;
     Binder binder_;

@@ -88,7 +88,7 @@ void Testergebnis::GewichteZeigen() {
 void Testergebnis::EinstellungenZeigen() {
     const auto& liste = z.einst_liste;
     for (int i = 0; i < maxEinst; ++i) {
-        const auto k = static_cast<std::size_t>(2 * i + 1);
+        const std::size_t k = 2 * static_cast<std::size_t>(i) + 1;
         const bool da = k + 1 < liste.size();
         einst_lab(i).visible = da;
         einst_Inh(i).visible = da;

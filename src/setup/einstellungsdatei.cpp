@@ -201,7 +201,7 @@ Einstellungssatz EinstellungenLesenAus(const std::string& bytes) {
         for (const pugi::xml_node kind : dokument.document_element().first_child())
             if (kind.type() == pugi::node_element)
                 satz.kopf[std::string(grundname(kind))] = inhalt(kind);
-        jederKnoten(dokument, [&](pugi::xml_node& node) {
+        jederKnoten(dokument.root(), [&](pugi::xml_node& node) {
             if (node.type() == pugi::node_element && grundname(node) == "control")
                 satz.eintraege.push_back(eintragVon(node));
         });

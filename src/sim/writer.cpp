@@ -46,7 +46,8 @@ void writeScale(notation::SchreibBlatt& sheet, Writing how, base::Rnd& chance) {
     Accidentals accidentals = wanted(sheet);
     if (how == Writing::Enharmonic) misspell(accidentals, sheet.erwartung().akt_richtung);
     if (how == Writing::Wrong) {
-        int& one = accidentals[static_cast<std::size_t>(first + chance.below(last))];
+        int& one = accidentals.at(static_cast<std::size_t>(first) +
+                                  static_cast<std::size_t>(int(chance.below(last))));
         one = one > 0 ? one - 1 : one + 1;
     }
     for (int c = first; c <= last; ++c) drop(sheet, c, accidentals[static_cast<std::size_t>(c)]);
