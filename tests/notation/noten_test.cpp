@@ -94,34 +94,6 @@ TEST(Glyphs, LookAsTheyShould) {
         ".#####......#......######\n");
 }
 
-/// Extent of each glyph, its last rows and columns included.
-TEST(Glyphs, ReachAsFarAsTheirStrokes) {
-    struct Row {
-        const char* name;
-        void (*draw)(Flaeche&, i16, i16);
-        Rechteck extent;
-        int pixels;
-    };
-    for (const Row& row : {Row{"flat", BeMalen, {0, 1, 7, 21}, 43},
-                           Row{"double flat", DoppelBeMalen, {0, 1, 15, 21}, 86},
-                           Row{"sharp", KreuzMalen, {-1, 0, 6, 23}, 68},
-                           Row{"double sharp", DoppelKreuzMalen, {0, 0, 8, 8}, 40},
-                           Row{"natural", AufloesungMalen, {0, 1, 5, 22}, 52}}) {
-        SCOPED_TRACE(row.name);
-        const auto ink = [&](const Rechteck& part) {
-            const std::string picture = painted([&](Flaeche& f) { row.draw(f, 20, 20); }, part);
-            return std::ranges::count(picture, '#');
-        };
-        EXPECT_EQ(ink({-20, -20, 60, 60}), row.pixels);
-        const Rechteck& e = row.extent;
-        EXPECT_EQ(ink(e), row.pixels);
-        EXPECT_LT(ink({e.x + 1, e.y, e.breite - 1, e.hoehe}), row.pixels);
-        EXPECT_LT(ink({e.x, e.y + 1, e.breite, e.hoehe - 1}), row.pixels);
-        EXPECT_LT(ink({e.x, e.y, e.breite - 1, e.hoehe}), row.pixels);
-        EXPECT_LT(ink({e.x, e.y, e.breite, e.hoehe - 1}), row.pixels);
-    }
-}
-
 TEST(Head, LeavesOutItsTopRowInSpacesOfAStaffOnly) {
     struct Row {
         const char* name;
@@ -140,16 +112,6 @@ TEST(Head, LeavesOutItsTopRowInSpacesOfAStaffOnly) {
         EXPECT_EQ(surface.lines.size(), row.whole ? 8U : 7U);
         EXPECT_EQ(surface.lines.back().colour, base::colours::red);
     }
-}
-
-TEST(Colours, OfHeadsHaveATableOfTheirOwn) {
-    const base::Colour green = base::rgb(0, 128, 0), olive = base::rgb(192, 192, 0);
-    const std::array<base::Colour, 16> heads{
-        black, black, green, black, base::rgb(192, 0, 0), black, olive, black,
-        olive, black, olive, black, base::colours::red,   black, olive, black};
-    for (int i = 0; i < 16; ++i)
-        EXPECT_EQ(kopfFarbe(i), heads[static_cast<std::size_t>(i)]) << "colour " << i;
-    EXPECT_EQ(linienFarbe(farbe::grau), base::rgb(128, 128, 128));
 }
 
 TEST(Note, LedgerLinesAndStemFollowItsPlace) {
@@ -241,12 +203,6 @@ TEST(Outline, FollowsThePixelsOfEveryFigure) {
             }
         EXPECT_NEAR(area, pixels, pixels * 0.08);
     }
-}
-
-TEST(Sign, OfANumber) {
-    EXPECT_STREQ(VorzeichenZeichen(3), "+");
-    EXPECT_STREQ(VorzeichenZeichen(0), "-");
-    EXPECT_STREQ(VorzeichenZeichen(-3), "-");
 }
 
 }  // namespace

@@ -49,15 +49,6 @@ TEST(Layout, GivesEveryTaskCleanLinesAndItsClef) {
     }
 }
 
-TEST(Layout, BassBelowG4) {
-    form::Bench bench;
-    Notenzeile staff(bench.form);
-    staff.SchluesselWahl(66);
-    EXPECT_EQ(staff.SchlZ(), 1);
-    staff.SchluesselWahl(67);
-    EXPECT_EQ(staff.SchlZ(), 0);
-}
-
 TEST(Layout, AKeySignatureMovesTheColumns) {
     struct Row {
         const char* name;

@@ -123,14 +123,6 @@ TEST_F(SetUp, TheRecapTellsWhatWillBeRun) {
     EXPECT_FALSE(drill.programm.forms.loaded("einstellung1")->visible());
 }
 
-TEST_F(SetUp, ATestGoesOnByItself) {
-    combo("training_Combo").setListIndex(3);
-    EXPECT_EQ(z.abfrage, 0);
-    button("cmdOK").click();
-    EXPECT_EQ(z.abfrage, 1);
-    EXPECT_TRUE(option("abfrage", 1).value());
-}
-
 TEST_F(SetUp, TheSoundCheckPlaysTheRangeInTheTuning) {
     combo("temp_Combo").setListIndex(9);
     for (const int stimmung : {0, 2, 1}) {
