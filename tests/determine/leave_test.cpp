@@ -128,16 +128,5 @@ TEST(Fault, InADrawIsLoggedShownAndLeadsHome) {
     EXPECT_TRUE(drill.programm.forms.loaded("einstellung1")->visible());
 }
 
-TEST(Fault, ARecordThatCannotBeWrittenDoesNotKeepTheLearner) {
-    DrillFixture drill;
-    drill.run();
-    std::filesystem::remove_all(drill.folder);
-    drill.click("zurueck");
-    EXPECT_EQ(drill.sheet(), nullptr);
-    ASSERT_EQ(drill.host.faults.size(), 1U);
-    EXPECT_EQ(drill.host.faults[0].at(1), core::Value(75));
-    EXPECT_TRUE(drill.programm.forms.loaded("einstellung1")->visible());
-}
-
 }  // namespace
 }  // namespace determine

@@ -19,10 +19,6 @@ void doTask(DrillFixture& drill, bool right) {
         while (drill.answerWrong()) continue;
 }
 
-int flood(DrillFixture& drill) {
-    return static_cast<form::Panel&>(drill.control("matboxanz")).floodPercent();
-}
-
 /// The form is gone, its set-up form is back, nothing sounds and nothing was reported.
 void expectHome(DrillFixture& drill) {
     EXPECT_EQ(drill.sheet(), nullptr);
@@ -34,41 +30,6 @@ void expectHome(DrillFixture& drill) {
     EXPECT_TRUE(std::filesystem::exists(drill.wertung.xml.datei()));
     EXPECT_TRUE(drill.dialogs.messages.empty());
     EXPECT_TRUE(drill.host.faults.empty());
-}
-
-TEST(Training, APerfectLearnerReachesTheGoalAndAHopelessOneDoesNot) {
-    for (const bool right : {true, false}) {
-        SCOPED_TRACE(right);
-        DrillFixture drill(3);
-        drill.dismissResults();
-        drill.z.uebungsmodus = 1;
-        drill.run();
-        EXPECT_EQ(flood(drill), 50);
-        int tasks = 0;
-        while (drill.sheet()->aufgZustand() != AufgZustand::TrainingBeendet && tasks < 200) {
-            doTask(drill, right);
-            ++tasks;
-        }
-        // 14 codes of weight 4: a right answer takes 4 away, a lost one adds 8 and 1 for each of
-        // the four that it was confused with.
-        EXPECT_GE(tasks, right ? 14 : 5);
-        EXPECT_LE(tasks, right ? 120 : 5);
-        EXPECT_EQ(flood(drill), right ? 0 : 100);
-        EXPECT_FALSE(drill.control("ergebnis_anz", 0).visible());
-        EXPECT_EQ(drill.control("ergebnis_anz", 1).visible(), right);
-        EXPECT_EQ(drill.control("ergebnis_anz", 2).visible(), !right);
-        EXPECT_EQ(drill.caption("zurueck"), "W625");
-        EXPECT_FALSE(drill.control("CmdNextAufg").usable());
-        EXPECT_EQ(drill.host.records["zepha9/A1"], core::Value(core::Value::Array{"False"}));
-        auto& combo = *static_cast<form::Combo*>(
-            drill.programm.forms.loaded("einstellung1")->find("training_Combo"));
-        EXPECT_EQ(combo.item(2).text, core::keineFortsetzung);
-        EXPECT_EQ(combo.listIndex(), 1);
-        drill.click("zurueck");
-        expectHome(drill);
-        EXPECT_EQ(drill.rows.size(), 14U);
-        EXPECT_EQ(drill.total, right ? "100.0%" : "0.0%");
-    }
 }
 
 TEST(Training, AConfusedScaleComesUpMoreOften) {
@@ -136,23 +97,6 @@ TEST(Exam, EndsByTheClockAtAnyMoment) {
         expectHome(drill);
         EXPECT_EQ(drill.total, "0.0%");
     }
-}
-
-TEST(Exam, AFixedNumberGivesTheSameTasksWhateverWasBefore) {
-    const auto tasks = [](int modus, int seed) {
-        DrillFixture drill(seed);
-        drill.z.uebungsmodus = modus;
-        drill.z.zufallsNr = 17;
-        drill.run();
-        std::vector<int> drawn;
-        for (int n = 0; n < 10; ++n) {
-            doTask(drill, true);
-            drawn.push_back(drill.sheet()->aufgabe().noten[0] * 100 + drill.z.skala_nr);
-        }
-        return drawn;
-    };
-    EXPECT_EQ(tasks(4, 1), tasks(4, 2));
-    EXPECT_NE(tasks(3, 1), tasks(3, 2)) << "a test draws freely";
 }
 
 TEST(TryingOut, CountsAndScoresNothing) {
