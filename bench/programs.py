@@ -110,7 +110,8 @@ class Bench:
         self.env = {**os.environ, "DISPLAY": display.name, "QT_QPA_PLATFORM": "xcb",
                     "XDG_RUNTIME_DIR": str(runtime), "XDG_DATA_HOME": str(folder / "data"),
                     "XDG_CONFIG_HOME": str(folder / "config"), "temp": str(folder),
-                    "MELVORA_MODULE_PATH": str(modules), "MELVORA_AUDIO_DRIVER": "none"}
+                    "MELVORA_MODULE_PATH": str(modules), "MELVORA_AUDIO_DRIVER": "none",
+                    "MELVORA_SOUNDFONT": "/usr/share/sounds/sf2/TimGM6mb.sf2"}
         self.env.pop("MELVORA_HOST_ADDRESS", None)
         self.address = runtime / "melvora/host"
 

@@ -55,7 +55,7 @@ const std::array<Tuning, 5> tunings{{
 
 Rendering::Rendering(bool font)
     : engine(mailbox, [this](std::uint32_t run) { ended.push_back(run); }) {
-    if (font) engine.loadFont(findSoundfont(""));
+    if (font) engine.loadFont(testFont);
 }
 
 void Rendering::send(int status, int data1, int data2) {

@@ -7,6 +7,9 @@
 
 namespace synth::test {
 
+/// The instruments that the figures of the tests hold for, whatever others the machine has.
+inline constexpr auto testFont = "/usr/share/sounds/sf2/TimGM6mb.sf2";
+
 /// A synthesiser that is pulled by hand; the left channel of what it rendered is kept.
 class Rendering {
   public:

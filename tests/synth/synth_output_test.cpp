@@ -23,6 +23,7 @@ namespace {
 synth::SynthOptions unpaced(const std::string& driver) {
     synth::SynthOptions options;
     options.driver = driver;
+    options.soundfont = testFont;
     options.audioFile = testing::TempDir() + "synth_output_test.wav";
     options.paced = false;
     return options;
@@ -171,7 +172,8 @@ TEST(SynthOutput, FileHoldsTheWholeQueueAfterItsLeadIn) {
 TEST(SynthOutput, LostDeviceIsToldTheQueueEndsAndTheNextOpeningFindsItAgain) {
     std::atomic<bool> plugged{true};
     std::atomic<int> opened{0};
-    synth::SynthOptions options;
+    auto options = unpaced("");
+    options.paced = true;
     options.openDevice = [&](synth::Pull pull) {
         ++opened;
         return std::make_unique<Card>(std::move(pull), plugged);

@@ -3,6 +3,7 @@
 
 Needs Xvfb and xdotool. Every test has a screen, a data folder and a socket of its own.
 """
+import ctypes
 import json
 import os
 import pathlib
@@ -16,6 +17,7 @@ import unittest
 import wave
 
 BINARIES = pathlib.Path(sys.argv.pop(1))
+FONT = "/usr/share/sounds/sf2/TimGM6mb.sf2"  # whatever other instruments the machine has
 PATIENCE = 60  # seconds until something that must happen counts as missing
 
 
@@ -27,6 +29,12 @@ def until(what, true, patience=PATIENCE):
             return found
         time.sleep(0.05)
     raise AssertionError(f"{what}: not within {patience} s")
+
+
+def children(process):
+    """The processes that it has started, or adopted, and that have not been waited for."""
+    return [int(child) for thread in pathlib.Path(f"/proc/{process}/task").glob("*/children")
+            for child in thread.read_text().split()]
 
 
 class Road(unittest.TestCase):
@@ -41,16 +49,20 @@ class Road(unittest.TestCase):
         self.environment = dict(
             os.environ, DISPLAY=f":{self.display}", HOME=str(self.home), QT_QPA_PLATFORM="xcb",
             XDG_RUNTIME_DIR=str(self.home), MELVORA_HOST_ADDRESS=f"unix:path={self.home}/host",
-            MELVORA_AUDIO_DRIVER="file", MELVORA_AUDIO_FILE=str(self.wav))
+            MELVORA_AUDIO_DRIVER="file", MELVORA_AUDIO_FILE=str(self.wav), MELVORA_SOUNDFONT=FONT)
         self.programs = []
         self.start("Xvfb", f":{self.display}", "-screen", "0", "1024x768x24", "-noreset")
         until("a screen", lambda: self.tool("getmouselocation") is not None)
 
     def tearDown(self):
+        for module in [m for p in self.programs for m in children(p.pid)]:
+            os.kill(module, signal.SIGKILL)
         for program in reversed(self.programs):
             program.kill()
             program.wait()
-        subprocess.run(["pkill", "-9", "-f", str(self.home)], check=False)
+        for orphan in children(os.getpid()):
+            os.kill(orphan, signal.SIGKILL)
+            os.waitpid(orphan, 0)
         self.folder.cleanup()
 
     def start(self, program, *arguments):
@@ -246,9 +258,10 @@ class Road(unittest.TestCase):
         self.assertFalse(kept[0].exists())
 
     def test_the_menu_returns_when_the_module_dies(self):
-        self.host("--start", "zepha9")
+        host = self.host("--start", "zepha9")
         self.window("Scales: Basic settings")
-        subprocess.run(["pkill", "-9", "-f", str(BINARIES / "zepha9")], check=True)
+        [module] = children(host.pid)
+        os.kill(module, signal.SIGKILL)
         self.window("Melvora")
 
     def test_without_a_host_the_module_says_so_and_ends(self):
@@ -259,4 +272,7 @@ class Road(unittest.TestCase):
 
 
 if __name__ == "__main__":
+    # A module whose host was killed comes to this process, which ends it.
+    PR_SET_CHILD_SUBREAPER = 36
+    ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
     unittest.main()
