@@ -7,10 +7,6 @@ namespace synth {
 FluidError::FluidError(const std::string& what)
     : std::runtime_error("FluidSynth: " + what + "; check the installation of libfluidsynth3") {}
 
-void check(int answer, const char* what) {
-    if (answer == FLUID_FAILED) throw FluidError(std::string("cannot ") + what);
-}
-
 void quietFluidLog() {
     for (int level = FLUID_PANIC; level < LAST_LOG_LEVEL; ++level)
         fluid_set_log_function(

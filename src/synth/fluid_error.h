@@ -17,9 +17,6 @@ T* made(T* handle, const char* what) {
     return handle;
 }
 
-/// Throws FluidError when the library answered with its failure code.
-void check(int answer, const char* what);
-
 /// Keeps the library from writing to the terminal; what matters comes back as an error.
 void quietFluidLog();
 

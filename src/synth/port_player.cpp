@@ -16,7 +16,6 @@ constexpr int program = 0xc0;
 constexpr int channelPressure = 0xd0;
 constexpr int bend = 0xe0;
 constexpr int allNotesOff = 123;
-constexpr int restVelocity = 64;
 
 }  // namespace
 
@@ -71,8 +70,7 @@ void PortPlayer::silence(Command::Kind kind) {
         auto& keys = sounding_.at(channel);
         if (!used_.test(channel)) continue;
         for (int key = 0; key < 128; ++key)
-            if (keys.test(key)) send(noteOff + channel, key, restVelocity);
-        keys.reset();
+            if (keys.at(key) > 0) send(noteOff + channel, key, std::exchange(keys.at(key), 0));
         send(control + channel, allNotesOff, 0);
         if (kind == Command::Kind::Play) continue;
         send(bend + channel, 0, 64);
@@ -88,13 +86,14 @@ void PortPlayer::onEvent(unsigned, fluid_event_t* event, fluid_sequencer_t*, voi
 void PortPlayer::forward(fluid_event_t* event) {
     const int channel = fluid_event_get_channel(event);
     const int key = fluid_event_get_key(event);
+    int& velocity = sounding_.at(channel).at(key & 0x7f);
     switch (fluid_event_get_type(event)) {
         case FLUID_SEQ_NOTEON:
-            sounding_.at(channel).set(key);
-            return send(noteOn + channel, key, fluid_event_get_velocity(event));
+            velocity = fluid_event_get_velocity(event);
+            return send(noteOn + channel, key, velocity);
         case FLUID_SEQ_NOTEOFF:
-            sounding_.at(channel).reset(key);
-            return send(noteOff + channel, key, restVelocity);
+            // It carries the velocity with which its note began.
+            return send(noteOff + channel, key, std::exchange(velocity, 0));
         case FLUID_SEQ_KEYPRESSURE:
             return send(keyPressure + channel, key, fluid_event_get_value(event));
         case FLUID_SEQ_CONTROLCHANGE:

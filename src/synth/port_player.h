@@ -43,7 +43,8 @@ class PortPlayer : public Player {
     FluidSequencer sequencer_;
     FluidQueue queue_;
     Clock::time_point begin_ = Clock::now();
-    std::array<std::bitset<128>, 16> sounding_{};
+    /// Velocity of each key that sounds, by channel; 0 for silence.
+    std::array<std::array<int, 128>, 16> sounding_{};
     std::bitset<16> used_;
     std::jthread thread_;
 };

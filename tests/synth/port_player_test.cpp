@@ -44,12 +44,12 @@ TEST(PortPlayer, SendsMessagesUnchangedAndInTheOrderOfTheirTimes) {
     port.player->put({.kind = Kind::Send, .event = {.status = 0xc2, .data1 = 73, .data2 = 0}});
     port.player->put({.kind = Kind::Send, .event = {.status = 0xe2, .data1 = 0, .data2 = 61}});
     auto notes = note(2, 62, 40, 30);
-    append(notes, note(2, 60, 0, 40));
+    append(notes, note(2, 60, 0, 40, 90));
     port.player->put(port.events(notes));
     ASSERT_TRUE(port.mail.runUntil([&] { return port.ends == 1; }));
     const std::vector<Bytes> expected{{0xc2, 73},      {0xe2, 0, 61},  {0xb2, 123, 0},
-                                      {0x92, 60, 100}, {0x82, 60, 64}, {0x92, 62, 100},
-                                      {0x82, 62, 64}};
+                                      {0x92, 60, 90}, {0x82, 60, 90}, {0x92, 62, 100},
+                                      {0x82, 62, 100}};
     EXPECT_EQ(port.sent, expected);
 }
 
@@ -67,7 +67,7 @@ TEST(PortPlayer, CutEndsSoundingNotesCentresBendsAndForgetsTheRest) {
         }
         port.close();
         const std::vector<Bytes> expected{
-            {0x90, 60, 100}, {0x80, 60, 64}, {0xb0, 123, 0}, {0xe0, 0, 64}};
+            {0x90, 60, 100}, {0x80, 60, 100}, {0xb0, 123, 0}, {0xe0, 0, 64}};
         EXPECT_EQ(port.sent, expected);
         EXPECT_EQ(port.ends, 0);
     }
