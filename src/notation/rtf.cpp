@@ -1,5 +1,7 @@
 #include "notation/rtf.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <stdexcept>
@@ -16,6 +18,29 @@ struct Schrift {
     int ersatz = 1;  ///< letters that stand behind a \uN for readers that do not know it
     friend bool operator==(const Schrift&, const Schrift&) = default;
 };
+
+/// What the bytes 0x80..0x9F mean in code page 1252; a byte without a meaning stays as it is.
+constexpr std::array<std::uint16_t, 32> seite1252{
+    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+std::uint32_t ausByte(unsigned byte) {
+    return byte >= 0x80 && byte < 0xA0 ? seite1252.at(byte - 0x80) : byte;
+}
+
+/// Control words and symbols that stand for a letter.
+struct Satzzeichen {
+    std::string_view befehl;
+    std::uint32_t zeichen;
+};
+constexpr std::array satzzeichen{Satzzeichen{"endash", 0x2013},    Satzzeichen{"emdash", 0x2014},
+                                 Satzzeichen{"lquote", 0x2018},    Satzzeichen{"rquote", 0x2019},
+                                 Satzzeichen{"ldblquote", 0x201C}, Satzzeichen{"rdblquote", 0x201D},
+                                 Satzzeichen{"bullet", 0x2022},    Satzzeichen{"enspace", 0x2002},
+                                 Satzzeichen{"emspace", 0x2003},   Satzzeichen{"qmspace", 0x2005},
+                                 Satzzeichen{"tab", 0xA0},         Satzzeichen{"~", 0xA0},
+                                 Satzzeichen{"_", 0x2011},         Satzzeichen{"-", 0xAD}};
 
 void utf8(std::string& ziel, std::uint32_t zeichen) {
     const auto byte = [&](std::uint32_t b) { ziel += static_cast<char>(b); };
@@ -65,7 +90,7 @@ class Leser {
             case '\n':
                 break;
             default:
-                schreiben(static_cast<unsigned char>(c));
+                schreiben(ausByte(static_cast<unsigned char>(c)));
         }
     }
 
@@ -75,16 +100,16 @@ class Leser {
             const std::string hex{zeichen(), zeichen()};
             unsigned wert = 0;
             std::from_chars(hex.data(), hex.data() + 2, wert, 16);
-            schreiben(wert);
+            schreiben(ausByte(wert));
         } else if (c == '*') {
             schrift_.unsichtbar = true;
-        } else if (c == '~') {
-            schreiben(0xA0);
         } else if (c == '{' || c == '}' || c == '\\') {
             schreiben(static_cast<unsigned char>(c));
         } else if (c >= 'a' && c <= 'z') {
             --stelle_;
             wort();
+        } else {
+            satzzeichenSchreiben({&c, 1});
         }
     }
 
@@ -109,7 +134,6 @@ class Leser {
         if (name == "plain") schrift_ = Schrift{};
         if (name == "par") absatzSchliessen(true);
         if (name == "line") zeilenwechsel();
-        if (name == "tab") schreiben(0xA0);
         if (name == "pard") ausrichtung_ = "left";
         if (name == "ql") ausrichtung_ = "left";
         if (name == "qc") ausrichtung_ = "center";
@@ -121,6 +145,12 @@ class Leser {
         }
         for (const char* tabelle : {"fonttbl", "colortbl", "stylesheet", "info", "pict"})
             if (name == tabelle) schrift_.unsichtbar = true;
+        satzzeichenSchreiben(name);
+    }
+
+    void satzzeichenSchreiben(std::string_view befehl) {
+        const auto* gemeint = std::ranges::find(satzzeichen, befehl, &Satzzeichen::befehl);
+        if (gemeint != satzzeichen.end()) schreiben(gemeint->zeichen);
     }
 
     void schreiben(std::uint32_t c) {
