@@ -46,9 +46,9 @@ inline constexpr std::array oktavMarke{
     Strich{19, 3, 23, 3}, Strich{18, 4, 18, 8}, Strich{19, 4, 19, 8}, Strich{19, 8, 22, 8},
     Strich{22, 3, 22, 9}, Strich{23, 4, 23, 9}, Strich{24, 8, 25, 8}};
 
-/// Dots of the bass clef.
+/// Dots of the bass clef, each a block of 5 by 4.
 inline constexpr std::array punkte{
-    Strich{27, 51, 30, 51}, Strich{26, 52, 31, 52}, Strich{26, 53, 31, 53}, Strich{27, 54, 30, 54},
-    Strich{27, 58, 30, 58}, Strich{26, 59, 31, 59}, Strich{26, 60, 31, 60}, Strich{27, 61, 30, 61}};
+    Strich{26, 51, 31, 51}, Strich{26, 52, 31, 52}, Strich{26, 53, 31, 53}, Strich{26, 54, 31, 54},
+    Strich{26, 58, 31, 58}, Strich{26, 59, 31, 59}, Strich{26, 60, 31, 60}, Strich{26, 61, 31, 61}};
 
 }  // namespace notation::figuren

@@ -50,7 +50,7 @@ void VorzeichenMalen(Flaeche& flaeche, i16 x, i16 y, int vorzeichen);
 /// The letters "8va", 25 pixels wide and 9 high.
 void OktavMarkeMalen(Flaeche& flaeche, i16 x, i16 y, int farbe);
 
-/// Treble clef, its curl around y = 88; x from 12 to 30.
+/// Treble clef, its curl around y = 88; x from 13 to 29.
 void ViolinschluesselMalen(Flaeche& flaeche);
 /// Bass clef, its dots on both sides of y = 56; x from 8 to 30.
 void BassschluesselMalen(Flaeche& flaeche);
