@@ -33,7 +33,7 @@ bool Noteneingabe::DragDrop(i16 s, i16 index, float X, float Y) {
     const auto y = ziel(s, index, c, Y);
     Vorschau(s, c, farbe::weiss);
     if (!y) return false;
-    zeile_.NoteAblegen(c, s, *y, vorzeichenDer(index, c, s));
+    zeile_.NoteAblegen(c, s, *y, vorzeichenDer(index, c, s), oktaveDer(index, c));
     letzteSpalte_ = 0;
     zeile_.NoteMalen(c);
     zeile_.OktavMarke(c);
@@ -52,29 +52,35 @@ std::optional<i16> Noteneingabe::ziel(i16 s, i16 index, i16 c, float Y) const {
     const i16 y = (base::roundedI16(static_cast<double>(Y)) + 2) / 4 * 4;
     const i16 oben = zeile_.grenze(s).hoechste(), unten = zeile_.grenze(s).tiefste();
     const bool amRand = y == oben || y == unten;
-    if (amRand ? !RandErlaubt(index, s, y) : y < oben || y > unten) return {};
+    if (amRand ? !RandErlaubt(index, c, s, y) : y < oben || y > unten) return {};
     return AblageErlaubt(index, s, c);
 }
 
 std::optional<i16> Noteneingabe::AblageErlaubt(i16 index, i16 s, i16 c) const {
     const Spalte& spalte = zeile_.NotSelb(c);
-    if (!spalte.hatNote() || spalte.schluessel != s ||
-        spalte.vorzeichen == vorzeichenDer(index, c, s))
-        return {};
+    if (!spalte.hatNote() || spalte.schluessel != s) return {};
+    if (index != quelle::oktave && spalte.vorzeichen == vorzeichenDer(index, c, s)) return {};
     return spalte.y();
 }
 
 /// On a limit a note may not leave the range: not above the tonic at the top, not below it at the
 /// bottom, counted in fifths.
-bool Noteneingabe::RandErlaubt(i16 index, i16 s, i16 y) const {
-    const i16 qz = qzVon(stammtonBei(y, s), quelle::vorzeichen(index));
+bool Noteneingabe::RandErlaubt(i16 index, i16 c, i16 s, i16 y) const {
+    const i16 qz = qzVon(stammtonBei(y, s), vorzeichenDer(index, c, s));
     const i16 z = zeile_.umfang().quintLage + QzMitte;
     return y == zeile_.grenze(s).hoechste() ? qz <= z : qz >= z;
 }
 
 i16 Noteneingabe::vorzeichenDer(i16 index, i16 c, i16 s) const {
     if (index == quelle::wieVorher) return VorzeichenDavor(c, s, zeile_.NotSelb(c).y());
+    if (index == quelle::oktave) return zeile_.NotSelb(c).vorzeichen;
     return quelle::vorzeichen(index);
+}
+
+i16 Noteneingabe::oktaveDer(i16 index, i16 c) const {
+    const i16 oktave = zeile_.NotSelb(c).oktave;
+    if (index == quelle::oktave) return 1 - oktave;
+    return index < quelle::anzahl ? int(oktave) : 0;
 }
 
 i16 Noteneingabe::VorzeichenDavor(i16 c, i16 s, i16 y) const {
@@ -91,6 +97,7 @@ bool Noteneingabe::vorschauMoeglich(i16 index, i16 s, i16 c) const {
 }
 
 void Noteneingabe::DragOver(i16 s, i16 index, float X, float, ZugZustand zustand) {
+    if (index >= quelle::oktave) return;
     const i16 c = zeile_.lage().spalteBei(X);
     switch (zustand) {
         case ZugZustand::Betreten:

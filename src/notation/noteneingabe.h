@@ -7,12 +7,15 @@
 
 namespace notation {
 
-/// Sources of the palette: 0 double flat, 1 flat, 2 natural, 3 sharp, 4 double sharp.
+/// Sources of a drop. Those of the palette: 0 double flat, 1 flat, 2 natural, 3 sharp, 4 double
+/// sharp; they leave the octave mark of a note alone. 5 to 9 the same without the mark.
 namespace quelle {
 inline constexpr int anzahl = 5;
 inline constexpr int wieVorher = 10;  ///< the accidental of an earlier note on the line
+inline constexpr int oktave = 11;     ///< the octave mark comes or goes
 inline constexpr const char* feld = "NotP";
-constexpr int vorzeichen(int index) { return index - 2; }
+/// -2..2, of the sources 0 to 9.
+constexpr int vorzeichen(int index) { return index % anzahl - 2; }
 constexpr int mit(int vorzeichen) { return vorzeichen + 2; }
 }  // namespace quelle
 
@@ -45,9 +48,10 @@ class Noteneingabe {
   private:
     /// The y where a drop lands: that of the note, nothing when the drop is refused.
     std::optional<i16> AblageErlaubt(i16 index, i16 s, i16 c) const;
-    bool RandErlaubt(i16 index, i16 s, i16 y) const;
+    bool RandErlaubt(i16 index, i16 c, i16 s, i16 y) const;
     std::optional<i16> ziel(i16 s, i16 index, i16 c, float Y) const;
     i16 vorzeichenDer(i16 index, i16 c, i16 s) const;
+    i16 oktaveDer(i16 index, i16 c) const;
     i16 VorzeichenDavor(i16 c, i16 s, i16 y) const;
     void Vorschau(i16 s, i16 c, i16 farbe);
     bool vorschauMoeglich(i16 index, i16 s, i16 c) const;

@@ -106,8 +106,9 @@ void Notenzeile::NoteSetzen(i16 c, const Ton& ton, i16 farbe) {
     NoteMalen(c);
 }
 
-void Notenzeile::NoteAblegen(i16 c, i16 s, i16 y, i16 vz) {
-    eintragen(c, s, TonAusY(y, s, vz, NotSelb_[c].oktave), y / 4, farbe::schwarz);
+void Notenzeile::NoteAblegen(i16 c, i16 s, i16 y, i16 vz, i16 oktave) {
+    NotSelb_[c].oktave = oktave;
+    eintragen(c, s, TonAusY(y, s, vz, oktave), y / 4, farbe::schwarz);
     NotSelb_[c].abgelegt = 1;
 }
 

@@ -36,7 +36,8 @@ class Notenzeile {
     /// Draws the note of a column again in a colour.
     void NoteSetzen(i16 c, i16 farbe) { NoteSetzen(c, NotSelb(c).ton(), farbe); }
     /// Gives the note of a column an accidental, on the line where it stands, without drawing it.
-    void NoteAblegen(i16 c, i16 s, i16 y, i16 vz);
+    /// @param oktave 1: it sounds an octave higher than it stands, under "8va".
+    void NoteAblegen(i16 c, i16 s, i16 y, i16 vz, i16 oktave);
     /// Wipes a column on both staves and draws the note that is written in it.
     void NoteMalen(i16 c);
     /// Draws or takes away "8va" above a column.

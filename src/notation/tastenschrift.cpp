@@ -1,6 +1,14 @@
 #include "notation/tastenschrift.h"
 
+#include <algorithm>
+
 namespace notation {
+
+namespace {
+
+constexpr int schritt = 4;  // pixels from one place of the staff to the next
+
+}  // namespace
 
 Tastenschrift::Tastenschrift(Notenzeile& zeile, Noteneingabe& eingabe, Palette& palette)
     : zeile_(zeile), eingabe_(eingabe), palette_(palette) {
@@ -55,9 +63,14 @@ void Tastenschrift::nehmen(int index) {
 
 void Tastenschrift::ablegen(int index) {
     if (index < 0 || index >= quelle::anzahl || !palette_.pbNoten.enabled()) return;
-    eingabe_.DragDrop(zeile_.SchlZ(), static_cast<i16>(index),
-                      static_cast<float>(zeile_.lage().x(spalte_)),
-                      static_cast<float>(zeile_.NotSelb(spalte_).y()));
+    const i16 s = zeile_.SchlZ();
+    const Grenze& grenze = zeile_.grenze(s);
+    // Where the hand lets go does not matter between the limits; on one of them it does.
+    const int y =
+        std::max<int>(grenze.hoechste() + schritt,
+                      std::min<int>(grenze.tiefste() - schritt, zeile_.NotSelb(spalte_).y()));
+    eingabe_.DragDrop(s, static_cast<i16>(index), static_cast<float>(zeile_.lage().x(spalte_)),
+                      static_cast<float>(y));
 }
 
 void Tastenschrift::markieren() {

@@ -5,9 +5,8 @@
 namespace notation {
 
 /// Writing by keys: left and right choose a column, up and down turn its accidental by one, 1 to 5
-/// take an accidental of the palette in hand and Enter drops it,
-/// once. Every change goes through the
-/// rules of a drop. Attaches itself to the holder of the staff.
+/// take an accidental of the palette in hand and Enter drops it, once. Every change goes through
+/// the rules of a drop between the limits. Attaches itself to the holder of the staff.
 class Tastenschrift {
   public:
     Tastenschrift(Notenzeile& zeile, Noteneingabe& eingabe, Palette& palette);
