@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <string>
 
 namespace base {
 
@@ -43,6 +42,11 @@ int leadingInt(std::string_view text) {
     int value = 0;
     std::from_chars(digits.data(), digits.data() + digits.size(), value);
     return value;
+}
+
+std::string decimal(float v) {
+    char text[64];
+    return {text, std::to_chars(text, text + sizeof text, v, std::chars_format::fixed).ptr};
 }
 
 }  // namespace base

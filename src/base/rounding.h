@@ -1,6 +1,7 @@
 #pragma once
 #include "base/i16.h"
 
+#include <string>
 #include <string_view>
 
 namespace base {
@@ -16,5 +17,7 @@ int floorInt(double v);
 int parseInt(std::string_view text);
 /// The number that a text begins with, 0 when it begins with none; never throws.
 int leadingInt(std::string_view text);
+/// The shortest plain decimal that reads back as the same float; never with an exponent.
+std::string decimal(float v);
 
 }  // namespace base

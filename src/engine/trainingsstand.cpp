@@ -19,11 +19,6 @@ constexpr int wertungen = 3;
 constexpr std::size_t jeSkala = 6;
 constexpr std::size_t einmal = 4;
 
-std::string dezimal(float v) {
-    char text[64];
-    return {text, std::to_chars(text, text + sizeof text, v, std::chars_format::fixed).ptr};
-}
-
 float kommazahl(const std::string& text) {
     float v = 0;
     const auto [ende, fehler] =
@@ -87,7 +82,7 @@ core::Value::Array TrainingsstandSchreiben(const core::Zustand& z,
     for (int i = 1; i <= z.potSkala; ++i) {
         const i16 slot = core::skalaSlot(z.mathaeufgk_box(i, 0), z.skal_anz);
         satz.push_back(std::to_string(slot));
-        for (int x = 0; x < wertungen; ++x) satz.push_back(dezimal(auswertung.read(slot, x)));
+        for (int x = 0; x < wertungen; ++x) satz.push_back(base::decimal(auswertung.read(slot, x)));
     }
     for (const int n : {zaehler.richtig, zaehler.falsch, zaehler.wiederholungen})
         satz.push_back(std::to_string(n));

@@ -1,6 +1,7 @@
 #include "sim/json_line.h"
 
-#include <charconv>
+#include "base/rounding.h"
+
 #include <cstdio>
 
 namespace sim {
@@ -52,8 +53,7 @@ JsonLine& JsonLine::whole(std::string_view name, long value) {
 
 JsonLine& JsonLine::decimal(std::string_view name, float value) {
     key(name);
-    char digits[32];
-    line_.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+    line_ += base::decimal(value);
     return *this;
 }
 
