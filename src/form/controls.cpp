@@ -40,15 +40,16 @@ void Option::take() {
 }
 
 void Option::choose() {
-    if (value_) return;
+    const bool becomesChosen = !value_;
     take();
-    raise(onClick);
+    raise({onClick.procedure, [this, becomesChosen] {
+               if (store) store();
+               if (becomesChosen && onClick.run) onClick.run();
+           }});
 }
 
 void Option::click() {
-    if (!usable()) return;
-    take();
-    raise(onClick);
+    if (usable()) choose();
 }
 
 void ItemList::check(int i) const {
@@ -103,7 +104,7 @@ void Combo::setListIndex(int i) {
     const bool moved = i != listIndex_;
     listIndex_ = i;
     if (moved) tell(Aspect::Value);
-    raise(onSelect);
+    if (i != -1) raise(onSelect);
 }
 
 std::string Combo::text() const { return listIndex_ < 0 ? std::string() : item(listIndex_).text; }

@@ -69,16 +69,18 @@ class Panel : public Control {
     Handler onClick;
 };
 
-/// One of a group: choosing it unchooses the options of the same name. Its handler runs when it
-/// becomes chosen, and at every click of the user.
+/// One of a group: choosing it unchooses the options of the same name. Every choice is stored, also
+/// of what is chosen already; the handler runs when the option becomes chosen.
 class Option : public Control {
   public:
     Option(Form& form, Place place) : Control(form, Kind::Option, std::move(place)) {}
     bool value() const { return value_; }
-    /// From code: runs the handler unless it is chosen already.
+    /// From code.
     void choose();
-    /// From the user: always runs the handler.
+    /// From the user; ignored while the option cannot be reached.
     void click();
+    /// Keeps the choice.
+    std::function<void()> store;
     Handler onClick;
 
   private:
@@ -115,6 +117,7 @@ class ItemList : public Control {
 };
 
 /// Choosing an item, from code or by the user, runs the handler, also when it was chosen already.
+/// Choosing none does not: what was chosen last stays stored.
 class Combo : public ItemList {
   public:
     Combo(Form& form, Place place) : ItemList(form, Kind::Combo, std::move(place)) {}

@@ -51,11 +51,11 @@ void Forms::unload(const std::string& name) {
     for (Control* control : form->controls())
         if (control->kind() == Kind::Timer) static_cast<Timer*>(control)->stop();
     form->setVisible(false);
-    gone(*form);
     const auto it = std::ranges::find(loaded_, form, [](const auto& f) { return f.get(); });
     if (it == loaded_.end()) return;
     unloaded_.push_back(std::move(*it));
     loaded_.erase(it);
+    gone(*form);
     bury();
     if (loaded_.empty()) empty();
 }

@@ -46,7 +46,7 @@ class Forms {
 
     /// A form was made, before its load handler runs: the place to give it a window.
     Signal<Form&> made;
-    /// A form goes: the place to take its window away.
+    /// A form has gone from the loaded ones: the place to take its window away.
     Signal<Form&> gone;
     /// The last form has gone: the program ends.
     Signal<> empty;
