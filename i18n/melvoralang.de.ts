@@ -175,8 +175,8 @@
 <message id="811s"><translation>Es wurde kein Audiogerät gefunden: Die Übung läuft ohne Ton. Installieren und starten Sie PulseAudio oder den Pulse-Server von PipeWire (Paket pipewire-pulse) und drücken Sie „Klang-Kontrolle“.</translation></message>
 <message id="812s"><translation>Das Audiogerät ist nicht mehr da. Schließen Sie es wieder an und drücken Sie „Klang-Kontrolle“.</translation></message>
 <message id="813s"><translation>Antwort</translation></message>
-<message id="814s"><translation>Die Verbindung zu Melvora ist abgebrochen; die Ergebnisse konnten nicht gespeichert werden.</translation></message>
-<message id="815s"><translation>Das Ergebnis konnte nicht nach %1 geschrieben werden. Schaffen Sie Speicherplatz oder wählen Sie einen anderen Ordner; das Ergebnis bleibt auf dem Bildschirm.</translation></message>
+<message id="814s"><translation>Die Verbindung zu Melvora ist abgebrochen; der Trainingsstand ist nicht gesichert. Starten Sie Melvora neu.</translation></message>
+<message id="815s"><translation>Das Protokoll dieser Übung konnte nicht nach %1 geschrieben werden; in den Ergebnissen von Melvora fehlt sie. Schaffen Sie Speicherplatz und prüfen Sie, ob der Ordner beschreibbar ist, bevor Sie weiterüben.</translation></message>
 <message id="816s"><translation>Hilfe</translation></message>
 <message id="817s"><translation>%1 von 15 gewählt</translation></message>
 <message id="818s"><translation>Training: noch %1 Punkte bis zum Ziel, bei %2 ist es verfehlt</translation></message>
@@ -192,7 +192,7 @@
 <message id="828s"><translation>Die Übung kann so nicht laufen: Sie würde immer dieselbe Aufgabe stellen. Wählen Sie mehr Skalen, wechselnde Vorzeichen oder einen größeren Tonraum.</translation></message>
 <message id="829s"><translation>Einlesen Test</translation></message>
 <message id="830s"><translation>Einstellungen Speichern</translation></message>
-<message id="831s"><translation>Drucken fehlgeschlagen: %1</translation></message>
+<message id="831s"><translation>Der Drucker „%1“ nimmt nichts an. Prüfen Sie, ob er eingeschaltet ist und Platz hat, und drucken Sie noch einmal.</translation></message>
 <message id="832s"><translation>Wiederholungen</translation></message>
 <message id="833s"><translation>Schwächste zuerst</translation></message>
 <message id="834s"><translation>Die Einstellungen konnten nicht nach %1 geschrieben werden. Wählen Sie einen anderen Ordner; eine ältere Datei ist unverändert.</translation></message>
@@ -250,6 +250,14 @@
 <message id="886s"><translation>Tasten: 1–0 antworten, Eingabe geht weiter, Esc verlässt</translation></message>
 <message id="887s"><translation>Hinweis</translation></message>
 <message id="888s"><translation>Tasten: Pfeile schreiben, 1–5 und Eingabe setzen, Eingabe: fertig und weiter, Esc verlässt</translation></message>
+<message id="889s"><translation>Nennen Sie zuerst eine Datei; „...“ öffnet die Auswahl.</translation></message>
+<message id="890s"><translation>Die Klangbibliothek fehlt oder lässt sich nicht laden: Die Übung läuft ohne Ton. Installieren Sie das Paket libfluidsynth3 – wenn das nicht hilft, Melvora neu – und drücken Sie „Klang-Kontrolle“.</translation></message>
+<message id="891s"><translation>Ja</translation></message>
+<message id="892s"><translation>Nein</translation></message>
+<message id="893s"><translation>Melvora hat den Trainingsstand nicht angenommen; er ist nicht gesichert. Der Grund steht im Protokoll von Melvora.</translation></message>
+<message id="894s"><translation>Melvora hat den Trainingsstand nicht angenommen; er ist nicht gesichert: %1</translation></message>
+<message id="895s"><translation>Das Übungsprogramm endet wegen eines unerwarteten Fehlers: %1</translation></message>
+<message id="896s"><translation>Es ist kein Drucker eingerichtet. Richten Sie in den Systemeinstellungen einen ein und wählen Sie ihn als Standard.</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Ergebnisse</translation></message>
 <message id="902s"><translation>Protokoll</translation></message>
@@ -323,5 +331,6 @@
 <message id="970s"><translation>Diese Datei mit Einstellungen ist nicht lesbar: %1</translation></message>
 <message id="971s"><translation>Das Übungsprogramm „%1“ läuft gerade. Verlassen Sie es zuerst, dann lässt sich diese Datei öffnen: %2</translation></message>
 <message id="972s"><translation>%1: %2</translation></message>
+<message id="973s"><translation>Unerwarteter Fehler: %1</translation></message>
 </context>
 </TS>

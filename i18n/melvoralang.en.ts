@@ -175,8 +175,8 @@
 <message id="811s"><translation>No audio device was found: the exercise runs in silence. Install and start PulseAudio or PipeWire’s pulse server (package pipewire-pulse), then press “Sound check”.</translation></message>
 <message id="812s"><translation>The audio device has gone. Reconnect it, then press “Sound check”.</translation></message>
 <message id="813s"><translation>Answer</translation></message>
-<message id="814s"><translation>The connection to Melvora is lost; the results could not be stored.</translation></message>
-<message id="815s"><translation>The result record could not be written to %1. Free some space or choose another folder; the result stays on screen.</translation></message>
+<message id="814s"><translation>The connection to Melvora is lost; the training progress is not saved. Start Melvora again.</translation></message>
+<message id="815s"><translation>The record of this exercise could not be written to %1; Melvora’s results will lack it. Free some space and check that the folder can be written to before you go on.</translation></message>
 <message id="816s"><translation>Help</translation></message>
 <message id="817s"><translation>%1 of 15 chosen</translation></message>
 <message id="818s"><translation>Training: %1 points to the goal; at %2 it is missed</translation></message>
@@ -192,7 +192,7 @@
 <message id="828s"><translation>The exercise cannot be run: it would repeat one and the same task. Choose more scales, a changing key or a larger range.</translation></message>
 <message id="829s"><translation>Read settings</translation></message>
 <message id="830s"><translation>Save settings</translation></message>
-<message id="831s"><translation>Printing failed: %1</translation></message>
+<message id="831s"><translation>The printer “%1” accepts nothing. Check that it is switched on and has room, then print again.</translation></message>
 <message id="832s"><translation>Repeats</translation></message>
 <message id="833s"><translation>Weakest first</translation></message>
 <message id="834s"><translation>The settings could not be written to %1. Choose another folder; an older file is unchanged.</translation></message>
@@ -250,6 +250,14 @@
 <message id="886s"><translation>Keys: 1–0 answer, Enter goes on, Esc leaves</translation></message>
 <message id="887s"><translation>Hint</translation></message>
 <message id="888s"><translation>Keys: arrows write, 1–5 and Enter put down, Enter: done and on, Esc leaves</translation></message>
+<message id="889s"><translation>Name a file first; “...” lets you choose one.</translation></message>
+<message id="890s"><translation>The sound library is missing or cannot be loaded: the exercise runs in silence. Install the package libfluidsynth3 – if that does not help, Melvora again – and press “Sound check”.</translation></message>
+<message id="891s"><translation>Yes</translation></message>
+<message id="892s"><translation>No</translation></message>
+<message id="893s"><translation>Melvora did not accept the training progress; it is not saved. Melvora’s log tells why.</translation></message>
+<message id="894s"><translation>Melvora did not accept the training progress; it is not saved: %1</translation></message>
+<message id="895s"><translation>The exercise program ends because of an unexpected fault: %1</translation></message>
+<message id="896s"><translation>No printer is set up. Set one up in the system’s settings and make it the default.</translation></message>
 <message id="900s"><translation>Start</translation></message>
 <message id="901s"><translation>Results</translation></message>
 <message id="902s"><translation>Log</translation></message>
@@ -323,5 +331,6 @@
 <message id="970s"><translation>This file of settings cannot be read: %1</translation></message>
 <message id="971s"><translation>The program “%1” is running. Leave it first, then this file can be opened: %2</translation></message>
 <message id="972s"><translation>%1: %2</translation></message>
+<message id="973s"><translation>Unexpected fault: %1</translation></message>
 </context>
 </TS>

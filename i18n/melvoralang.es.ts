@@ -175,8 +175,8 @@
 <message id="811s"><translation>No se ha encontrado ningún dispositivo de audio: el ejercicio funciona sin sonido. Instale e inicie PulseAudio o el servidor Pulse de PipeWire (paquete pipewire-pulse) y pulse «Prueba de sonido».</translation></message>
 <message id="812s"><translation>El dispositivo de audio se ha desconectado. Vuelva a conectarlo y pulse «Prueba de sonido».</translation></message>
 <message id="813s"><translation>Respuesta</translation></message>
-<message id="814s"><translation>Se ha perdido la conexión con Melvora; los resultados no se han podido guardar.</translation></message>
-<message id="815s"><translation>El resultado no se ha podido escribir en %1. Libere espacio o elija otra carpeta; el resultado sigue en pantalla.</translation></message>
+<message id="814s"><translation>Se ha perdido la conexión con Melvora; el estado del entrenamiento no está guardado. Vuelva a iniciar Melvora.</translation></message>
+<message id="815s"><translation>El registro de este ejercicio no se ha podido escribir en %1; faltará en los resultados de Melvora. Libere espacio y compruebe que se puede escribir en la carpeta antes de continuar.</translation></message>
 <message id="816s"><translation>Ayuda</translation></message>
 <message id="817s"><translation>%1 de 15 elegidas</translation></message>
 <message id="818s"><translation>Entrenamiento: faltan %1 puntos para la meta; con %2 queda fallado</translation></message>
@@ -192,7 +192,7 @@
 <message id="828s"><translation>El ejercicio no puede realizarse: repetiría siempre la misma tarea. Elija más escalas, una armadura variable o un ámbito mayor.</translation></message>
 <message id="829s"><translation>Leer ajustes</translation></message>
 <message id="830s"><translation>Guardar ajustes</translation></message>
-<message id="831s"><translation>Error al imprimir: %1</translation></message>
+<message id="831s"><translation>La impresora «%1» no acepta nada. Compruebe que está encendida y tiene espacio, e imprima de nuevo.</translation></message>
 <message id="832s"><translation>Repeticiones</translation></message>
 <message id="833s"><translation>Primero las más débiles</translation></message>
 <message id="834s"><translation>No se pudieron escribir los ajustes en %1. Elija otra carpeta; el archivo anterior no ha cambiado.</translation></message>
@@ -250,6 +250,14 @@
 <message id="886s"><translation>Teclas: 1–0 responden, Intro sigue, Esc sale</translation></message>
 <message id="887s"><translation>Indicación</translation></message>
 <message id="888s"><translation>Teclas: flechas escriben, 1–5 e Intro colocan, Intro: terminado y seguir, Esc sale</translation></message>
+<message id="889s"><translation>Indique primero un archivo; «...» permite elegirlo.</translation></message>
+<message id="890s"><translation>Falta la biblioteca de sonido o no se puede cargar: el ejercicio funciona sin sonido. Instale el paquete libfluidsynth3 –si no basta, vuelva a instalar Melvora– y pulse «Prueba de sonido».</translation></message>
+<message id="891s"><translation>Sí</translation></message>
+<message id="892s"><translation>No</translation></message>
+<message id="893s"><translation>Melvora no ha aceptado el estado del entrenamiento; no está guardado. El registro de Melvora indica el motivo.</translation></message>
+<message id="894s"><translation>Melvora no ha aceptado el estado del entrenamiento; no está guardado: %1</translation></message>
+<message id="895s"><translation>El programa de ejercicios termina por un error inesperado: %1</translation></message>
+<message id="896s"><translation>No hay ninguna impresora configurada. Configure una en los ajustes del sistema y elíjala como predeterminada.</translation></message>
 <message id="900s"><translation>Inicio</translation></message>
 <message id="901s"><translation>Resultados</translation></message>
 <message id="902s"><translation>Registro</translation></message>
@@ -323,5 +331,6 @@
 <message id="970s"><translation>Este archivo de ajustes no se puede leer: %1</translation></message>
 <message id="971s"><translation>El programa «%1» está en marcha. Salga primero de él; después podrá abrir este archivo: %2</translation></message>
 <message id="972s"><translation>%1: %2</translation></message>
+<message id="973s"><translation>Error inesperado: %1</translation></message>
 </context>
 </TS>

@@ -175,8 +175,8 @@
 <message id="811s"><translation>Aucun périphérique audio n’a été trouvé : l’exercice se déroule sans son. Installez et démarrez PulseAudio ou le serveur Pulse de PipeWire (paquet pipewire-pulse), puis cliquez sur « Contrôle du son ».</translation></message>
 <message id="812s"><translation>Le périphérique audio a disparu. Rebranchez-le, puis cliquez sur « Contrôle du son ».</translation></message>
 <message id="813s"><translation>Réponse</translation></message>
-<message id="814s"><translation>La connexion à Melvora est perdue ; les résultats n’ont pas pu être enregistrés.</translation></message>
-<message id="815s"><translation>Le résultat n’a pas pu être écrit dans %1. Libérez de l’espace ou choisissez un autre dossier ; le résultat reste à l’écran.</translation></message>
+<message id="814s"><translation>La connexion à Melvora est perdue ; l’état de l’entraînement n’est pas enregistré. Relancez Melvora.</translation></message>
+<message id="815s"><translation>Le compte rendu de cet exercice n’a pas pu être écrit dans %1 ; il manquera dans les résultats de Melvora. Libérez de l’espace et vérifiez que le dossier est accessible en écriture avant de continuer.</translation></message>
 <message id="816s"><translation>Aide</translation></message>
 <message id="817s"><translation>%1 sur 15 choisies</translation></message>
 <message id="818s"><translation>Entraînement : encore %1 points jusqu’au but ; à %2, il est manqué</translation></message>
@@ -192,7 +192,7 @@
 <message id="828s"><translation>L’exercice est impossible ainsi : il répéterait toujours la même question. Choisissez plus de gammes, une armure variable ou un ambitus plus grand.</translation></message>
 <message id="829s"><translation>Lire les réglages</translation></message>
 <message id="830s"><translation>Enregistrer les réglages</translation></message>
-<message id="831s"><translation>Échec de l’impression : %1</translation></message>
+<message id="831s"><translation>L’imprimante « %1 » n’accepte rien. Vérifiez qu’elle est allumée et qu’il reste de la place, puis imprimez de nouveau.</translation></message>
 <message id="832s"><translation>Répétitions</translation></message>
 <message id="833s"><translation>Les plus faibles d’abord</translation></message>
 <message id="834s"><translation>Les réglages n’ont pas pu être écrits dans %1. Choisissez un autre dossier ; un fichier plus ancien reste inchangé.</translation></message>
@@ -250,6 +250,14 @@
 <message id="886s"><translation>Touches : 1–0 répondent, Entrée continue, Échap quitte</translation></message>
 <message id="887s"><translation>Indication</translation></message>
 <message id="888s"><translation>Touches : flèches écrivent, 1–5 et Entrée posent, Entrée : terminé et suite, Échap quitte</translation></message>
+<message id="889s"><translation>Indiquez d’abord un fichier ; « ... » permet de le choisir.</translation></message>
+<message id="890s"><translation>La bibliothèque de sons est absente ou ne peut pas être chargée : l’exercice se déroule sans son. Installez le paquet libfluidsynth3 – si cela ne suffit pas, réinstallez Melvora – puis cliquez sur « Contrôle du son ».</translation></message>
+<message id="891s"><translation>Oui</translation></message>
+<message id="892s"><translation>Non</translation></message>
+<message id="893s"><translation>Melvora n’a pas accepté l’état de l’entraînement ; il n’est pas enregistré. Le journal de Melvora en donne la raison.</translation></message>
+<message id="894s"><translation>Melvora n’a pas accepté l’état de l’entraînement ; il n’est pas enregistré : %1</translation></message>
+<message id="895s"><translation>Le programme d’exercices s’arrête à cause d’une erreur inattendue : %1</translation></message>
+<message id="896s"><translation>Aucune imprimante n’est configurée. Configurez-en une dans les paramètres du système et choisissez-la par défaut.</translation></message>
 <message id="900s"><translation>Accueil</translation></message>
 <message id="901s"><translation>Résultats</translation></message>
 <message id="902s"><translation>Journal</translation></message>
@@ -323,5 +331,6 @@
 <message id="970s"><translation>Ce fichier de réglages est illisible : %1</translation></message>
 <message id="971s"><translation>Le programme « %1 » est en cours. Quittez-le d’abord ; ce fichier pourra ensuite être ouvert : %2</translation></message>
 <message id="972s"><translation>%1 : %2</translation></message>
+<message id="973s"><translation>Erreur inattendue : %1</translation></message>
 </context>
 </TS>

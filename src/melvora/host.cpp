@@ -161,4 +161,10 @@ void Host::tell(const StoreError& error) {
     emit noticed(words_.wort(945).arg(QString::fromUtf8(error.what())));
 }
 
+void Host::tell(const std::exception& fault) {
+    const QString text = words_.wort(973).arg(QString::fromUtf8(fault.what()));
+    log(LogKind::Error, text);
+    emit noticed(text);
+}
+
 }  // namespace melvora

@@ -63,6 +63,8 @@ class Host : public QObject {
     /// Runs what writes to the store. @return false, after telling, when the store fails.
     bool guarded(const std::function<void()>& operation);
     void tell(const StoreError& error);
+    /// Logs and tells what nobody caught.
+    void tell(const std::exception& fault);
 
   signals:
     void usersChanged();  ///< the list, or who is logged in

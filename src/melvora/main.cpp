@@ -1,4 +1,5 @@
 #include "hostlink/dbus_host.h"
+#include "look/application.h"
 #include "look/fonts_ahead.h"
 #include "look/look.h"
 #include "melvora/main_window.h"
@@ -7,7 +8,6 @@
 #include "melvora/settings_file.h"
 #include "melvora/socket_lock.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QThread>
@@ -79,12 +79,13 @@ void choose(Host& host, const Options& options) {
         throw UsageError("--user: no user has the key " + options.user->toStdString());
 }
 
-int serve(const std::string& socket, const Options& options) {
+int serve(const std::string& socket, const Options& options, look::Application& application) {
     const QString address = QString::fromStdString(hostlink::addressOf(socket));
     Words words(Words::installedFolder());
     const QStringList moduleArguments = options.teacher ? QStringList{"--teacher"} : QStringList();
     Host host({dataFolder(options), address, moduleArguments}, words);
     choose(host, options);
+    application.uncaught = [&host](const std::exception& fault) { host.tell(fault); };
     Requests requests(host);
     Server server(socket, requests);
     MainWindow window(host);
@@ -95,10 +96,12 @@ int serve(const std::string& socket, const Options& options) {
         host.guarded([&host] { host.store().log.prune(); });
         host.collect();
     });
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    application.uncaught = nullptr;
+    return status;
 }
 
-int run(const Options& options) {
+int run(const Options& options, look::Application& application) {
     if (options.settingsFile)
         if (const QString cause = whyUnreadable(*options.settingsFile); !cause.isEmpty())
             throw UnreadableFile(cause);
@@ -106,7 +109,7 @@ int run(const Options& options) {
     const auto socket = hostlink::socketPath(address);
     if (!socket) throw UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
     const SocketLock lock(*socket);
-    return lock.held() ? serve(*socket, options) : raiseOther(address, options);
+    return lock.held() ? serve(*socket, options, application) : raiseOther(address, options);
 }
 
 /// Started by a click on the icon or on a file, and nobody reads the standard error: there is no
@@ -146,14 +149,14 @@ bool answersAtOnce(int argc, char** argv) {
 int main(int argc, char** argv) {
     if (answersAtOnce(argc, argv)) return 0;
     const std::jthread fonts = look::readFontsAhead();
-    QApplication application(argc, argv);
+    look::Application application(argc, argv);
     QApplication::setApplicationName("melvora");
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setDesktopFileName("melvora");
     QApplication::setQuitOnLastWindowClosed(false);
     look::apply(application);
     try {
-        return run(parseOptions(QApplication::arguments()));
+        return run(parseOptions(QApplication::arguments()), application);
     } catch (const UnreadableFile& error) {
         complain(error, error.text());
     } catch (const std::exception& error) {

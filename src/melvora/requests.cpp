@@ -50,8 +50,10 @@ bool Requests::answer(const QString& key, const std::optional<core::Value>& argu
         return true;
     } catch (const Refusal& refusal) {
         host_.log(LogKind::Error, "refused: " + key.left(40) + ": " + refusal.cause);
+        if (key == "STORE") result = refusal.cause.toStdString();
     } catch (const StoreError& error) {
         host_.tell(error);
+        if (key == "STORE") result = error.what();
     }
     return false;
 }

@@ -19,7 +19,7 @@ namespace melvora {
 /// | LANG    |                                          | name of the language |
 /// | LOGIN   |                                          | (key, name, first name, matriculation) |
 /// | READ    | (executable, key)                        | the record, ("", "NIL") when there is none |
-/// | STORE   | (executable, key, record)                | |
+/// | STORE   | (executable, key, record)                | why it was refused, when it was |
 /// | LOGMESS | text                                     | |
 /// | LOGERR  | (procedure, number, description, source) | |
 /// | MENUE   |                                          | shows the menu |

@@ -47,6 +47,7 @@ bool Words::choose(const QString& language) {
     const auto found = std::ranges::find(languages_, language, &Language::name);
     if (found == languages_.end()) return false;
     chosen_ = static_cast<std::size_t>(found - languages_.begin());
+    toolkit_.take(found->suffix);
     return true;
 }
 

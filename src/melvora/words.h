@@ -1,4 +1,6 @@
 #pragma once
+#include "look/toolkit_texts.h"
+
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -41,6 +43,7 @@ class Words {
 
     std::vector<Language> languages_;
     std::size_t chosen_ = 0;
+    look::ToolkitTexts toolkit_;
 };
 
 }  // namespace melvora

@@ -55,7 +55,7 @@ TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
         const auto before = host_.store().log.lines({}).size();
         Value result("default");
         EXPECT_FALSE(requests_.answer(row.key, row.argument, result));
-        EXPECT_EQ(result, Value("default"));
+        EXPECT_EQ(result == Value("default"), row.key != "STORE") << "a store says why";
         const auto lines = host_.store().log.lines({});
         ASSERT_EQ(lines.size(), before + 1);
         EXPECT_EQ(lines.first().kind, LogKind::Error);
