@@ -82,10 +82,10 @@ struct Desk {
     support::FakePrinter printer;
     support::FakeHelp help;
     support::RecordingMidi midi{loop};
-    drill::Drill drill{{loop, dialogs, printer, help, [this] { return host.connect(); }, &words},
-                       {.tempOrdner = "/tmp", .rechnername = "desk"},
-                       midi,
-                       1};
+    drill::Drill drill{
+        {loop, dialogs, printer, help, [] { return 1; }, [this] { return host.connect(); }, &words},
+        {.tempOrdner = "/tmp", .rechnername = "desk"},
+        midi};
 
     Desk() {
         drill.programm.forms.load("grd_einst");

@@ -45,6 +45,7 @@ LIBRARIES = [
     (re.compile(r"(rtmidi/)?RtMidi\.h"), {"ports"}),
     (re.compile(r"fontconfig(/.*)?\.h"), {"look"}),
     (re.compile(r"pugi\w*\.hpp"), {"results", "setup", "sim", "melvora"}),
+    (re.compile(r"expat\.h"), {"setup"}),
     # The operating system: headers of C that the standard library has under another name are
     # meant too.
     (re.compile(r"[\w/]+\.h"), {"ports", "synth", "hostlink", "qt", "sim", "melvora", "zepha9"}),

@@ -21,6 +21,7 @@ void Formular::benennen(std::initializer_list<Beschriftung> namen) {
 }
 
 void Formular::failed(const std::string& prozedur, const std::exception& fehler) {
+    setPointer(form::Pointer::Arrow);
     p.host.HostFehler(logText(prozedur), fehler);
     std::string text = Wort(720) + "\n" + Wort(721) + "\n" + Wort(722) + "\n" + Wort(723);
     // Which path cannot be used, and what to do, is worth more than a look into the log.

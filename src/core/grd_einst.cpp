@@ -16,11 +16,14 @@ GrdEinst::GrdEinst(Programm& programm) : Formular(programm, "grd_einst") {
          std::initializer_list<form::Control*>{&Kontrolle, &ueb_typ(2), &ueb_typ(3)})
         nie->visible = false;
 
+    // Picking a branch falls back to the exercise that both begin with.
     for (form::Option& option : Theoriewahl)
-        option.onClick = {"Theoriewahl_click.",
-                          [this, &option] { Theoriewahl_click(option.index()); }};
+        option.store = [this, &option] {
+            z.theoriewahl = option.index();
+            ueb_typ(1).choose();
+        };
     for (form::Option& option : ueb_typ)
-        option.onClick = {"ueb_typ_click.", [this, &option] { z.ueb_typ = option.index(); }};
+        option.store = [this, &option] { z.ueb_typ = option.index(); };
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
     cmdEnde.onClick = {"cmdEnde_click.", [this] { cmdEnde_click(); }};
     cmdHilfe.onClick = {"cmdHilfe_click.", [this] { HilfeZeigen(); }};
@@ -54,8 +57,6 @@ void GrdEinst::start_timer() {
     setCaption(p.katalog.titelWort + Wort(700) + p.katalog.bereich_name[0]);
     copyright.caption = Wort(6) + " " + Wort(699) + " " + versionText();
     Theoriewahl(0).choose();
-    z.theoriewahl = 0;
-    z.ueb_typ = 1;
     ueb_typ(1).choose();
     int tempo = 0;
     for (const int dauer : katalog::tempo_dauer) z.tempo_dauer[tempo++] = dauer;
@@ -79,11 +80,6 @@ void GrdEinst::KommandozeileLesen() const {
     const std::string& zeile = p.aufruf.kommandozeile;
     for (auto at = zeile.find("/P="); at != std::string::npos; at = zeile.find(';', at + 1))
         continue;
-}
-
-void GrdEinst::Theoriewahl_click(int index) {
-    z.theoriewahl = index;
-    ueb_typ(1).choose();
 }
 
 void GrdEinst::cmdOK_click() {

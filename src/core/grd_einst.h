@@ -19,7 +19,6 @@ class GrdEinst final : public Formular {
 
   private:
     void start_timer();
-    void Theoriewahl_click(int index);
     void cmdOK_click();
     void cmdEnde_click();
     void KommandozeileLesen() const;

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
-#include <utility>
 
 namespace core {
 
@@ -53,8 +52,17 @@ void Host::HostVerbinden(const std::optional<std::string>& modulName) {
         throw ProgrammEnde{1};
     }
     Value geraet;
-    if (frage("MIDI", {}, geraet)) midiGeraet_ = base::i16(base::leadingInt(geraet.text()));
+    if (frage("MIDI", {}, geraet)) GeraetMerken(geraet.text());
     HostMeldung(versionText() + " " + programm);
+}
+
+/// A number beyond 16 bits counts as no answer.
+void Host::GeraetMerken(const std::string& nummer) {
+    try {
+        midiGeraet_ = base::i16(base::leadingInt(nummer));
+    } catch (const base::RuntimeError&) {
+        midiGeraet_ = keinGeraet;
+    }
 }
 
 void Host::HostUebergabe(form::Forms& forms, const std::string& key) {
@@ -65,9 +73,17 @@ void Host::HostUebergabe(form::Forms& forms, const std::string& key) {
 }
 
 bool Host::HostSichern(const std::string& key, const Value& wert) {
-    Value ergebnis;
-    if (frage("STORE", Value::Array{programm, key, wert}, ergebnis)) return true;
-    if (!std::exchange(verlustGemeldet_, true) && verlust) verlust();
+    Verlust was{.hostFort = !hostObjekt_};
+    try {
+        Value ergebnis;
+        if (hostObjekt_ &&
+            hostObjekt_->request("STORE", Value::Array{programm, key, wert}, ergebnis))
+            return true;
+        was.grund = ergebnis.text();
+    } catch (const HostGone&) {
+        was.hostFort = true;
+    }
+    if (verlust) verlust(was);
     return false;
 }
 

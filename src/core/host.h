@@ -35,7 +35,7 @@ class Host {
     void HostVerbinden(const std::optional<std::string>& modulName = {});
     /// Unloads all forms, last first, and hands over to the host.
     void HostUebergabe(form::Forms& forms, const std::string& key);
-    /// Stores a record; when that fails `verlust` is raised, once. @return whether it is stored.
+    /// Stores a record; when that fails `verlust` is raised. @return whether it is stored.
     bool HostSichern(const std::string& key, const Value& wert);
     /// Element 0 the user key or "unbekannt", then the user's data.
     Value HostBenutzer();
@@ -51,11 +51,16 @@ class Host {
     /// MIDI device number given by the host, `keinGeraet` when it gave none.
     int midiGeraet() const { return midiGeraet_; }
 
-    /// Something could not be stored, since the host is gone.
-    std::function<void()> verlust;
+    /// A record that was not stored.
+    struct Verlust {
+        bool hostFort = false;   ///< the host is gone; else it refused
+        std::string grund = {};  ///< why it refused, "" when it does not say
+    };
+    std::function<void(const Verlust&)> verlust;
 
   private:
     std::optional<Value> HostLesen(const std::string& key);
+    void GeraetMerken(const std::string& nummer);
     /// A request whose failure as a call counts as the answer false.
     bool frage(const std::string& key, const Value& argument, Value& ergebnis);
 
@@ -64,7 +69,6 @@ class Host {
     Zustand& zustand_;
     std::unique_ptr<HostPort> hostObjekt_;
     int midiGeraet_ = keinGeraet;
-    bool verlustGemeldet_ = false;
 };
 
 /// "1.0.0000": major and minor version and the revision in four digits.

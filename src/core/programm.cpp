@@ -5,14 +5,16 @@
 
 namespace core {
 
-Programm::Programm(Ports p, Aufruf a, std::int64_t seed)
+Programm::Programm(Ports p, Aufruf a)
     : ports(std::move(p)),
       aufruf(std::move(a)),
       worte(ports.sprachen),
       host(ports.host, ports.dialogs, zustand),
-      rnd(seed),
       forms(ports.loop) {
-    host.verlust = [this] { Melden("Melvora 2000", Wort(814)); };
+    host.verlust = [this](const Host::Verlust& was) {
+        const int wort = was.hostFort ? 814 : was.grund.empty() ? 893 : 894;  // words
+        Melden("Melvora 2000", eingesetzt(Wort(wort), was.grund));
+    };
     forms.add("grd_einst", [this] { return std::make_unique<GrdEinst>(*this); });
     forms.add("frmMessage", [this] { return std::make_unique<FrmMessage>(*this); });
 }

@@ -8,6 +8,7 @@
 #include "form/message_loop.h"
 #include "form/ports.h"
 
+#include <functional>
 #include <string>
 
 namespace core {
@@ -18,6 +19,8 @@ struct Ports {
     form::Dialogs& dialogs;
     form::Printer& printer;
     form::Help& help;
+    /// A seed for the chance of a run, from the clock; asked once for each.
+    std::function<std::int64_t()> saat;
     Host::Factory host;
     SprachListe* sprachen = nullptr;
 };
@@ -25,7 +28,8 @@ struct Ports {
 /// What the shell gave at the start.
 struct Aufruf {
     std::string kommandozeile = {};
-    std::string tempOrdner = {};       ///< folder of the result record, without a slash at its end
+    std::string tempOrdner = {};       ///< folder of the result record, without a slash at
+                                       ///< its end; "" for the current one
     std::string rechnername = {};      ///< the computer's name
     std::string programmOrdner = {};   ///< folder of the texts that come with the program
     std::string stueckeOrdner = {};    ///< folder of the settings files, without a slash at its end
@@ -38,7 +42,7 @@ struct Aufruf {
 /// reference to it.
 class Programm {
   public:
-    Programm(Ports ports, Aufruf aufruf, std::int64_t seed);
+    Programm(Ports ports, Aufruf aufruf);
 
     const std::string& Wort(int id) { return worte.Wort(id); }
     /// The branch and the exercise type in force, as the start form captions them.

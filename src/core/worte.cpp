@@ -6,8 +6,7 @@
 namespace core {
 
 void Worte::SprachenLaden() {
-    sprachListe_ok_ = sprachListe_ != nullptr;
-    if (sprachListe_ok_) sprachen_ = sprachListe_->sprachen();
+    if (sprachListe_) sprachen_ = sprachListe_->sprachen();
 }
 
 void Worte::SpracheSetzen(const std::string& name) {

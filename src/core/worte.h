@@ -35,9 +35,9 @@ class Worte {
     explicit Worte(SprachListe* liste) : sprachListe_(liste) {}
 
     void SprachenLaden();
-    bool SprachenVorhanden() const { return sprachListe_ok_; }
     /// Takes the language of that name; an unknown name changes nothing.
     void SpracheSetzen(const std::string& name);
+    bool hatSprache() const { return sprachObjekt_ != nullptr; }
     /// The word, "VOID" when there is no language or it lacks the number.
     const std::string& Wort(int id);
     /// Of the language in force, "de" without one.
@@ -45,7 +45,6 @@ class Worte {
 
   private:
     SprachListe* sprachListe_;
-    bool sprachListe_ok_ = false;
     std::vector<SprachListe::Sprache> sprachen_;
     std::unique_ptr<SprachObjekt> sprachObjekt_;
     std::string suffix_ = "de";

@@ -15,9 +15,8 @@ void Drill::worksheet(const std::string& name) {
     programm.forms.add(name, [this] { return std::make_unique<Sheet>(programm, midi, wertung); });
 }
 
-Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiAusgabe,
-             std::int64_t seed)
-    : programm(std::move(ports), std::move(aufruf), seed),
+Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiAusgabe)
+    : programm(std::move(ports), std::move(aufruf)),
       midi(programm.ports.loop, programm.host),
       wertung(programm),
       ausgabe(midiAusgabe) {

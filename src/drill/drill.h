@@ -8,7 +8,7 @@ namespace drill {
 /// The whole drill as one value: the program, its sound and its scores, with every form known by
 /// name. It holds no adapter; whoever builds it hands them in and outlives it.
 struct Drill {
-    Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& ausgabe, std::int64_t seed);
+    Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& ausgabe);
     Drill(const Drill&) = delete;
     Drill& operator=(const Drill&) = delete;
 

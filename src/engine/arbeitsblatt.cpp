@@ -87,8 +87,7 @@ void Arbeitsblatt::start_timer() {
     forms().show(name());
 
     z.schalter_frei = 0;
-    if (z.uebungsmodus >= core::modus::pruefung && z.zufallsNr != 0)
-        p.rnd.restart(-int(z.zufallsNr));
+    Saeen();
     wertung_.auswertung.Clear();
     wertung_.ergebnis_best.Clear();
     for (form::Label& zahl : zaehler) zahl.caption = "0";
@@ -110,6 +109,13 @@ void Arbeitsblatt::start_timer() {
     LbNextAufg.visible = automatisch;
     if (automatisch) WahlAutomat.start();
     ereignis(Ereignis::LaufBereit);
+}
+
+/// Chance begins anew with every run: an exam with a number repeats its tasks, and nothing goes on
+/// with them.
+void Arbeitsblatt::Saeen() {
+    const bool nummer = z.uebungsmodus >= core::modus::pruefung && z.zufallsNr != 0;
+    p.rnd.restart(nummer ? -int(z.zufallsNr) : p.ports.saat());
 }
 
 void Arbeitsblatt::ModusEinrichten() {

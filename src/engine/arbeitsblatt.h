@@ -137,6 +137,7 @@ class Arbeitsblatt : public core::Formular {
     void Uhrzeit_timer();
     void ZeitAbzaehlen();
 
+    void Saeen();
     void Stilllegen();
     void ErgebnisZeigen();
     void SatzSichern();
@@ -170,6 +171,10 @@ class Arbeitsblatt : public core::Formular {
     form::Panel zurueck{*this, {"zurueck", form::Place::noIndex, &PicArb1}};
     form::Panel matboxanz{*this, {"matboxanz", form::Place::noIndex, &PicUetyp(0)}};
     form::ControlArray<form::Label> ergebnis_anz{*this, "ergebnis_anz", 3, &PicUetyp(0)};
+    /// Labels of a state that no exercise of this program shows.
+    form::ControlArray<form::Label> AuP_lab{*this, "AuP_lab", 4, &PicUetyp(2)};
+    form::ControlArray<form::Label> AuP_Inh{*this, "AuP_Inh", 4, &PicUetyp(2)};
+    form::Label lbAutP_Typ{*this, {"lbAutP_Typ", form::Place::noIndex, &PicUetyp(2)}};
     form::Label stop_uhr{*this, {"stop_uhr", form::Place::noIndex, &PicUetyp(1)}};
     form::Label lab_aufgaben{*this, {"lab_aufgaben", form::Place::noIndex, &PicUetyp(1)}};
     form::Button cmd_test_ein{*this, {"cmd_test_ein", form::Place::noIndex, &PicUetyp(1)}};

@@ -4,6 +4,10 @@
 #include "engine/arbeitsblatt.h"
 #include "engine/trainingsstand.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 namespace engine {
 
 namespace colours = base::colours;
@@ -73,7 +77,7 @@ void Arbeitsblatt::zurueck_click() {
         ErgebnisZeigen();
     } else {
         ereignis(Ereignis::LaufEnde);
-        SichernAnbieten();
+        guard("zurueck_click.", [this] { SichernAnbieten(); });
     }
     SatzSichern();
     Heimkehren();
@@ -103,10 +107,18 @@ bool Arbeitsblatt::TrainingSichern() {
            p.host.HostSichern("A" + satz, z.abbruch_stand);
 }
 
+/// The worksheet stays until the result has come.
 void Arbeitsblatt::ErgebnisZeigen() {
-    forms().hide(name());
-    midi_.Delay(300);
-    forms().runModal("testergebnis");
+    constexpr auto formular = "testergebnis";
+    guard("ErgebnisZeigen.", [this] {
+        forms().hide(formular);
+        midi_.Delay(300);
+        form::Form& form = forms().load(formular);
+        const form::Connection gekommen = form.changed.connect([&] {
+            if (form.visible()) forms().hide(name());
+        });
+        forms().runModal(formular);
+    });
 }
 
 /// A record that cannot be written must not keep the learner here: the fault is told, the way goes
@@ -127,8 +139,15 @@ void Arbeitsblatt::Heimkehren() {
     forms().unload(name());
 }
 
-void Arbeitsblatt::nachFehler(const std::string&) {
+/// A run that cannot go on is left; anything else that fails is told, and the run goes on.
+void Arbeitsblatt::nachFehler(const std::string& prozedur) {
+    constexpr std::array<std::string_view, 5> tragende{
+        "start_timer.", "spieltimer_timer.", "skal_antw_click.", "MatWahl.", "cmdOK_click."};
+    if (std::ranges::find(tragende, prozedur) == tragende.end()) return;
     zurueck.tag = "ERROR";
+    // A training that cannot be gone on with is not offered once more.
+    if (prozedur == tragende.front() && z.uebungsmodus == core::modus::fortsetzung)
+        core::FortsetzungAnbieten(p, einstellungsform(), false, core::modus::training);
     zurueck_click();
 }
 

@@ -157,17 +157,23 @@ void KlangVorfuehrung::Wiederholen() {
         wieder2.click();
 }
 
-void KlangVorfuehrung::kontrolleAnbieten(bool erlaubt) {
+void KlangVorfuehrung::kontrolleAnbieten() {
     wieder.enabled = false;
-    wieder.visible = false;
     wieder2.visible = true;
     if (eigene) eigene->visible = true;
-    kontrolleErlauben(erlaubt);
+    kontrolleErlauben(true);
 }
 
-void KlangVorfuehrung::AufgabeGeschlossen() { kontrolleAnbieten(true); }
+void KlangVorfuehrung::AufgabeGeschlossen() {
+    kontrolleAnbieten();
+    wieder.visible = false;
+}
 
-void KlangVorfuehrung::LaufBeendet(bool kontrolle) { kontrolleAnbieten(kontrolle); }
+void KlangVorfuehrung::LaufBeendet(bool kontrolle) {
+    if (kontrolle) return kontrolleAnbieten();
+    wieder.enabled = false;
+    kontrolleErlauben(false);
+}
 
 void KlangVorfuehrung::Verlassen() {
     spieltimer.stop();

@@ -44,7 +44,7 @@ class KlangVorfuehrung final : public Vorfuehrung {
     void FeinVerstimmen();
     /// Index into noten of what sounds at a position.
     int tonAn(int position) const;
-    void kontrolleAnbieten(bool erlaubt);
+    void kontrolleAnbieten();
     void kontrolleErlauben(bool erlaubt);
 
     Arbeitsblatt& blatt_;

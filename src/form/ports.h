@@ -1,5 +1,7 @@
 #pragma once
+#include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace form {
 
@@ -26,12 +28,19 @@ class Dialogs {
     virtual std::string askSaveFile(const FileQuestion& question) = 0;
 };
 
-/// Puts the picture of a form on paper.
+/// Nothing was printed.
+class PrintFault : public std::runtime_error {
+  public:
+    /// @param printer the one that took nothing, "" when there is none.
+    explicit PrintFault(const std::string& printer) : std::runtime_error(printer) {}
+    bool noPrinter() const { return std::string_view(what()).empty(); }
+};
+
+/// Puts what stands on a form on paper.
 class Printer {
   public:
     virtual ~Printer() = default;
-    /// On the default printer, in landscape; asks nothing. @throws std::runtime_error with what
-    /// failed and what to do.
+    /// On the default printer, in landscape; asks nothing. @throws PrintFault
     virtual void print(Form& form) = 0;
 };
 

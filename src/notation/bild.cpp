@@ -155,9 +155,16 @@ class Ausschnitt final : public Flaeche {
     Flaeche& flaeche_;
 };
 
+void ViertelnoteMalen(Flaeche& ziel) {
+    constexpr int x = 5, y = 21, kuerzer = -6;
+    NotenkopfMalen(ziel, x, y, farbe::schwarz);
+    HalsMalen(ziel, x, y, kuerzer, 0);
+}
+
 }  // namespace
 
 void BildMalen(Flaeche& ziel, int nummer) {
+    if (nummer == viertelnote) return ViertelnoteMalen(ziel);
     Bild bild{};
     if (!bildVon(nummer, bild)) return;
     Ausschnitt flaeche(ziel);

@@ -9,8 +9,18 @@ namespace notation {
 /// Size of every scale picture, in logical pixels.
 inline constexpr int bildBreite = 270;
 inline constexpr int bildHoehe = 86;
-/// Pictures are numbered 0 to `bilderAnz` - 1; some numbers no scale reaches.
+/// Pictures of scales are numbered 0 to `bilderAnz` - 1; some numbers no scale reaches.
 inline constexpr int bilderAnz = 80;
+/// A quarter note, as in the tempo of an exercise.
+inline constexpr int viertelnote = bilderAnz;
+
+/// Size of a picture, in logical pixels.
+struct Bildgroesse {
+    int breite, hoehe;
+};
+constexpr Bildgroesse bildGroesse(int nummer) {
+    return nummer == viertelnote ? Bildgroesse{12, 26} : Bildgroesse{bildBreite, bildHoehe};
+}
 
 /// A scale as the picture store numbers it.
 struct Bild {
@@ -26,7 +36,8 @@ bool bildVon(int nummer, Bild& bild);
 /// each letter once where it has seven tones, a tetrachord on four letters.
 std::vector<Ton> bildToene(const Bild& bild);
 
-/// Draws a picture: five lines, clef, heads, accidentals. A number without a scale draws nothing.
+/// Draws a picture; of a scale five lines, clef, heads, accidentals. A number that no picture has
+/// draws nothing.
 void BildMalen(Flaeche& ziel, int nummer);
 
 }  // namespace notation

@@ -91,7 +91,9 @@ void SchreibBlatt::AntwortenOeffnen() {
     cmdOK.enabled = true;
 }
 
+/// A form that is being left shows what stood there to the end.
 void SchreibBlatt::AntwortenSchliessen() {
+    if (abbruch()) return;
     palette_.PaletteAus();
     cmdOK.enabled = false;
 }

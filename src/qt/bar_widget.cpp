@@ -43,9 +43,9 @@ void BarWidget::paintEvent(QPaintEvent*) {
     painter.setPen(hasFocus() ? QPen(look::accent, 2) : QPen(look::line));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(area, 4, 4);
-    if (percent_ <= 0 || !isEnabled()) return;
+    if (percent() == 0) return;
     QRectF filled = area.adjusted(1, 1, -1, -1);
-    filled.setWidth(filled.width() * percent_ / 100);
+    filled.setWidth(filled.width() * percent() / 100);
     painter.setPen(Qt::NoPen);
     painter.setBrush(look::accent);
     painter.drawRoundedRect(filled, 3, 3);

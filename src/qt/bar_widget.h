@@ -1,6 +1,8 @@
 #pragma once
 #include <QWidget>
 
+#include <algorithm>
+
 namespace qt {
 
 /// A slim bar filled from the left.
@@ -9,6 +11,8 @@ class BarWidget final : public QWidget {
     using QWidget::QWidget;
     /// 0..100.
     void setPercent(int percent);
+    /// What is filled; 0 where nothing counts.
+    int percent() const { return isEnabled() ? std::clamp(percent_, 0, 100) : 0; }
     QSize sizeHint() const override { return {120, 14}; }
 
     /// What the fill means, in words: told when the bar is pointed at or has the focus.

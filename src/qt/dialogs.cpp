@@ -4,6 +4,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
+
+#include <initializer_list>
+#include <utility>
 
 namespace qt {
 
@@ -21,11 +25,21 @@ QMessageBox::Icon iconOf(form::Icon icon) {
     return QMessageBox::NoIcon;
 }
 
-QMessageBox::StandardButton ask(form::Icon icon, const std::string& title, const std::string& text,
-                                QMessageBox::StandardButtons buttons) {
+using Button = std::pair<const std::string&, QMessageBox::ButtonRole>;
+
+/// @param buttons the default first, last the one of Esc and the close box.
+/// @return whether the default was pressed.
+bool ask(form::Icon icon, const std::string& title, const std::string& text,
+         std::initializer_list<Button> buttons) {
     QMessageBox box(iconOf(icon), QString::fromStdString(title), QString::fromStdString(text),
-                    buttons, QApplication::activeWindow());
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+                    QMessageBox::NoButton, QApplication::activeWindow());
+    for (const auto& [caption, role] : buttons) {
+        auto* button = box.addButton(QString::fromStdString(caption), role);
+        if (!box.defaultButton()) box.setDefaultButton(button);
+        box.setEscapeButton(button);
+    }
+    box.exec();
+    return box.clickedButton() == box.defaultButton();
 }
 
 /// A file dialog of the toolkit's own: it speaks the language of the program on every desktop.
@@ -35,6 +49,7 @@ std::string askFile(const form::Dialogs::FileQuestion& question, QFileDialog::Ac
     QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(question.title),
                        save ? proposal.path() : proposal.filePath(),
                        QString::fromStdString(question.kind + " (" + question.pattern + ")"));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setDefaultSuffix(QFileInfo(QString::fromStdString(question.pattern)).suffix());
@@ -54,12 +69,14 @@ std::string QtDialogs::askSaveFile(const FileQuestion& question) {
 }
 
 void QtDialogs::message(form::Icon icon, const std::string& title, const std::string& text) {
-    ask(icon, title, text, QMessageBox::Ok);
+    const Answers a = answers();
+    ask(icon, title, text, {{a.ok, QMessageBox::AcceptRole}});
 }
 
 bool QtDialogs::askYesNo(const std::string& title, const std::string& text) {
-    return ask(form::Icon::Question, title, text, QMessageBox::Yes | QMessageBox::No) ==
-           QMessageBox::Yes;
+    const Answers a = answers();
+    return ask(form::Icon::Question, title, text,
+               {{a.yes, QMessageBox::YesRole}, {a.no, QMessageBox::NoRole}});
 }
 
 }  // namespace qt

@@ -14,6 +14,9 @@ class FormWindow final : public QWidget {
     Binder& binder() { return binder_; }
     /// Called once, before the window is seen: what depends on the form's contents.
     std::function<void()> beforeOpening;
+    /// What shows the form's contents without its buttons; the window itself unless said.
+    QWidget& contents() const { return *contents_; }
+    void setContents(QWidget& contents) { contents_ = &contents; }
     /// The size with which the window first opens, cut to the screen.
     void openWith(const QSize& size) { opening_ = size; }
 
@@ -29,6 +32,7 @@ class FormWindow final : public QWidget {
     form::Form& form_;
     Binder binder_;
     form::Connection changed_;
+    QWidget* contents_ = this;
     QSize opening_{720, 520};
     bool opened_ = false;
     bool waiting_ = false;

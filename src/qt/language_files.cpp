@@ -1,5 +1,7 @@
 #include "qt/language_files.h"
 
+#include "look/toolkit_texts.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QTranslator>
@@ -12,8 +14,9 @@ namespace {
 
 class LanguageFile final : public core::SprachObjekt {
   public:
-    explicit LanguageFile(const QString& path) {
+    LanguageFile(const QString& path, const QString& suffix) {
         if (!texts_.load(path)) throw std::runtime_error("no language file " + path.toStdString());
+        toolkit_.take(suffix);
     }
     std::string Wort(const std::string& key) override {
         const QString text = texts_.translate("", key.c_str());
@@ -23,6 +26,7 @@ class LanguageFile final : public core::SprachObjekt {
 
   private:
     QTranslator texts_;
+    look::ToolkitTexts toolkit_;
 };
 
 const QString prefix = QStringLiteral("melvoralang.");
@@ -49,10 +53,10 @@ std::vector<core::SprachListe::Sprache> LanguageFiles::sprachen() {
 }
 
 std::unique_ptr<core::SprachObjekt> LanguageFiles::erzeugen(const std::string& klasse) {
-    const QString file =
-        QDir(folder_).filePath(QString::fromStdString(klasse) + QStringLiteral(".qm"));
+    const QString name = QString::fromStdString(klasse);
     try {
-        return std::make_unique<LanguageFile>(file);
+        return std::make_unique<LanguageFile>(QDir(folder_).filePath(name + QStringLiteral(".qm")),
+                                              name.mid(prefix.size()));
     } catch (const std::runtime_error&) {
         return nullptr;
     }

@@ -23,7 +23,7 @@ QLabel* digit(Binder& bind, int i) {
     return label;
 }
 
-/// Digit and name in one line, the picture below; the frame's colour tells the state.
+/// The picture with its name below; the frame's colour tells the state.
 QWidget* pictureAnswer(Binder& bind, int i) {
     auto& frame = bind.control<form::Panel>("skal_pan", i);
     auto* card = new AnswerCard;
@@ -35,10 +35,10 @@ QWidget* pictureAnswer(Binder& bind, int i) {
     auto* inside = new QVBoxLayout(card);
     inside->setContentsMargins(6, 4, 6, 6);
     inside->setSpacing(2);
-    auto* head = new QHBoxLayout;
-    head->addWidget(labelOf(bind, "skal_bez", i), 1);
-    inside->addLayout(head);
     inside->addWidget(bind("ton_art", i), 1);
+    QLabel* name = labelOf(bind, "skal_bez", i);
+    name->setAlignment(Qt::AlignCenter);
+    inside->addWidget(name);
     return card;
 }
 

@@ -1,4 +1,6 @@
 #include "look/look.h"
+#include "notation/bild.h"
+#include "qt/picture_widget.h"
 #include "qt/windows.h"
 
 #include <QGridLayout>
@@ -57,6 +59,10 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
     auto* tempo = new QHBoxLayout;
     tempo->addWidget(bind("lb15", 0));
     tempo->addWidget(bind("temp_Combo"), 1);
+    auto* note = static_cast<PictureWidget*>(bind("pic15"));
+    note->setPicture(notation::viertelnote);
+    note->setFixedSize(note->sizeHint() * look::scale());
+    tempo->addWidget(note);
     tempo->addWidget(bind("lb15", 1));
     sound->addLayout(tempo);
     QVBoxLayout* check = groups.begin(nullptr, 14);

@@ -9,11 +9,19 @@ void layoutFrmMessage(FormWindow& window) {
     Binder& bind = window.binder();
     auto* page = new QVBoxLayout(&window);
     page->setContentsMargins(18, 16, 18, 14);
+    // The title stands on its picture.
+    QWidget* picture = bind("picTitel");
     QWidget* title = bind("lblTitel");
     look::font(*title, 1.15, true);
-    page->addWidget(title);
+    auto* band = new QHBoxLayout(picture);
+    band->setContentsMargins(look::margin, look::gap, look::margin, look::gap);
+    band->addWidget(title);
+    picture->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    page->addWidget(picture);
     page->addWidget(bind("txtPrompt"), 1);
     page->addWidget(bind("cmdOK"), 0, Qt::AlignRight);
+    // Whatever form is shown meanwhile, it is read first.
+    window.setWindowFlag(Qt::WindowStaysOnTopHint);
     window.openWith({460, 240});
 }
 

@@ -13,10 +13,16 @@ void layoutGrdEinst(FormWindow& window) {
     page->setContentsMargins(24, 20, 24, 12);
     page->setSpacing(look::margin);
 
-    auto* picture = static_cast<PictureWidget*>(bind("PicAktion"));
-    picture->setPicture(0);
-    picture->setFixedHeight(110);
-    page->addWidget(picture);
+    auto* pictures = new QHBoxLayout;
+    pictures->setSpacing(look::margin);
+    // A mode that rises, and the one that a minor scale is.
+    for (const auto& [name, number] : {std::pair{"PicAktion", 0}, {"MThPic", 5}}) {
+        auto* picture = static_cast<PictureWidget*>(bind(name));
+        picture->setPicture(number);
+        picture->setFixedHeight(110);
+        pictures->addWidget(picture);
+    }
+    page->addLayout(pictures);
 
     auto* choices = new QHBoxLayout;
     choices->setSpacing(look::margin);
@@ -62,7 +68,7 @@ void layoutGrdEinst(FormWindow& window) {
     look::font(*footer, 0.9);
     look::colours(*footer, look::muted);
     page->addWidget(footer, 0, Qt::AlignRight);
-    window.openWith({560, 400});
+    window.openWith({620, 400});
 }
 
 }  // namespace qt

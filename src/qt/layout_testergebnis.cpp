@@ -1,5 +1,6 @@
 #include "look/look.h"
 #include "qt/windows.h"
+#include "qt/worksheet_page.h"
 #include "results/testergebnis.h"
 
 #include <QGridLayout>
@@ -90,9 +91,6 @@ QWidget* weights(Binder& bind) {
     return frame;
 }
 
-/// So many stand below each other before the next go beside them.
-constexpr int pairsBelow = 18;
-
 /// Keys and values below each other.
 QWidget* pairs(Binder& bind, const char* frameName, const char* keys, const char* values) {
     QWidget* frame = bind(frameName);
@@ -101,15 +99,26 @@ QWidget* pairs(Binder& bind, const char* frameName, const char* keys, const char
     grid->setVerticalSpacing(2);
     grid->setHorizontalSpacing(look::margin);
     for (int i = 0; bind.has(keys, i); ++i) {
-        QWidget* key = bind(keys, i);
+        QLabel* key = labelOf(bind, keys, i);
         look::colours(*key, look::muted);
-        const int column = i / pairsBelow * 2;
-        grid->addWidget(key, i % pairsBelow, column, Qt::AlignTop);
-        grid->addWidget(bind(values, i), i % pairsBelow, column + 1);
+        grid->addWidget(key, i, 0, Qt::AlignTop);
+        QLabel* value = labelOf(bind, values, i);
+        value->setWordWrap(true);
+        value->setAlignment(Qt::AlignTop);
+        grid->addWidget(value, i, 1);
     }
     grid->setColumnStretch(1, 1);
     frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     return frame;
+}
+
+/// However long the contents are, the buttons stay in sight.
+QWidget* scrolled(QWidget* contents, QWidget& window) {
+    auto* scroll = new QScrollArea(&window);
+    scroll->setWidget(contents);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    return scroll;
 }
 
 }  // namespace
@@ -119,8 +128,10 @@ void layoutTestergebnis(FormWindow& window) {
     auto* page = new QVBoxLayout(&window);
     page->setContentsMargins(20, 16, 20, look::margin);
     page->setSpacing(look::margin);
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(36);
+    auto* contents = new QWidget;
+    auto* columns = new QHBoxLayout(contents);
+    columns->setContentsMargins(0, 0, look::margin, 0);
+    columns->setSpacing(28);
     auto* left = new QVBoxLayout;
     left->setSpacing(look::gap);
     heading(bind, left, "erg_head");
@@ -136,7 +147,8 @@ void layoutTestergebnis(FormWindow& window) {
     right->addWidget(pairs(bind, "einst_cont", "einst_lab", "einst_Inh"));
     right->addStretch(1);
     columns->addLayout(right, 1);
-    page->addLayout(columns, 1);
+    window.setContents(*contents);
+    page->addWidget(scrolled(contents, window), 1);
 
     QWidget* buttons = bind("PicSchalt");
     auto* actions = new QHBoxLayout(buttons);

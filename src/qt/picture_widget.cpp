@@ -13,20 +13,31 @@
 
 namespace qt {
 
-using notation::bildBreite;
-using notation::bildHoehe;
+namespace {
+
+/// Room around a picture.
+constexpr int besideIt = 6, aboveIt = 3;
+
+}  // namespace
 
 PictureWidget::PictureWidget(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-QSize PictureWidget::sizeHint() const { return {bildBreite + 12, bildHoehe + 6}; }
+QSize PictureWidget::sizeHint() const {
+    const auto [width, height] = notation::bildGroesse(number_);
+    return {width + 2 * besideIt, height + 2 * aboveIt};
+}
 
-QSize PictureWidget::minimumSizeHint() const { return {bildBreite * 3 / 4, bildHoehe * 3 / 4}; }
+QSize PictureWidget::minimumSizeHint() const {
+    const auto [width, height] = notation::bildGroesse(number_);
+    return {width * 3 / 4, height * 3 / 4};
+}
 
 void PictureWidget::setPicture(int number) {
     number_ = number;
     drawn_ = {};
+    updateGeometry();
     update();
 }
 
@@ -43,11 +54,12 @@ const QPixmap& PictureWidget::drawn() {
     drawn_ = QPixmap(pixels);
     drawn_.setDevicePixelRatio(ratio);
     drawn_.fill(Qt::transparent);
-    const double scale =
-        staffScale(std::min((width() - 12.0) / bildBreite, (height() - 6.0) / bildHoehe), ratio);
+    const auto [wide, high] = notation::bildGroesse(number_);
+    const double scale = staffScale(
+        std::min((width() - 2.0 * besideIt) / wide, (height() - 2.0 * aboveIt) / high), ratio);
     QPainter painter(&drawn_);
-    painter.translate(std::round((width() - bildBreite * scale) / 2 * ratio) / ratio,
-                      std::round((height() - bildHoehe * scale) / 2 * ratio) / ratio);
+    painter.translate(std::round((width() - wide * scale) / 2 * ratio) / ratio,
+                      std::round((height() - high * scale) / 2 * ratio) / ratio);
     painter.scale(scale, scale);
     PainterSurface surface(painter);
     notation::BildMalen(surface, number_);

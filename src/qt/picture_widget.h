@@ -8,7 +8,7 @@
 
 namespace qt {
 
-/// Shows a scale picture as large as it fits, sharp at the screen's scale, and can be clicked.
+/// Shows a picture of notes as large as it fits, sharp at the screen's scale, and can be clicked.
 class PictureWidget final : public QWidget {
   public:
     explicit PictureWidget(QWidget* parent = nullptr);

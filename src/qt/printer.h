@@ -8,19 +8,20 @@ class QWidget;
 
 namespace qt {
 
-/// Prints the window of a form as a picture that fills the page.
+/// Prints what stands on a form, as large as the page allows.
 class QtPrinter final : public form::Printer {
   public:
-    using WindowOf = std::function<QWidget*(const form::Form&)>;
-    explicit QtPrinter(WindowOf windowOf) : windowOf_(std::move(windowOf)) {}
+    /// The widget that shows what of a form is printed, nullptr for a form without one.
+    using PaperOf = std::function<QWidget*(const form::Form&)>;
+    explicit QtPrinter(PaperOf paperOf) : paperOf_(std::move(paperOf)) {}
     void print(form::Form& form) override;
 
   private:
-    WindowOf windowOf_;
+    PaperOf paperOf_;
 };
 
-/// Prints a widget in landscape to a PDF file, or on the default printer for an empty path.
-/// @throws std::runtime_error saying what failed and what to do.
+/// Prints the labels and bars of a widget in landscape, to a PDF file or on the default printer for
+/// an empty path, on the paper that the printer has. @throws form::PrintFault
 void printWidget(QWidget& widget, const std::string& pdf);
 
 }  // namespace qt

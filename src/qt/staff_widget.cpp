@@ -207,6 +207,11 @@ Blatt* StaffWidget::target() const {
     return nullptr;
 }
 
+bool StaffWidget::within(const Blatt& surface, QPointF position) const {
+    const QSizeF size = QSizeF(surface.lage().breite, surface.lage().hoehe) * scale();
+    return QRectF(placeOf(surface, {}), size).contains(position);
+}
+
 notation::Zug StaffWidget::dragAt(const form::Control& source, QPointF position) const {
     const QPointF at = (position - placeOf(*target(), {})) / scale();
     return {source, static_cast<float>(at.x()), static_cast<float>(at.y())};
@@ -214,33 +219,45 @@ notation::Zug StaffWidget::dragAt(const form::Control& source, QPointF position)
 
 void StaffWidget::dragEnterEvent(QDragEnterEvent* event) {
     source_ = sourceOf(*event);
-    entered_ = target();
-    if (!source_ || !entered_) return event->ignore();
-    entered_->ueber(dragAt(*source_, event->position()), ZugZustand::Betreten);
+    if (!source_ || !target()) return event->ignore();
+    dragTo(event->position());
     event->acceptProposedAction();
 }
 
+/// The drag enters and leaves the surface that is seen, not this widget, which is larger.
+void StaffWidget::dragTo(QPointF position) {
+    notation::Blatt* seen = target();
+    if (seen && !within(*seen, position)) seen = nullptr;
+    if (entered_ && entered_ != seen) entered_->ueber({*source_, 0, 0}, ZugZustand::Verlassen);
+    if (seen)
+        seen->ueber(dragAt(*source_, position),
+                    seen == entered_ ? ZugZustand::Ueber : ZugZustand::Betreten);
+    entered_ = seen;
+}
+
 void StaffWidget::dragMoveEvent(QDragMoveEvent* event) {
-    if (!source_ || !entered_ || entered_ != target()) return event->ignore();
-    const auto drag = dragAt(*source_, event->position());
-    entered_->ueber(drag, ZugZustand::Ueber);
-    event->setAccepted(!entered_->wuerdeAblehnen(drag));
+    if (!source_) return event->ignore();
+    dragTo(event->position());
+    event->setAccepted(entered_ && !entered_->wuerdeAblehnen(dragAt(*source_, event->position())));
     if (event->isAccepted()) event->acceptProposedAction();
 }
 
-void StaffWidget::dragLeaveEvent(QDragLeaveEvent*) {
-    if (source_ && entered_) entered_->ueber({*source_, 0, 0}, ZugZustand::Verlassen);
-    source_ = nullptr;
-    entered_ = nullptr;
-}
+void StaffWidget::dragLeaveEvent(QDragLeaveEvent*) { dragEnds(); }
 
 void StaffWidget::dropEvent(QDropEvent* event) {
-    if (source_ && entered_) {
+    if (source_) dragTo(event->position());
+    if (entered_) {
         entered_->ablegen(dragAt(*source_, event->position()));
+        entered_ = nullptr;
         event->acceptProposedAction();
     }
-    source_ = nullptr;
+    dragEnds();
+}
+
+void StaffWidget::dragEnds() {
+    if (entered_) entered_->ueber({*source_, 0, 0}, ZugZustand::Verlassen);
     entered_ = nullptr;
+    source_ = nullptr;
 }
 
 void StaffWidget::keyPressEvent(QKeyEvent* event) {

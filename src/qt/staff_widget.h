@@ -45,6 +45,9 @@ class StaffWidget final : public QWidget {
     QPointF origin() const;
     /// The visible surface inside this one that takes drops; nullptr for none.
     notation::Blatt* target() const;
+    bool within(const notation::Blatt& surface, QPointF position) const;
+    void dragTo(QPointF position);
+    void dragEnds();
     notation::Zug dragAt(const form::Control& source, QPointF position) const;
 
     notation::Blatt& surface_;

@@ -41,7 +41,7 @@ Windows::~Windows() {
     for (auto& [form, window] : windows_) delete window.release();
 }
 
-QWidget* Windows::of(const form::Form& form) const {
+FormWindow* Windows::of(const form::Form& form) const {
     const auto it = windows_.find(&form);
     return it == windows_.end() ? nullptr : it->second.get();
 }

@@ -13,7 +13,7 @@ class Windows {
     explicit Windows(form::Forms& forms);
     ~Windows();
     /// nullptr for a form without a window.
-    QWidget* of(const form::Form& form) const;
+    FormWindow* of(const form::Form& form) const;
 
   private:
     struct Later {

@@ -2,7 +2,9 @@
 #include "qt/worksheet_page.h"
 
 #include "look/look.h"
+#include "qt/group_frame.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QVBoxLayout>
 
@@ -15,6 +17,27 @@ QLabel* labelOf(Binder& bind, const char* name, int index) {
 namespace {
 
 constexpr int sideWidth = 250;
+
+/// Keeps a widget over the middle of another one, in front, without a place in its layout.
+class InTheMiddle final : public QObject {
+  public:
+    InTheMiddle(QWidget& above, QWidget& below) : QObject(&above), above_(above), below_(below) {
+        above.installEventFilter(this);
+        below.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Resize && event->type() != QEvent::Show) return false;
+        if (above_.isHidden()) return false;
+        above_.resize(above_.sizeHint());
+        above_.move(below_.rect().center() - above_.rect().center());
+        above_.raise();
+        return false;
+    }
+
+  private:
+    QWidget& above_;
+    QWidget& below_;
+};
 
 /// Result, counters, and what leads on.
 QWidget* sidePanel(Binder& bind) {
@@ -76,14 +99,14 @@ QWidget* sidePanel(Binder& bind) {
     QWidget* training = bind("PicUetyp", 0);
     auto* bar = new QVBoxLayout(training);
     bar->setContentsMargins(0, 0, 0, 0);
+    QWidget* flood = bind("matboxanz");
+    flood->setMinimumHeight(18);
+    bar->addWidget(flood);
     for (const int i : {0, 1, 2}) {
         QLabel* caption = labelOf(bind, "ergebnis_anz", i);
         look::font(*caption, 1, true);
         bar->addWidget(caption);
     }
-    QWidget* flood = bind("matboxanz");
-    flood->setMinimumHeight(18);
-    bar->addWidget(flood);
     column->addWidget(training);
     QWidget* exam = bind("PicUetyp", 1);
     auto* clock = new QVBoxLayout(exam);
@@ -131,10 +154,14 @@ void worksheetPage(FormWindow& window, QWidget* area) {
     page->addLayout(footer);
 
     // The waiting notice lies over the middle of the form.
-    QWidget* wait = bind("WaitMeldung");
+    auto* wait = static_cast<GroupFrame*>(bind("WaitMeldung"));
+    wait->setColour(Qt::white);
     auto* notice = new QVBoxLayout(wait);
-    notice->addWidget(bind("WaitMeld"), 0, Qt::AlignCenter);
-    page->addWidget(wait);
+    notice->setContentsMargins(28, 20, 28, 20);
+    QWidget* words = bind("WaitMeld");
+    look::font(*words, 1.15, true);
+    notice->addWidget(words);
+    new InTheMiddle(*wait, window);
     window.openWith({980, 690});
 }
 

@@ -1,23 +1,13 @@
 #include "results/skalaxml.h"
 
+#include "base/rounding.h"
 #include "base/runtime_error.h"
 #include "base/whole_file.h"
 
-#include <charconv>
 #include <sstream>
 #include <system_error>
 
 namespace results {
-
-namespace {
-
-/// The shortest decimal that reads back as the same float.
-std::string alsText(float v) {
-    char text[32];
-    return {text, std::to_chars(text, text + sizeof text, v).ptr};
-}
-
-}  // namespace
 
 void Skalaxml::SkalaXmlNeu() {
     dokument_.reset();
@@ -25,7 +15,8 @@ void Skalaxml::SkalaXmlNeu() {
     erklaerung.append_attribute("version") = "1.0";
     erklaerung.append_attribute("encoding") = "UTF-8";
     auto wurzel = dokument_.append_child("exercise");
-    datei_ = p.aufruf.tempOrdner + "/RSX" + p.ports.loop.now().stamp() + ".xml";
+    const std::string& ordner = p.aufruf.tempOrdner;
+    datei_ = (ordner.empty() ? "" : ordner + "/") + "RSX" + p.ports.loop.now().stamp() + ".xml";
     auto eigenschaften = wurzel.append_child("properties");
     eigenschaften.append_attribute("programm") = "ZEPHA9";
     eigenschaften.append_attribute("ukey") = p.host.HostBenutzer().at(0).text().c_str();
@@ -48,7 +39,7 @@ pugi::xml_node Skalaxml::AntwortNeu(pugi::xml_node lektion, i16 lfd) {
 
 pugi::xml_node Skalaxml::AntwortSchluss() {
     const auto node = antwort();
-    AntwortEigenschaft(node, "Dauer Antwort", alsText(p.zustand.AntwDau));
+    AntwortEigenschaft(node, "Dauer Antwort", base::decimal(p.zustand.AntwDau));
     AntwortEigenschaft(node, "Anz Whlg", std::to_string(p.zustand.whlg_anz));
     return node;
 }

@@ -138,8 +138,9 @@ void Testergebnis::cmdPrint_click() {
         for (form::Label& label : *labels) label.backColour = colours::white;
     try {
         p.ports.printer.print(*this);
-    } catch (const std::runtime_error& fehler) {
-        p.Melden("Melvora 2000", core::eingesetzt(Wort(831), fehler.what()));
+    } catch (const form::PrintFault& fehler) {
+        p.Melden("Melvora 2000",
+                 fehler.noPrinter() ? Wort(896) : core::eingesetzt(Wort(831), fehler.what()));
     }
     PicSchalt.backColour = colours::white;
     PicSchalt.visible = true;

@@ -41,7 +41,7 @@ int sortierteStelle(const std::vector<form::ItemList::Item>& liste, int code) {
         std::ranges::find_if(liste, [&](const auto& e) { return groesse <= std::abs(e.data); });
     const auto p = static_cast<int>(stelle - liste.begin());
     const bool gleiche = stelle != liste.end() && std::abs(stelle->data) == groesse;
-    return gleiche && code < 0 ? p + 1 : p;
+    return gleiche && code <= 0 ? p + 1 : p;
 }
 
 Urteil auswahlBeurteilen(const std::vector<form::ItemList::Item>& gewaehlt, int final,

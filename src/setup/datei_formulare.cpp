@@ -53,7 +53,6 @@ void FrmSave::cmdSave_click() {
 }
 
 void FrmSave::cmdOK_click() {
-    if (txt(0).text().empty()) return cmdSave_click();
     SaveOptions = {{"File", txt(0).text()}, {"Desc", txt(1).text()}};
     forms().hide(name());
 }
@@ -80,7 +79,6 @@ void FrmLoad::cmdSave_click() {
 }
 
 void FrmLoad::cmdOK_click() {
-    if (txt(0).text().empty()) return cmdSave_click();
     SettingFile = txt(0).text();
     forms().hide(name());
 }

@@ -99,21 +99,25 @@ void Einstellung::OhneKlang() {
 }
 
 void Einstellung::Verbinden() {
-    const auto speichert = [](form::ControlArray<form::Option>& optionen, const char* prozedur,
-                              i16& feld) {
-        for (form::Option& option : optionen)
-            option.onClick = {prozedur, [&feld, &option] { feld = option.index(); }};
+    struct Wahl {
+        form::ControlArray<form::Option>& optionen;
+        i16& feld;
+        const char* prozedur;
+        void (Einstellung::*folge)() = nullptr;
     };
-    speichert(abfrage, "abfrage_click.", z.abfrage);
-    speichert(frequenz, "frequenz_click.", z.frequenz);
-    speichert(stimm_g, "stimm_g_click.", z.stimmung);
-    speichert(an_zeig, "an_zeig_click.", z.an_zeig);
-    for (form::Option& option : final)
-        option.onClick = {"final_click.", [this, &option] { final_click(option.index()); }};
-    for (form::Option& option : abfolge)
-        option.onClick = {"abfolge_click.", [this, &option] { abfolge_click(option.index()); }};
-    for (form::Option& option : ska_ausw)
-        option.onClick = {"ska_ausw_click.", [this, &option] { ska_ausw_click(option.index()); }};
+    for (const Wahl& wahl :
+         {Wahl{abfrage, z.abfrage, "abfrage_click."},
+          {frequenz, z.frequenz, "frequenz_click."},
+          {stimm_g, z.stimmung, "stimm_g_click."},
+          {an_zeig, z.an_zeig, "an_zeig_click."},
+          {final, z.final, "final_click.", &Einstellung::final_click},
+          {abfolge, z.abfolge, "abfolge_click.", &Einstellung::abfolge_click},
+          {ska_ausw, z.ska_ausw, "ska_ausw_click.", &Einstellung::ska_ausw_click}})
+        for (form::Option& option : wahl.optionen) {
+            option.store = [&feld = wahl.feld, &option] { feld = option.index(); };
+            option.onClick.procedure = wahl.prozedur;
+            if (wahl.folge) option.onClick.run = [this, folge = wahl.folge] { (this->*folge)(); };
+        }
 
     temp_Combo.onSelect = {"temp_Combo_click.", [this] { z.tempoIdx = temp_Combo.listIndex(); }};
     Combo_richtung.onSelect = {"Combo_richtung_click.", [this] {
@@ -139,6 +143,10 @@ void Einstellung::Verbinden() {
     popExamToggle.onClick = {"popExamToggle_click.", [this] { popExamToggle_click(); }};
     cmdHilfe.onClick = {"cmdHilfe_click.", [this] { HilfeZeigen(); }};
     start.onTick = {"start_timer.", [this] { start_timer(); }};
+    listeGeaendert_ = lst_ska1.changed.connect([this](form::Aspect aspect) {
+        if (aspect == form::Aspect::Items) AuswahlStandZeigen();
+    });
+    formularFort_ = forms().gone.connect([this](form::Form&) { KlangKontrolleAbschliessen(); });
 }
 
 void Einstellung::start_timer() {
@@ -220,6 +228,7 @@ void Einstellung::Beschriften() {
          {an_zeig(1), 157},    {lb10(1), 140},       {lb10(2), 135},     {popExamToggle, 843},
          {cmdOptionRead, 829}, {cmdOptionSave, 830}, {cmdHilfe, 816},    {cmdZurueck, 640},
          {cmdOK, 432},         {copyright, 6}});
+    AuswahlStandZeigen();
     if (klingt()) KlangBeschriften();
     benennen({{CmbOktAnz, 107},
               {CmbOktBer, 153},
@@ -247,7 +256,7 @@ void Einstellung::KlangBeschriften() {
 }
 
 void Einstellung::TonHinweisZeigen() {
-    constexpr std::array hinweise{0, 810, 811, 812};  // words
+    constexpr std::array hinweise{0, 810, 811, 812, 890};  // words
     const int wort = hinweise.at(static_cast<std::size_t>(MIDI.problem()));
     tonHinweis.caption = wort == 0 ? std::string() : Wort(wort);
     tonHinweis.visible = wort != 0;

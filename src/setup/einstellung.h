@@ -45,14 +45,14 @@ class Einstellung final : public core::Formular {
 
     void skal_typ_cmb_click();
     void RegelnAnwenden();
-    void final_click(int index);
-    void abfolge_click(int index);
+    void final_click();
+    void abfolge_click();
     void CmbOktAnz_click();
     void CmbOktBer_click();
     void ComboPatch_click();
     void HSliderVolume_change();
     Richtungen richtungen() const { return {z.abfolge, z.richtung}; }
-    void ska_ausw_click(int index);
+    void ska_ausw_click();
     void AuswahlOeffnen();
     void lst_ska_click(form::ListBox& quelle, form::ListBox& ziel);
     void selectionCheck();
@@ -68,11 +68,12 @@ class Einstellung final : public core::Formular {
     struct Gemerkt {
         std::array<int, 2> stelle;  ///< its element in the saved settings of each branch, or keine
         std::function<int()> lesen;
-        std::function<bool(int)> bietet;  ///< the form offers this value
+        /// @throws run-time error 9 for a value that the form has not.
         std::function<void(int)> waehlen;
     };
     std::size_t stelle(const Gemerkt& wahl) const;
     std::vector<Gemerkt> gemerkteWahl();
+    void SkalenWiederherstellen(const core::Value& satz);
     bool FortsetzungVorhanden();
     core::Value::Array WahlMerken();
     void WahlWiederherstellen(const core::Value& satz);
@@ -81,10 +82,12 @@ class Einstellung final : public core::Formular {
     void PruefungMarkieren(form::Group& gruppe);
     void popExamToggle_click();
     void cmdOptionSave_click();
+    void DateiSchreiben(const std::string& pfad, const std::string& beschreibung);
     void cmdOptionRead_click();
     void StartdateiAnwenden();
     void klang_contr_click();
     void QueueEmpty();
+    void KlangKontrolleAbschliessen();
     void TonHinweisZeigen();
     void cmdOK_click();
     void ModusSchritt();
@@ -110,7 +113,9 @@ class Einstellung final : public core::Formular {
     Zweig zweig_;
     bool bereit_ = false;
     bool abbruch_ = false;
+    bool verklungen_ = false;           ///< a sound check has ended and was not closed yet
     form::Group* popGruppe_ = nullptr;  ///< of the last right-click
+    form::Connection listeGeaendert_, formularFort_;
 
     // The order of the controls is also their order in a settings file.
     form::ControlArray<form::Group> grdeinst{*this, "grdeinst", gruppenIndices(zweig_, false)};

@@ -3,16 +3,14 @@
 
 namespace setup {
 
-void Einstellung::final_click(int index) {
-    z.final = index;
+void Einstellung::final_click() {
     writeHint(0);
     if (z.ska_ausw == 1) selectionCheck();
 }
 
 /// While scales are being picked, their category and the direction cannot change.
-void Einstellung::ska_ausw_click(int index) {
-    z.ska_ausw = index;
-    const bool alle = index == 0;
+void Einstellung::ska_ausw_click() {
+    const bool alle = z.ska_ausw == 0;
     if (!alle) AuswahlOeffnen();
     grdeinst(10).visible = !alle;
     for (form::Control* control : std::initializer_list<form::Control*>{
@@ -28,7 +26,6 @@ void Einstellung::AuswahlOeffnen() {
     lb10(0).visible = true;
     lst_ska0.setItems(skalenZurWahl(p.katalog, z.skal_typ, richtungen()));
     lst_ska1.clear();
-    AuswahlStandZeigen();
 }
 
 /// Both lists stay sorted: the item takes its place among those of the other.
@@ -48,7 +45,6 @@ void Einstellung::selectionCheck() {
         writeHint(urteil == Urteil::Ungleich ? 1 : 0);
     lb10(0).visible = urteil != Urteil::Genug;
     cmdOK.enabled = urteil == Urteil::Genug;
-    AuswahlStandZeigen();
 }
 
 void Einstellung::writeHint(int flag) {

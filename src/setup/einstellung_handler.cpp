@@ -29,14 +29,11 @@ void Einstellung::RegelnAnwenden() {
         if (stimmung.index() != 0) stimmung.enabled = r.melodieStimmung;
     if (r.melodieStimmung) return;
     abfolge(0).choose();
-    if (klingt()) stimm_g(0).choose();
-    // The stored tuning may differ from the one shown: a run must not sound in a forbidden one.
-    z.stimmung = 0;
+    stimm_g(0).choose();
 }
 
-void Einstellung::abfolge_click(int index) {
-    z.abfolge = index;
-    const bool melodie = index == 1;
+void Einstellung::abfolge_click() {
+    const bool melodie = z.abfolge == 1;
     Combo_richtung.setListIndex(melodie ? 0 : 2);
     Combo_richtung.visible = !melodie;
     lb4.visible = !melodie;
@@ -96,11 +93,7 @@ void Einstellung::GruppenOeffnen() {
 
 void Einstellung::prfnr_Comb_click() {
     z.prfNr = prfnr_Comb.listIndex() + 1;
-    if (!bereit_) return;
-    PruefungVorgeben();
-    // An exam runs over all scales: a choice that is not enough must not stand in its way.
-    lb10(0).visible = false;
-    if (klang_contr.enabled()) cmdOK.enabled = true;
+    if (bereit_) PruefungVorgeben();
 }
 
 void Einstellung::PruefungVorgeben() {
@@ -128,9 +121,12 @@ void Einstellung::cmdOK_click() {
     ModusSchritt();
     setPointer(form::Pointer::Hourglass);
     p.ports.loop.doEvents();
-    cmdOK.enabled = true;
-    forms().hide(name());
     setPointer(form::Pointer::Arrow);
+    if (abbruch_) return;
+    cmdOK.enabled = true;
+    // A sound check that is still under way ends with the run's first silence.
+    verklungen_ = !klang_contr.enabled();
+    forms().hide(name());
     forms().show("arbeitsblatt" + core::satz(z));
 }
 

@@ -5,6 +5,7 @@
 #include "core/zustand.h"
 #include "form/controls.h"
 #include "setup/regeln.h"
+#include "setup/wohlgeformt.h"
 
 #include <pugixml.hpp>
 
@@ -144,14 +145,12 @@ void anwenden(form::Form& form, const Einstellungssatz::Eintrag& eintrag) {
     };
     switch (control->kind()) {
         case form::Kind::Option:
-            if (erster() != "True" || !control->enabled() || !control->visible())
-                base::throwTypeMismatch(erster());
+            if (erster() != "True") base::throwTypeMismatch(erster());
             static_cast<form::Option*>(control)->choose();
             break;
         case form::Kind::Combo: {
             auto& combo = *static_cast<form::Combo*>(control);
             const int stelle = base::parseInt(erster());
-            if (stelle < 0) base::throwSubscript();
             if (stelle < combo.count()) combo.setListIndex(stelle);
             break;
         }
@@ -196,7 +195,7 @@ void EinstellungenSchreiben(const std::string& pfad, const std::string& text) {
 Einstellungssatz EinstellungenLesenAus(const std::string& bytes) {
     Einstellungssatz satz;
     pugi::xml_document dokument;
-    if (!dokument.load_buffer(bytes.data(), bytes.size())) return {};
+    if (!wohlgeformt(bytes) || !dokument.load_buffer(bytes.data(), bytes.size())) return {};
     try {
         for (const pugi::xml_node kind : dokument.document_element().first_child())
             if (kind.type() == pugi::node_element)

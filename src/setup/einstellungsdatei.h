@@ -34,16 +34,16 @@ std::string EinstellungenText(const form::Form& form, int ueb_typ, const std::st
 /// Writes the file as a whole. @throws std::system_error, and what was there stays.
 void EinstellungenSchreiben(const std::string& pfad, const std::string& text);
 
-/// Never throws: what is no settings file, or is bigger than 512 KB, reads as an empty one.
-/// Attributes and unknown elements are passed over.
+/// Never throws: what is not well-formed, no settings file, or bigger than 512 KB reads as an empty
+/// one. Attributes and unknown elements are passed over.
 Einstellungssatz EinstellungenLesen(const std::string& pfad);
 Einstellungssatz EinstellungenLesenAus(const std::string& bytes);
 
 /// The exercise type that a settings file is for; naming when it does not say.
 int uebungstyp(const std::string& pfad);
 
-/// Chooses what the entries say and locks what holds each control. The first entry that the form
-/// does not offer ends it, and what was applied stays.
+/// Chooses what the entries say, also of what is disabled or hidden now, and locks what holds each
+/// control. The first entry that the form has not ends it, and what was applied stays.
 void EinstellungenAnwenden(form::Form& form, const Einstellungssatz& satz);
 
 }  // namespace setup

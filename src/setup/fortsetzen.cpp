@@ -18,30 +18,30 @@ constexpr int wahlenAnz(Zweig zweig) { return zweig == Zweig::Gehoerbildung ? 11
 
 }  // namespace
 
-/// In the order in which they are chosen again: what comes later depends on what comes before. The
-/// direction is chosen twice, since the category may have reset it.
+/// In the order in which they are chosen again: what comes later depends on what comes before.
+/// Category and order of tones may have reset the direction, which is therefore chosen again behind
+/// each of them; the lists are filled for what was chosen before.
 std::vector<Einstellung::Gemerkt> Einstellung::gemerkteWahl() {
     const auto option = [](std::array<int, 2> stelle, i16& feld,
                            form::ControlArray<form::Option>& optionen) {
         return Gemerkt{stelle, [&feld] { return int(feld); },
-                       [&optionen](int wert) { return optionen(wert).visible(); },
-                       [&optionen, &feld](int wert) {
-                           optionen(wert).choose();
-                           feld = wert;
-                       }};
+                       [&optionen](int wert) { optionen(wert).choose(); }};
     };
     const auto combo = [](std::array<int, 2> stelle, form::Combo& liste) {
         return Gemerkt{stelle, [&liste] { return liste.listIndex(); },
-                       [](int wert) { return wert >= 0; },
-                       [&liste](int wert) { liste.setListIndex(wert); }};
+                       [&liste](int wert) {
+                           liste.item(wert);
+                           liste.setListIndex(wert);
+                       }};
     };
     const Gemerkt richtung = combo({2, 1}, Combo_richtung);
     Gemerkt auswahl = option({3, 2}, z.ska_ausw, ska_ausw);
-    // The lists are filled anew for the category and the direction that were chosen before.
     auswahl.waehlen = [this](int wert) {
         ska_ausw(wert).choose();
-        ska_ausw_click(wert);
+        ska_ausw_click();
     };
+    Gemerkt richtungDanach = richtung, auswahlDanach = auswahl;
+    richtungDanach.stelle[0] = auswahlDanach.stelle[0] = keine;
     std::vector<Gemerkt> alle{
         option({0, 0}, z.abfrage, abfrage),
         combo({1, keine}, temp_Combo),
@@ -56,6 +56,8 @@ std::vector<Einstellung::Gemerkt> Einstellung::gemerkteWahl() {
         option({9, keine}, z.stimmung, stimm_g),
         option({z.ueb_typ == core::uebung::bestimmen ? 10 : keine, 7}, z.an_zeig, an_zeig),
         option({keine, 8}, z.abfolge, abfolge),
+        richtungDanach,
+        auswahlDanach,
     };
     std::erase_if(alle, [this](const Gemerkt& g) {
         return g.stelle[static_cast<std::size_t>(zweig_)] == keine;
@@ -84,25 +86,24 @@ core::Value::Array Einstellung::WahlMerken() {
     return satz;
 }
 
-/// Nothing is chosen before everything is known to be offered: settings of another form must not
-/// be restored in part. @throws run-time errors 9 and 13 for settings that do not fit.
+/// Step by step: what was chosen stays when a value comes that the form has not.
+/// @throws run-time errors 6, 9 and 13 for that value.
 void Einstellung::WahlWiederherstellen(const core::Value& satz) {
-    const auto zahl = [&](std::size_t i) { return base::parseInt(satz.at(i).text()); };
-    const auto wahlen = gemerkteWahl();
-    for (const Gemerkt& wahl : wahlen)
-        if (!wahl.bietet(zahl(stelle(wahl)))) base::throwSubscript();
-    for (const Gemerkt& wahl : wahlen) wahl.waehlen(zahl(stelle(wahl)));
+    for (const Gemerkt& wahl : gemerkteWahl())
+        wahl.waehlen(base::parseInt(satz.at(stelle(wahl)).text()));
+    if (z.ska_ausw == 1) SkalenWiederherstellen(satz);
+}
 
-    if (z.ska_ausw != 1) return;
-    const auto anzahl = static_cast<std::size_t>(wahlenAnz(zweig_));
-    const auto erster = anzahl + 1;
-    const int letzter = zahl(anzahl);
-    if (letzter < 0 || erster + static_cast<std::size_t>(letzter) >= satz.items().size())
-        base::throwSubscript();
-    for (int i = 0; i <= letzter; ++i) {
-        const std::string text = satz.at(erster + static_cast<std::size_t>(i)).text();
+/// A scale that the lists do not offer is left out.
+void Einstellung::SkalenWiederherstellen(const core::Value& satz) {
+    const auto erste = static_cast<std::size_t>(wahlenAnz(zweig_)) + 1;
+    const int letzte = base::parseInt(satz.at(erste - 1).text());
+    for (int i = 0; i <= letzte; ++i) {
+        const auto stelle = erste + static_cast<std::size_t>(i);
+        if (stelle >= satz.items().size()) base::throwSubscript();
         const auto& liste = lst_ska0.items();
-        const auto skala = std::ranges::find(liste, text, &form::ItemList::Item::text);
+        const auto skala =
+            std::ranges::find(liste, satz.at(stelle).text(), &form::ItemList::Item::text);
         if (skala != liste.end()) lst_ska0.click(static_cast<int>(skala - liste.begin()));
     }
 }

@@ -27,6 +27,7 @@ int verstimmung(int stimmung, int note) {
 void Einstellung::klang_contr_click() {
     constexpr int noten = 6;
     const int d = base::rounded((z.FrquMaxAkt - z.FrquMinAkt) / 5.0);
+    verklungen_ = false;
     klang_contr.enabled = false;
     cmdOK.enabled = false;
     midi_.MidiReset();
@@ -46,7 +47,15 @@ void Einstellung::klang_contr_click() {
 }
 
 void Einstellung::QueueEmpty() {
-    if (abbruch_ || !forms().last() || forms().last()->caption() != caption()) return;
+    verklungen_ = !klang_contr.enabled();
+    KlangKontrolleAbschliessen();
+}
+
+/// While another form is on top it waits: what is enabled behind that form's back could be pressed.
+void Einstellung::KlangKontrolleAbschliessen() {
+    if (!verklungen_ || abbruch_) return;
+    if (!forms().last() || forms().last()->caption() != caption()) return;
+    verklungen_ = false;
     klang_contr.enabled = true;
     if (z.ska_ausw == 1)
         selectionCheck();

@@ -28,12 +28,17 @@ void Einstellung::cmdOptionSave_click() {
     forms().runModal("frmSave");
     auto* formular = static_cast<FrmSave*>(forms().loaded("frmSave"));
     if (!formular) return;
-    const auto wahl = formular->SaveOptions;
+    const auto& wahl = formular->SaveOptions;
+    // A failure is told here, so that the dialog goes in any case.
+    if (!wahl.empty())
+        guard("cmdOptionSave_click.", [&] { DateiSchreiben(wahl.at("File"), wahl.at("Desc")); });
     forms().unload("frmSave");
-    if (wahl.empty()) return;
-    const std::string& pfad = wahl.at("File");
+}
+
+void Einstellung::DateiSchreiben(const std::string& pfad, const std::string& beschreibung) {
+    if (pfad.empty()) throw base::RuntimeError(base::ErrorNumber::PathAccess, Wort(889));
     try {
-        EinstellungenSchreiben(pfad, EinstellungenText(*this, z.ueb_typ, wahl.at("Desc")));
+        EinstellungenSchreiben(pfad, EinstellungenText(*this, z.ueb_typ, beschreibung));
     } catch (const std::system_error& fehler) {
         throw base::RuntimeError(
             base::ErrorNumber::PathAccess,

@@ -12,6 +12,14 @@ bool training(const core::Zustand& z) {
     return z.uebungsmodus == core::modus::training || z.uebungsmodus == core::modus::fortsetzung;
 }
 
+/// One for each run, so that the tasks of a run do not hang on the length of the run before.
+std::function<std::int64_t()> seeds(std::int64_t seed) {
+    return [chance = base::Rnd(seed)]() mutable {
+        constexpr int half = 1 << 24;
+        return std::int64_t{chance.below(half)} * half + chance.below(half);
+    };
+}
+
 }  // namespace
 
 Simulation::Simulation(const Options& options, std::ostream* trace)
@@ -22,8 +30,8 @@ Simulation::Simulation(const Options& options, std::ostream* trace)
       dialogs_(options.keep),
       trace_(trace ? std::make_unique<Trace>(*trace, loop_) : nullptr),
       output_(trace_.get()),
-      drill_({loop_, dialogs_, printer_, help_, host_.factory(), &words_},
-             {"", folder_.path().string(), "simulation"}, output_, options.seed),
+      drill_({loop_, dialogs_, printer_, help_, seeds(options.seed), host_.factory(), &words_},
+             {"", folder_.path().string(), "simulation"}, output_),
       // Its chance is its own, so that the same tasks can be given to different learners.
       pupil_(loop_, options.learner, drill_.programm.zustand, ~options.seed),
       road_(drill_, worksheet_) {

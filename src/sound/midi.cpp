@@ -1,7 +1,5 @@
 #include "sound/midi.h"
 
-#include "base/runtime_error.h"
-
 #include <algorithm>
 
 namespace sound {
@@ -16,12 +14,6 @@ constexpr std::int32_t ausTag = 1000000;
 
 }  // namespace
 
-MidiOutput& Midi::ausgabe() const {
-    if (!midi_ausgabe_)
-        throw base::RuntimeError(base::ErrorNumber::InvalidCall, "no MIDI output was opened");
-    return *midi_ausgabe_;
-}
-
 std::vector<MidiDevice> Midi::MidiGeraete(MidiOutput& control) {
     std::vector<MidiDevice> geraete;
     const int anzahl = control.deviceCount();
@@ -31,7 +23,7 @@ std::vector<MidiDevice> Midi::MidiGeraete(MidiOutput& control) {
 }
 
 void Midi::MidiInit(MidiOutput& control) {
-    if (midi_ausgabe_) LautstaerkeHerstellen();
+    LautstaerkeHerstellen();
     midi_ausgabe_ = &control;
     midi_kanal_ = 0;
     midi_lautstaerke_ = 100;

@@ -4,6 +4,7 @@
 #include "core/host.h"
 #include "form/message_loop.h"
 #include "sound/midi_output.h"
+#include "sound/null_output.h"
 
 #include <vector>
 
@@ -44,10 +45,9 @@ class Midi {
 
     /// Velocity of every note, also of the volume slider, 0..127.
     void setLautstaerke(i16 wert);
-    i16 lautstaerke() const { return midi_lautstaerke_; }
     i16 geraet() const { return midi_geraet_; }
-    /// The control in use. @throws run-time error 5 before `MidiInit`.
-    MidiOutput& ausgabe() const;
+    /// The control in use; one that does nothing before `MidiInit`.
+    MidiOutput& ausgabe() const { return *midi_ausgabe_; }
 
   private:
     static constexpr int stufe = 500;
@@ -58,7 +58,8 @@ class Midi {
 
     form::MessageLoop& loop_;
     const core::Host& host_;
-    MidiOutput* midi_ausgabe_ = nullptr;
+    NullOutput ohne_;
+    MidiOutput* midi_ausgabe_ = &ohne_;
     i16 midi_kanal_ = 0;
     i16 midi_lautstaerke_ = 100;
     i16 midi_geraet_ = MidiOutput::mapper;

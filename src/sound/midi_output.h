@@ -22,7 +22,7 @@ struct MidiDevice {
 };
 
 /// Why nothing can be heard; `None` while everything is in order.
-enum class SoundProblem { None, NoSoundfont, NoAudioDevice, DeviceLost };
+enum class SoundProblem { None, NoSoundfont, NoAudioDevice, DeviceLost, NoLibrary };
 
 /// Everything the drill needs of a MIDI output. It exists so that the drill can play to a
 /// synthesiser, to an external port, to a recorder or to nothing. Calls come from one thread.

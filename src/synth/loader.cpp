@@ -20,7 +20,7 @@ using Entry = sound::MidiOutput* (*)(const Post*);
 [[noreturn]] void fail(const std::string& what) {
     const char* reason = dlerror();
     throw std::runtime_error("No sound: " + what + (reason ? ": " : "") + (reason ? reason : "") +
-                             ". Install Melvora again, with its package for sound.");
+                             ". Install libfluidsynth3, or Melvora again.");
 }
 
 fs::path libraryFile() {

@@ -1,16 +1,29 @@
 #include "zepha9/lazy_output.h"
 
-#include "base/runtime_error.h"
 #include "synth/loader.h"
+#include "zepha9/silent_output.h"
+
+#include <stdexcept>
+#include <utility>
 
 namespace zepha9 {
 
 sound::MidiOutput& LazyOutput::real() {
-    if (real_) return *real_;
+    if (!real_) load();
+    return *real_;
+}
+
+void LazyOutput::open(int id) {
+    if (problem() == sound::SoundProblem::NoLibrary) load();
+    real().open(id);
+}
+
+void LazyOutput::load() {
     try {
         real_ = synth::loadSynthOutput(post_);
     } catch (const std::runtime_error& fault) {
-        throw base::RuntimeError(base::ErrorNumber::DeviceIo, fault.what());
+        if (const auto tell = std::exchange(missing_, nullptr)) tell(fault.what());
+        real_ = std::make_unique<SilentOutput>();
     }
     real_->queueEmpty = [this] {
         if (queueEmpty) queueEmpty();
@@ -18,7 +31,6 @@ sound::MidiOutput& LazyOutput::real() {
     real_->problemChanged = [this] {
         if (problemChanged) problemChanged();
     };
-    return *real_;
 }
 
 }  // namespace zepha9

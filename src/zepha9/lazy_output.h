@@ -7,14 +7,17 @@
 namespace zepha9 {
 
 /// The MIDI output, loaded when it is first asked for: the start form and the theory branch need no
-/// sound and should not wait for it.
+/// sound and should not wait for it. Without the sound library it is silent, and looks for it again
+/// when it is opened.
 class LazyOutput final : public sound::MidiOutput {
   public:
-    explicit LazyOutput(synth::Post post) : post_(std::move(post)) {}
+    /// @param missing told once, with the reason, when the library cannot be loaded.
+    LazyOutput(synth::Post post, std::function<void(const std::string&)> missing)
+        : post_(std::move(post)), missing_(std::move(missing)) {}
 
     int deviceCount() override { return real().deviceCount(); }
     sound::MidiDevice device(int id) override { return real().device(id); }
-    void open(int id) override { real().open(id); }
+    void open(int id) override;
     void close() override { real().close(); }
     bool isOpen() const override { return real_ && real_->isOpen(); }
     void queue(const sound::MidiEvent& event) override { real().queue(event); }
@@ -29,10 +32,11 @@ class LazyOutput final : public sound::MidiOutput {
     }
 
   private:
-    /// @throws base::RuntimeError 57 when the sound library cannot be loaded.
     sound::MidiOutput& real();
+    void load();
 
     synth::Post post_;
+    std::function<void(const std::string&)> missing_;
     std::unique_ptr<sound::MidiOutput> real_;
 };
 

@@ -1,5 +1,6 @@
 #include "drill/drill.h"
 #include "hostlink/dbus_host.h"
+#include "look/application.h"
 #include "look/fonts_ahead.h"
 #include "look/look.h"
 #include "qt/dialogs.h"
@@ -11,10 +12,11 @@
 #include "setup/einstellungsdatei.h"
 #include "zepha9/lazy_output.h"
 
-#include <QApplication>
 #include <QDateTime>
 #include <QStandardPaths>
 #include <QSysInfo>
+
+#include <cstdlib>
 
 namespace {
 
@@ -43,9 +45,17 @@ core::Aufruf aufruf(const QStringList& arguments) {
 
 }  // namespace
 
+/// Nothing goes on behind a fault that nobody caught: it is logged, told, and the program ends.
+[[noreturn]] void endWith(core::Programm& program, const std::exception& fault) {
+    program.host.HostFehler("uncaught.", fault);
+    program.ports.dialogs.message(form::Icon::Stop, "Melvora 2000",
+                                  core::eingesetzt(program.Wort(895), fault.what()));
+    std::_Exit(3);
+}
+
 int main(int argc, char** argv) {
     const std::jthread fonts = look::readFontsAhead();
-    QApplication application(argc, argv);
+    look::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("zepha9"));
     QApplication::setApplicationVersion(QStringLiteral(MELVORA_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -56,17 +66,29 @@ int main(int argc, char** argv) {
     qt::QtHelp help;
     qt::LanguageFiles languages(qt::LanguageFiles::installedFolder());
     qt::Windows* shown = nullptr;
-    qt::QtPrinter printer([&shown](const form::Form& form) { return shown->of(form); });
-    zepha9::LazyOutput output([&loop](std::function<void()> call) { loop.post(std::move(call)); });
+    qt::QtPrinter printer([&shown](const form::Form& form) {
+        const qt::FormWindow* window = shown->of(form);
+        return window ? &window->contents() : nullptr;
+    });
+    core::Programm* program = nullptr;
+    zepha9::LazyOutput output(
+        [&loop](std::function<void()> call) { loop.post(std::move(call)); },
+        [&program](const std::string& reason) { program->host.HostMeldung(reason); });
 
     drill::Drill drill({.loop = loop,
                         .dialogs = dialogs,
                         .printer = printer,
                         .help = help,
+                        .saat = [] { return QDateTime::currentMSecsSinceEpoch(); },
                         .host = [] { return std::make_unique<hostlink::DbusHost>(); },
                         .sprachen = &languages},
-                       aufruf(QApplication::arguments()), output,
-                       QDateTime::currentMSecsSinceEpoch());
+                       aufruf(QApplication::arguments()), output);
+    program = &drill.programm;
+    dialogs.answers = [program]() -> qt::QtDialogs::Answers {
+        if (!program->worte.hatSprache()) return {};
+        return {program->Wort(432), program->Wort(891), program->Wort(892)};
+    };
+    application.uncaught = [program](const std::exception& fault) { endWith(*program, fault); };
     qt::Windows windows(drill.programm.forms);
     shown = &windows;
     const form::Connection end = drill.programm.forms.empty.connect([] { QApplication::quit(); });
@@ -74,6 +96,8 @@ int main(int argc, char** argv) {
         drill.programm.forms.load("grd_einst");
     } catch (const core::ProgrammEnde& ende) {
         return ende.status;
+    } catch (const std::exception& fault) {
+        endWith(*program, fault);
     }
     return QApplication::exec();
 }

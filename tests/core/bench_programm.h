@@ -10,8 +10,9 @@ namespace core {
 /// A program with its ports faked, not yet linked to its host.
 struct BenchProgramm {
     BenchProgramm()
-        : p({loop, dialogs, printer, help, [this] { return host.connect(); }, &words},
-            {.kommandozeile = "/P=a;b;;c", .tempOrdner = "/nowhere", .rechnername = "desk12"}, 1) {}
+        : p({loop, dialogs, printer, help, [] { return 1; }, [this] { return host.connect(); },
+             &words},
+            {.kommandozeile = "/P=a;b;;c", .tempOrdner = "/nowhere", .rechnername = "desk12"}) {}
 
     form::VirtualTime loop;
     support::FakeHost host;

@@ -59,6 +59,7 @@ TEST(HostVerbinden, TakesTheDeviceThatTheHostGives) {
                                         {"-1", -1},
                                         {" 2 x", 2},
                                         {"none", 0},
+                                        {"40000", -9},
                                         {{}, -9}}) {
         SCOPED_TRACE(given.value_or("no answer"));
         BenchProgramm bench;
@@ -101,20 +102,26 @@ TEST(HostLesen, FindsOnlyWhatIsARecord) {
     }
 }
 
-TEST(Host, EveryRequestToleratesAHostThatIsGone) {
+TEST(Host, EveryRequestToleratesAHostThatIsGoneAndEveryLossIsTold) {
     BenchProgramm bench;
     bench.p.host.HostVerbinden();
-    bench.host.gone = true;
     Host& host = bench.p.host;
-    int lost = 0;
-    host.verlust = [&] { ++lost; };
+    std::vector<std::string> lost;
+    host.verlust = [&](const Host::Verlust& was) {
+        lost.push_back(was.hostFort ? "gone" : "refused: " + was.grund);
+    };
+    bench.host.refused = {"STORE"};
+    EXPECT_FALSE(host.HostSichern("E1", "x"));
+    bench.host.reason = "disk full";
+    EXPECT_FALSE(host.HostSichern("E1", "x"));
+    bench.host.gone = true;
     EXPECT_EQ(host.HostBenutzer(), Value(Value::Array{"unbekannt"}));
     EXPECT_EQ(host.HostSprache(), "Deutsch");
     host.HostMeldung("line");
     host.HostFehler("start_timer.", std::runtime_error("broken"));
     host.HostSichern("E1", "x");
     host.HostSichern("A1", "x");
-    EXPECT_EQ(lost, 1) << "told once";
+    EXPECT_EQ(lost, (std::vector<std::string>{"refused: ", "refused: disk full", "gone", "gone"}));
     EXPECT_TRUE(bench.dialogs.messages.empty());
 }
 

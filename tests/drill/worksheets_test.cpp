@@ -1,4 +1,5 @@
 // The worksheets with a staff, from their set-up forms to the record: written and named scales.
+#include "core/fortsetzung.h"
 #include "determine/arbeitsblatt1b.h"
 #include "notation/schreib_blatt.h"
 #include "setup/set_up.h"
@@ -208,22 +209,29 @@ TEST_F(Worksheets, TheoryAndWritingAreSavedUnderTheirOwnKeys) {
     }
 }
 
-/// Settings of the other branch have another layout: they never restore a form in part.
-TEST_F(Worksheets, SettingsOfTheOtherBranchAreNotTaken) {
-    for (const int tempo : {0, 1, 2, 9})
-        for (const int direction : {0, 1, 2}) {
+/// Settings of the other branch have another layout: they are restored until a value does not fit.
+/// When all do by chance, no state fits them, and the continuation is offered no more.
+TEST_F(Worksheets, SettingsOfTheOtherBranchAreRestoredAsFarAsTheyFit) {
+    for (const int tempo : {0, 1, 9})
+        for (const int direction : {0, 2}) {
             host.records["zepha9/A1"] = Value::Array{"true", "x"};
             Value::Array settings(11, "0");
             settings[1] = std::to_string(tempo);
             settings[2] = std::to_string(direction);
-            settings[4] = "2";
             host.records["zepha9/E1"] = settings;
             Exercise run(host, theoryNaming, 2);
-            EXPECT_EQ(run.z.uebungsmodus, 1);
-            EXPECT_EQ(run.z.richtung, 2);
-            EXPECT_EQ(run.z.final, 2);
-            EXPECT_TRUE(run.group(5).enabled());
+            const bool fits = tempo < 3 && direction < 2;
+            EXPECT_EQ(run.z.uebungsmodus, fits ? 2 : 1);
+            EXPECT_EQ(run.z.richtung, tempo < 3 ? tempo : 2) << "read as the direction";
+            EXPECT_EQ(run.group(5).enabled(), !fits);
             EXPECT_TRUE(run.dialogs.messages.empty());
+            if (!fits) continue;
+            run.begin();
+            EXPECT_EQ(run.dialogs.messages.size(), 1U);
+            EXPECT_TRUE(run.form("einstellung1b").visible());
+            EXPECT_EQ(run.form("einstellung1b").pointer(), form::Pointer::Arrow);
+            EXPECT_EQ(run.combo("training_Combo").item(2).text, core::keineFortsetzung);
+            EXPECT_EQ(run.z.uebungsmodus, 1);
         }
 }
 

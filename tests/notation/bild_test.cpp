@@ -105,7 +105,7 @@ TEST(Picture, IsDrawnWithinItsSizeAndNoTwoAnswersLookAlike) {
         before.push_back(surface.lines);
     });
     support::RecordingSurface nothing;
-    for (const int number : {-1, 38, 39, 48, 69, bilderAnz}) BildMalen(nothing, number);
+    for (const int number : {-1, 38, 39, 48, 69, viertelnote + 1}) BildMalen(nothing, number);
     EXPECT_TRUE(nothing.lines.empty());
 }
 

@@ -9,11 +9,12 @@
 
 Stage::Stage(const std::string& language, std::int64_t seed)
     : midi(loop),
-      drill({loop, dialogs, printer, help, [this] { return host.connect(); }, &languages},
+      drill({loop, dialogs, printer, help, [seed] { return seed; },
+             [this] { return host.connect(); }, &languages},
             {.tempOrdner = std::filesystem::temp_directory_path().string(),
              .rechnername = "practice-room-3",
              .programmOrdner = (qt::LanguageFiles::installedFolder() + "/..").toStdString()},
-            midi, seed),
+            midi),
       windows(drill.programm.forms) {
     host.language = language;
     drill.programm.forms.load("grd_einst");

@@ -35,10 +35,10 @@ struct Practice {
     explicit Practice(support::FakeHost& host, core::Aufruf aufruf = somewhere())
         : Practice(host, Way{}, std::move(aufruf)) {}
     Practice(support::FakeHost& host, const Way& to, core::Aufruf aufruf = somewhere())
-        : drill{{loop, dialogs, printer, help, [&host] { return host.connect(); }, &words},
+        : drill{{loop, dialogs, printer, help, [] { return 1; }, [&host] { return host.connect(); },
+                 &words},
                 std::move(aufruf),
-                midi,
-                1},
+                midi},
           way(to) {
         drill.programm.forms.load("grd_einst");
         loop.advance(5);

@@ -43,8 +43,9 @@ struct DrillFixture::Alarm : private form::Forms, form::Form {
 DrillFixture::DrillFixture(std::int64_t seed)
     : midiOut(loop),
       folder(freshFolder()),
-      programm({loop, dialogs, printer, help, [this] { return host.connect(); }, &words},
-               {"", folder.string(), "desk12"}, seed),
+      programm({loop, dialogs, printer, help, [seed] { return seed; },
+                [this] { return host.connect(); }, &words},
+               {"", folder.string(), "desk12"}),
       z(programm.zustand),
       midi(loop, programm.host),
       wertung(programm) {

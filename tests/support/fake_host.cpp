@@ -25,7 +25,10 @@ std::unique_ptr<core::HostPort> FakeHost::connect() {
 bool FakeHost::answer(const std::string& key, const core::Value& argument, core::Value& result) {
     requests.push_back(key);
     if (gone || failing.contains(key)) throw core::HostGone("no answer");
-    if (refused.contains(key)) return false;
+    if (refused.contains(key)) {
+        if (!reason.empty()) result = reason;
+        return false;
+    }
     const std::string record = argument.at(0).text() + "/" + argument.at(1).text();
     if (key == "APP") result = core::Value::Array{"", started};
     if (key == "MIDI" && midi) result = *midi;

@@ -17,6 +17,7 @@ struct FakeHost {
     std::optional<int> storesUntilGone;  ///< after so many stores the host is gone
     std::set<std::string> failing;       ///< keys whose call fails as a call
     std::set<std::string> refused;       ///< keys answered false, the default left alone
+    std::string reason;                  ///< why a record is refused
     std::string started = "ZEPHA9.EXE";
     std::optional<std::string> midi = "-1";
     std::string language = "Deutsch";

@@ -51,7 +51,7 @@ struct FakePrinter final : form::Printer {
     std::optional<std::string> fault;
 
     void print(form::Form& form) override {
-        if (fault) throw std::runtime_error(*fault);
+        if (fault) throw form::PrintFault(*fault);
         pages.push_back(form.name());
     }
 };
