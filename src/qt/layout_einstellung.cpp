@@ -61,6 +61,7 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
     tempo->addWidget(bind("temp_Combo"), 1);
     auto* note = static_cast<PictureWidget*>(bind("pic15"));
     note->setPicture(notation::viertelnote);
+    note->setColour(Qt::transparent);
     note->setFixedSize(note->sizeHint() * look::scale());
     tempo->addWidget(note);
     tempo->addWidget(bind("lb15", 1));

@@ -39,7 +39,7 @@ QWidget* resultRows(FormWindow& window) {
             {bind("Lab_ergeb", i), bind("balken", i), static_cast<QLabel*>(bind("ergebnis", i))});
         rows.back().bar->setFixedHeight(12);
         rows.back().bar->setMinimumWidth(90);
-        rows.back().percent->setAlignment(Qt::AlignRight);
+        rows.back().percent->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     const std::vector<QWidget*> headings{bind("Lab_richtung", 0), bind("Lab_richtung", 1)};
     for (QWidget* head : headings) {
@@ -101,10 +101,10 @@ QWidget* pairs(Binder& bind, const char* frameName, const char* keys, const char
     for (int i = 0; bind.has(keys, i); ++i) {
         QLabel* key = labelOf(bind, keys, i);
         look::colours(*key, look::muted);
-        grid->addWidget(key, i, 0, Qt::AlignTop);
         QLabel* value = labelOf(bind, values, i);
         value->setWordWrap(true);
-        value->setAlignment(Qt::AlignTop);
+        for (QLabel* label : {key, value}) label->setAlignment(Qt::AlignTop);
+        grid->addWidget(key, i, 0);
         grid->addWidget(value, i, 1);
     }
     grid->setColumnStretch(1, 1);

@@ -22,6 +22,6 @@ class QtPrinter final : public form::Printer {
 
 /// Prints the labels and bars of a widget in landscape, to a PDF file or on the default printer for
 /// an empty path, on the paper that the printer has. @throws form::PrintFault
-void printWidget(QWidget& widget, const std::string& pdf);
+void printWidget(const QWidget& widget, const std::string& pdf);
 
 }  // namespace qt

@@ -39,6 +39,11 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
             stage.drill.programm.forms.unload(dialog);
         }
         stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(6);
+        stage.control<form::Combo>("einstellung1", "Combo_richtung").setListIndex(2);
+        stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+        for (int chosen = 0; chosen < 15; ++chosen)
+            stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(0);
+        look(stage, "einstellung1", language + "-8-fifteen");
         stage.openWorksheet();
         stage.task(true);
         look(stage, "arbeitsblatt1", language + "-4-training");
@@ -51,7 +56,7 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
         EXPECT_TRUE(stage.window("einstellung1").isVisible());
         EXPECT_EQ(stage.drill.programm.forms.loaded("arbeitsblatt1"), nullptr);
 
-        stage.control<form::Option>("einstellung1", "an_zeig", 0).choose();
+        stage.control<form::Option>("einstellung1", "ska_ausw", 0).click();
         stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(3);
         stage.control<form::Option>("einstellung1", "an_zeig", 1).choose();
         stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(3);
@@ -172,7 +177,8 @@ TEST(Printing, TheResultFormFillsOneLandscapePage) {
         stage.control<form::Button>("testergebnis", "cmdPrint").click();
         EXPECT_EQ(stage.printer.pages, std::vector<std::string>{"testergebnis"});
         EXPECT_FALSE(stage.widget<QPushButton>("testergebnis", "cmdPrint").isEnabled());
-        qt::printWidget(stage.window("testergebnis"), file.toStdString());
+        qt::printWidget(stage.windows.of(stage.form("testergebnis"))->contents(),
+                        file.toStdString());
     });
     while (stage.task(false)) {
     }
