@@ -102,6 +102,10 @@ TEST_F(SetUp, BothListsStaySorted) {
     }
 }
 
+TEST(Selection, ItemsWithoutACodeStandBehindEachOther) {
+    EXPECT_EQ(sortierteStelle({{"from a file", 0}, {"another", 0}, {"+ dorisch", 2}}, 0), 1);
+}
+
 TEST_F(SetUp, TheHintSaysWhatTheChoiceLacks) {
     const auto hint = [&] {
         return get<form::Label>("lb10", 0).visible() ? get<form::Label>("lb10", 0).caption() : "";

@@ -52,6 +52,26 @@ TEST_F(SetUp, TheCategoryDecidesWhatMayBeChosen) {
     }
 }
 
+TEST_F(SetUp, AChoiceIsStoredEveryTimeAndHasConsequencesOnce) {
+    z.an_zeig = z.stimmung = 1;  // stored by an earlier opening; the controls show others
+    combo("skal_typ_cmb").setListIndex(6);
+    EXPECT_EQ(z.an_zeig, 0);
+    EXPECT_EQ(z.stimmung, 0);
+    combo("skal_typ_cmb").setListIndex(0);
+    combo("Combo_richtung").setListIndex(1);
+    z.abfolge = 1;
+    option("abfolge", 0).click();
+    EXPECT_EQ(z.abfolge, 0);
+    EXPECT_EQ(z.richtung, 1) << "the direction stays";
+    option("ska_ausw", 1).click();
+    pick(-3);
+    pick(-5);
+    z.ska_ausw = 0;
+    option("ska_ausw", 1).click();
+    EXPECT_EQ(z.ska_ausw, 1);
+    EXPECT_EQ(list(1).count(), 2) << "what was picked stays";
+}
+
 TEST_F(SetUp, AMelodyHasNoDirection) {
     option("abfolge", 1).click();
     EXPECT_EQ(z.richtung, 0);
@@ -164,6 +184,35 @@ TEST_F(SetUp, LeavingDuringTheSoundCheckSilencesIt) {
     EXPECT_FALSE(drill.programm.forms.loaded("einstellung1"));
     EXPECT_TRUE(drill.programm.forms.loaded("grd_einst")->visible());
     EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(SetUp, ASoundCheckIsClosedWhateverItEndsBehind) {
+    const auto closed = [&] {
+        return button("klang_contr").enabled() && button("cmdOK").enabled();
+    };
+    button("klang_contr").click();
+    drill.programm.Melden("title", "text");
+    loop.advance(20000);
+    EXPECT_FALSE(closed()) << "another form is on top";
+    drill.programm.forms.unload("frmMessage");
+    EXPECT_TRUE(closed());
+    button("klang_contr").click();
+    option("ska_ausw", 1).click();
+    option("ska_ausw", 0).click();  // frees OK
+    button("cmdOK").click();
+    loop.advance(20000);
+    get<form::Panel>("zurueck", form::Place::noIndex, "arbeitsblatt1").click();
+    loop.advance(500);
+    EXPECT_TRUE(closed());
+}
+
+TEST_F(SetUp, NoRunBeginsWhenTheUserGoesBackMeanwhile) {
+    loop.post([&] { button("cmdZurueck").click(); });
+    button("cmdOK").click();
+    loop.advance(500);
+    EXPECT_FALSE(drill.programm.forms.loaded("arbeitsblatt1"));
+    EXPECT_TRUE(drill.programm.forms.loaded("grd_einst")->visible());
+    EXPECT_FALSE(drill.programm.forms.loaded("einstellung1"));
 }
 
 TEST_F(SetUp, AFailedStartOfARunLeadsBackToTheStartForm) {

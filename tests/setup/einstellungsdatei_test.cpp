@@ -139,6 +139,47 @@ TEST_F(Datei, TheFirstEntryThatIsNotOfferedEndsTheReading) {
     }
 }
 
+TEST_F(Datei, WhatIsLockedOrShownAlreadyIsSetToo) {
+    teacher.z.stimmung = 2;
+    std::string tooMany;
+    for (int i = 0; i < 16; ++i) tooMany += "<value>a</value>";
+    const auto satz = EinstellungenLesenAus(
+        "<test><basic/><setting>"
+        "<control><cname>lst_ska</cname><index>1</index>" +
+        tooMany +
+        "</control>"
+        "<control><cname>skal_typ_cmb</cname><value>4</value></control>"
+        "<control><cname>an_zeig</cname><index>1</index><value>True</value></control>"
+        "<control><cname>stimm_g</cname><index>0</index><value>True</value></control>"
+        "<control><cname>temp_Combo</cname><value>-1</value></control>"
+        "<control><cname>abfrage</cname><index>1</index><value>True</value></control>"
+        "</setting></test>");
+    EinstellungenAnwenden(teacher.form("einstellung1"), satz);
+    EXPECT_EQ(teacher.get<form::Label>("wahlStand").foreColour(), base::colours::red);
+    EXPECT_EQ(teacher.z.skal_typ, 4);
+    EXPECT_EQ(teacher.z.an_zeig, 1) << "though the category has disabled it";
+    EXPECT_EQ(teacher.z.stimmung, 0) << "though it was shown already";
+    EXPECT_EQ(teacher.combo("temp_Combo").listIndex(), -1);
+    EXPECT_EQ(teacher.z.tempoIdx, 1) << "no choice stores nothing";
+    EXPECT_EQ(teacher.z.abfrage, 1);
+}
+
+TEST_F(Datei, OnlyWellFormedFilesAreRead) {
+    const std::string good = "<test><basic><modul>m</modul></basic></test>";
+    for (const std::string& text :
+         {good, "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><!-- \xfc -->" + good,
+          "<!DOCTYPE test>" + good})
+        EXPECT_FALSE(EinstellungenLesenAus(text).leer()) << text;
+    for (const std::string& text :
+         {std::string(), good + "text", good + good, "<test><basic>a & b</basic></test>" + good,
+          std::string("<test><basic><modul>a & b</modul></basic></test>"),
+          std::string("<test><basic><modul>a < b</modul></basic></test>"),
+          std::string("<test><basic><modul>&unknown;</modul></basic></test>"),
+          "<!DOCTYPE test [<!ENTITY a \"b\">]>" + good,
+          "<!DOCTYPE test SYSTEM \"x.dtd\"><test><basic><modul>&a;</modul></basic></test>" + good})
+        EXPECT_TRUE(EinstellungenLesenAus(text).leer()) << text;
+}
+
 TEST_F(Datei, WhatCannotBeWrittenOrReadIsToldWithItsPath) {
     teacher.words.texts = {{"834s", "not to %1"}, {"835s", "no settings: %1"}};
     const auto press = [&](const char* form, const char* button) {
@@ -162,6 +203,14 @@ TEST_F(Datei, WhatCannotBeWrittenOrReadIsToldWithItsPath) {
     EXPECT_TRUE(EinstellungenLesen(folder.string()).leer());
     EXPECT_THROW(EinstellungenSchreiben("/nowhere/x.mvs", "x"), std::system_error);
     EXPECT_EQ(base::readWhole((folder / "good.mvs").string(), 1 << 20), text());
+
+    auto& forms = teacher.drill.programm.forms;
+    const form::Connection dialog = forms.made.connect([&](form::Form& form) {
+        if (form.name() == "frmSave") teacher.loop.post([&] { press("frmSave", "cmdOK"); });
+    });
+    teacher.button("cmdOptionSave").click();
+    EXPECT_NE(teacher.dialogs.messages.back().text.find("W889"), std::string::npos) << "no path";
+    EXPECT_FALSE(forms.loaded("frmSave"));
 }
 
 }  // namespace

@@ -153,6 +153,7 @@ TEST_F(Fortsetzung, AHalfSavedTrainingIsNeverOffered) {
             copy.storesUntilGone = stores;
             drill.leave(true);
             EXPECT_EQ(drill.combo("training_Combo").item(2).text, core::keineFortsetzung);
+            EXPECT_TRUE(drill.form("frmMessage").visible()) << "told each time";
         }
         copy.storesUntilGone.reset();
         copy.gone = false;
@@ -202,6 +203,26 @@ TEST_F(Fortsetzung, ARecordThatDoesNotFitIsRefusedAsAWhole) {
         ASSERT_EQ(copy.faults.size(), 1U);
         EXPECT_EQ(copy.faults[0].at(0).text(), "zepha9.start_timer.arbeitsblatt1");
         EXPECT_EQ(copy.records["zepha9/A1"], Value(array)) << "nothing is overwritten";
+        EXPECT_EQ(drill.combo("training_Combo").item(2).text, core::keineFortsetzung);
+        EXPECT_EQ(drill.z.uebungsmodus, 1);
+    }
+}
+
+TEST_F(Fortsetzung, TheOrderOfTonesOnTheFormDoesNotMatter) {
+    const Value::Array scale{"0", "1", "1", "2", "0", "2", "0", "1", "0", "1", "- W344", "- W203"};
+    const Value::Array melody{"0", "0", "1", "2", "0", "2", "0", "1", "1", "1", "W344", "W203"};
+    host.records["zepha9/E1"] = host.records["zepha9/A1"] = Value::Array{"true", ""};
+    for (const bool saved : {false, true}) {
+        SCOPED_TRACE(saved ? "melody" : "scale");
+        host.records["zepha9/E1b"] = saved ? melody : scale;
+        Practice theory(host, Practice::Way{true, 1});
+        theory.option("abfolge", saved ? 0 : 1).click();
+        theory.combo("training_Combo").setListIndex(2);
+        EXPECT_EQ(theory.z.uebungsmodus, 2);
+        EXPECT_EQ(theory.z.abfolge, saved ? 1 : 0);
+        EXPECT_EQ(theory.z.richtung, saved ? 0 : 1);
+        EXPECT_EQ(theory.list(1).count(), 2);
+        EXPECT_TRUE(theory.button("cmdOK").enabled());
     }
 }
 
@@ -218,6 +239,7 @@ TEST_F(Fortsetzung, SettingsThatDoNotFitBecomeANewTraining) {
         copy.records["zepha9/E1"] = array;
         drill.combo("training_Combo").setListIndex(2);
         EXPECT_EQ(drill.z.uebungsmodus, 1);
+        EXPECT_EQ(drill.z.tempoIdx, element == 0 ? 1 : 9) << "what was restored stays";
         EXPECT_TRUE(drill.group(5).enabled());
         EXPECT_TRUE(drill.dialogs.messages.empty());
     }

@@ -58,8 +58,10 @@ struct FakePrinter final : form::Printer {
 
 struct FakeHelp final : form::Help {
     std::vector<std::string> opened;  ///< "page/language"
+    bool broken = false;
 
     void open(const std::string& page, const std::string& language) override {
+        if (broken) throw std::runtime_error("no help");
         opened.push_back(page + "/" + language);
     }
 };
