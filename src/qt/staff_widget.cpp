@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace qt {
 
@@ -217,47 +218,52 @@ notation::Zug StaffWidget::dragAt(const form::Control& source, QPointF position)
     return {source, static_cast<float>(at.x()), static_cast<float>(at.y())};
 }
 
+bool StaffWidget::dragTo(const form::Control& source, QPointF position) {
+    Blatt* seen = target();
+    if (seen && !within(*seen, position)) seen = nullptr;
+    if (entered_ != seen) dragAway();
+    if (!seen) return false;
+    const notation::Zug drag = dragAt(source, position);
+    if (!entered_) seen->ueber(drag, ZugZustand::Betreten);
+    seen->ueber(drag, ZugZustand::Ueber);
+    entered_ = seen;
+    source_ = &source;
+    return !seen->wuerdeAblehnen(drag);
+}
+
+bool StaffWidget::dropAt(const form::Control& source, QPointF position) {
+    dragTo(source, position);
+    if (!entered_) return false;
+    std::exchange(entered_, nullptr)->ablegen(dragAt(source, position));
+    return true;
+}
+
+void StaffWidget::dragAway() {
+    if (entered_) entered_->ueber({*source_, 0, 0}, ZugZustand::Verlassen);
+    entered_ = nullptr;
+}
+
+/// Taken wherever it enters: only then its moves are told.
 void StaffWidget::dragEnterEvent(QDragEnterEvent* event) {
-    source_ = sourceOf(*event);
-    if (!source_ || !target()) return event->ignore();
-    dragTo(event->position());
+    const form::Control* source = sourceOf(*event);
+    if (!source || !target()) return event->ignore();
+    dragTo(*source, event->position());
     event->acceptProposedAction();
 }
 
-/// The drag enters and leaves the surface that is seen, not this widget, which is larger.
-void StaffWidget::dragTo(QPointF position) {
-    notation::Blatt* seen = target();
-    if (seen && !within(*seen, position)) seen = nullptr;
-    if (entered_ && entered_ != seen) entered_->ueber({*source_, 0, 0}, ZugZustand::Verlassen);
-    if (seen)
-        seen->ueber(dragAt(*source_, position),
-                    seen == entered_ ? ZugZustand::Ueber : ZugZustand::Betreten);
-    entered_ = seen;
-}
-
 void StaffWidget::dragMoveEvent(QDragMoveEvent* event) {
-    if (!source_) return event->ignore();
-    dragTo(event->position());
-    event->setAccepted(entered_ && !entered_->wuerdeAblehnen(dragAt(*source_, event->position())));
-    if (event->isAccepted()) event->acceptProposedAction();
+    const form::Control* source = sourceOf(*event);
+    if (source && dragTo(*source, event->position()))
+        event->acceptProposedAction();
+    else
+        event->ignore();
 }
 
-void StaffWidget::dragLeaveEvent(QDragLeaveEvent*) { dragEnds(); }
+void StaffWidget::dragLeaveEvent(QDragLeaveEvent*) { dragAway(); }
 
 void StaffWidget::dropEvent(QDropEvent* event) {
-    if (source_) dragTo(event->position());
-    if (entered_) {
-        entered_->ablegen(dragAt(*source_, event->position()));
-        entered_ = nullptr;
-        event->acceptProposedAction();
-    }
-    dragEnds();
-}
-
-void StaffWidget::dragEnds() {
-    if (entered_) entered_->ueber({*source_, 0, 0}, ZugZustand::Verlassen);
-    entered_ = nullptr;
-    source_ = nullptr;
+    const form::Control* source = sourceOf(*event);
+    if (source && dropAt(*source, event->position())) event->acceptProposedAction();
 }
 
 void StaffWidget::keyPressEvent(QKeyEvent* event) {

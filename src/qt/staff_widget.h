@@ -24,6 +24,14 @@ class StaffWidget final : public QWidget {
     /// Where a point of a surface shown here lies in this widget.
     QPointF placeOf(const notation::Blatt& surface, QPointF point) const;
 
+    /// A drag is over this widget: it enters and leaves the surface that is seen, not the room
+    /// around it. @return whether a drop here would be taken.
+    bool dragTo(const form::Control& source, QPointF position);
+    /// It ends here with a drop. @return whether there was a surface to drop on.
+    bool dropAt(const form::Control& source, QPointF position);
+    /// It ends elsewhere, or has left.
+    void dragAway();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -46,8 +54,6 @@ class StaffWidget final : public QWidget {
     /// The visible surface inside this one that takes drops; nullptr for none.
     notation::Blatt* target() const;
     bool within(const notation::Blatt& surface, QPointF position) const;
-    void dragTo(QPointF position);
-    void dragEnds();
     notation::Zug dragAt(const form::Control& source, QPointF position) const;
 
     notation::Blatt& surface_;

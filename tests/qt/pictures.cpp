@@ -79,7 +79,7 @@ void expectReadable(QWidget& window) {
     EXPECT_GT(seen.size(), 5U);
 }
 
-void look(Stage& stage, const std::string& form, const std::string& picture) {
+void lookAt(Stage& stage, const std::string& form, const std::string& picture) {
     for (const auto& [name, size] : sizes) {
         SCOPED_TRACE(picture + " " + name);
         QWidget& window = stage.window(form);

@@ -15,4 +15,4 @@ void keepPicture(QWidget& window, const std::string& name);
 void expectReadable(QWidget& window);
 
 /// Looks at a form's window at the sizes of a small and of a large screen.
-void look(Stage& stage, const std::string& form, const std::string& picture);
+void lookAt(Stage& stage, const std::string& form, const std::string& picture);

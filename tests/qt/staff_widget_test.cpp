@@ -135,4 +135,29 @@ TEST(StaffWidget, ShowsChangesAndIsWrittenOnByKeys) {
     EXPECT_EQ(widget.accessibleDescription(), "3");
 }
 
+TEST(StaffWidget, ADragIsSeenOnTheVisibleSurfaceAloneAndDropsNowhereElse) {
+    Sheet sheet(6, 0, 60);
+    notation::NotenZeigen(sheet.staff, sheet.task);
+    qt::StaffWidget widget(sheet.staff.PicBNot);
+    widget.resize(900, 500);
+    const form::Control& sharp = sheet.palette.NotP(3);
+    const notation::Blatt& seen = sheet.staff.PicB(sheet.staff.SchlZ());
+    const QPointF column = widget.placeOf(seen, QPointF(sheet.staff.lage().x(2), 80));
+    const QPointF corner = widget.placeOf(seen, QPointF(seen.lage().breite, seen.lage().hoehe));
+    const QImage clean = widget.grab().toImage();
+    for (const QPointF outside : {QPointF(column.x(), 2), QPointF(column.x(), corner.y() + 3),
+                                  QPointF(2, column.y()), QPointF(corner.x() + 3, column.y())}) {
+        EXPECT_TRUE(widget.dragTo(sharp, column));
+        EXPECT_NE(widget.grab().toImage(), clean) << "a preview";
+        EXPECT_FALSE(widget.dragTo(sharp, outside));
+        EXPECT_EQ(widget.grab().toImage(), clean) << "gone";
+        EXPECT_FALSE(widget.dropAt(sharp, outside));
+    }
+    EXPECT_TRUE(widget.dragTo(sharp, column));
+    widget.dragAway();
+    EXPECT_EQ(widget.grab().toImage(), clean);
+    EXPECT_TRUE(widget.dropAt(sharp, column));
+    EXPECT_EQ(sheet.staff.NotSelb(2).vorzeichen, 1);
+}
+
 }  // namespace

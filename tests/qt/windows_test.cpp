@@ -1,5 +1,7 @@
 // Every form in a real window, in every language and at several sizes.
+#include "look/application.h"
 #include "pictures.h"
+#include "qt/dialogs.h"
 #include "qt/help.h"
 #include "qt/printer.h"
 #include "stage.h"
@@ -10,9 +12,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -22,20 +26,20 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
     for (const std::string& language : allLanguages) {
         SCOPED_TRACE(language);
         Stage stage(language);
-        look(stage, "grd_einst", language + "-1-start");
+        lookAt(stage, "grd_einst", language + "-1-start");
         stage.openSetup();
-        look(stage, "einstellung1", language + "-2-setup");
+        lookAt(stage, "einstellung1", language + "-2-setup");
         stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(4);
-        look(stage, "einstellung1", language + "-3-exam");
+        lookAt(stage, "einstellung1", language + "-3-exam");
         stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);
         stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
         for (const int item : {4, 4, 0})
             stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(item);
-        look(stage, "einstellung1", language + "-8-chosen");
+        lookAt(stage, "einstellung1", language + "-8-chosen");
         stage.control<form::Option>("einstellung1", "ska_ausw", 0).click();
         for (const char* dialog : {"frmSave", "frmLoad"}) {
             stage.drill.programm.forms.load(dialog);
-            look(stage, dialog, language + "-9-" + dialog);
+            lookAt(stage, dialog, language + "-9-" + dialog);
             stage.drill.programm.forms.unload(dialog);
         }
         stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(6);
@@ -43,14 +47,14 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
         stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
         for (int chosen = 0; chosen < 15; ++chosen)
             stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(0);
-        look(stage, "einstellung1", language + "-8-fifteen");
+        lookAt(stage, "einstellung1", language + "-8-fifteen");
         stage.openWorksheet();
         stage.task(true);
-        look(stage, "arbeitsblatt1", language + "-4-training");
-        stage.whenResult([&] { look(stage, "testergebnis", language + "-5-result"); });
+        lookAt(stage, "arbeitsblatt1", language + "-4-training");
+        stage.whenResult([&] { lookAt(stage, "testergebnis", language + "-5-result"); });
         while (stage.task(false)) {
         }
-        look(stage, "arbeitsblatt1", language + "-6-failed");
+        lookAt(stage, "arbeitsblatt1", language + "-6-failed");
         stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
         stage.wait(500);
         EXPECT_TRUE(stage.window("einstellung1").isVisible());
@@ -62,7 +66,7 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
         stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(3);
         stage.openWorksheet();
         stage.wait(15000);
-        look(stage, "arbeitsblatt1", language + "-7-names");
+        lookAt(stage, "arbeitsblatt1", language + "-7-names");
         if (language != "Deutsch") continue;
         stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
         stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(0);
@@ -73,7 +77,7 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
             stage.control<form::Option>("einstellung1", "final", typ % 2 == 0 ? 1 : 2).choose();
             stage.openWorksheet();
             stage.task(true);
-            look(stage, "arbeitsblatt1", "pictures-" + std::to_string(typ));
+            lookAt(stage, "arbeitsblatt1", "pictures-" + std::to_string(typ));
             stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
             stage.wait(10);
         }
@@ -155,6 +159,66 @@ TEST(Windows, WidgetsTellTheFormAndFollowIt) {
     EXPECT_TRUE(stage.window("grd_einst").isVisible()) << "the close box is the way back";
 }
 
+TEST(Windows, TheWaitingNoticeLiesInTheMiddleAndMovesNothing) {
+    Stage stage;
+    stage.openSetup();
+    stage.openWorksheet();
+    QWidget& window = stage.window("arbeitsblatt1");
+    const auto places = [&] {
+        std::vector<QRect> all;
+        for (const QWidget* w : window.findChildren<QWidget*>())
+            if (!w->objectName().startsWith("Wait")) all.push_back(w->geometry());
+        return all;
+    };
+    const auto before = places();
+    auto& notice = stage.control<form::Group>("arbeitsblatt1", "WaitMeldung");
+    notice.visible = true;
+    QApplication::processEvents();
+    EXPECT_EQ(places(), before);
+    const auto& shown = stage.widget<QWidget>("arbeitsblatt1", "WaitMeldung");
+    EXPECT_LE((shown.geometry().center() - window.rect().center()).manhattanLength(), 2);
+    EXPECT_GE(shown.width(), shown.sizeHint().width());
+    keepPicture(window, "waiting");
+}
+
+TEST(Boxes, SpeakTheLanguageOfTheProgram) {
+    qt::QtDialogs dialogs;
+    dialogs.answers = [] { return qt::QtDialogs::Answers{"Aceptar", "Sí", "No"}; };
+    for (const bool yes : {true, false}) {
+        QTimer::singleShot(0, [yes] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            QStringList captions;
+            for (const auto* button : box->buttons()) captions << button->text();
+            captions.sort();
+            EXPECT_EQ(captions, QStringList({"No", "Sí"}));
+            QKeyEvent press(QEvent::KeyPress, yes ? Qt::Key_Return : Qt::Key_Escape,
+                            Qt::NoModifier);
+            QApplication::sendEvent(yes ? static_cast<QWidget*>(box->defaultButton()) : box,
+                                    &press);
+        });
+        EXPECT_EQ(dialogs.askYesNo("title", "text"), yes);
+    }
+    const auto cancel = [] { return QApplication::translate("QPlatformTheme", "Cancel"); };
+    qt::LanguageFiles files(qt::LanguageFiles::installedFolder());
+    for (const auto& [suffix, word] : {std::pair{"de", "Abbrechen"}, {"es", "Cancelar"}}) {
+        const auto language = files.erzeugen(std::string("melvoralang.") + suffix);
+        EXPECT_EQ(cancel(), word);
+    }
+    EXPECT_EQ(cancel(), "Cancel");
+}
+
+TEST(Application, CatchesWhatNoHandlerCaught) {
+    auto& application = static_cast<look::Application&>(*QApplication::instance());
+    std::vector<std::string> told;
+    application.uncaught = [&](const std::exception& fault) { told.emplace_back(fault.what()); };
+    QTimer::singleShot(0, [] { throw std::runtime_error("memory is full"); });
+    QTimer::singleShot(0, [] { throw 7; });
+    for (int i = 0; i < 50 && told.size() < 2; ++i) QApplication::processEvents();
+    application.uncaught = nullptr;
+    EXPECT_EQ(told, (std::vector<std::string>{"memory is full", "an unknown fault"}));
+}
+
 TEST(Help, HasAPageForEveryFormInEveryLanguage) {
     const qt::QtHelp help;  // brings the pages
     for (const char* language : {"de", "en", "es", "fr"})
@@ -190,6 +254,9 @@ TEST(Printing, TheResultFormFillsOneLandscapePage) {
     EXPECT_TRUE(bytes.startsWith("%PDF"));
     EXPECT_EQ(bytes.count("/Type /Page") - bytes.count("/Type /Pages"), 1);
     EXPECT_TRUE(bytes.contains("/MediaBox [0 0 842")) << "A4 on its side";
+    EXPECT_FALSE(bytes.contains("/Subtype /Image")) << "text and lines, no picture";
+    EXPECT_TRUE(bytes.contains("/Font"));
+    EXPECT_LT(bytes.size(), 200'000);
 }
 
 }  // namespace

@@ -63,21 +63,21 @@ TEST(Worksheets, AreReadableInEveryLanguageAndSize) {
         Stage stage(language);
         for (const bool theory : {false, true}) {
             stage.openSetup(theory, 4);
-            look(stage, stage.setup(), language + "-a-" + stage.setup() + "-4");
+            lookAt(stage, stage.setup(), language + "-a-" + stage.setup() + "-4");
             stage.openWorksheet();
             next(stage);
-            look(stage, stage.sheet(), language + "-b-" + stage.sheet());
+            lookAt(stage, stage.sheet(), language + "-b-" + stage.sheet());
             lose(stage);
-            look(stage, stage.sheet(), language + "-c-" + stage.sheet() + "-solution");
+            lookAt(stage, stage.sheet(), language + "-c-" + stage.sheet() + "-solution");
             leave(stage);
         }
         stage.openSetup(true, 1);
-        look(stage, stage.setup(), language + "-d-" + stage.setup());
+        lookAt(stage, stage.setup(), language + "-d-" + stage.setup());
         for (const int names : {0, 1}) {
             stage.drill.programm.zustand.an_zeig = names;
             stage.openWorksheet();
             next(stage);
-            look(stage, stage.sheet(), language + "-e-" + stage.sheet() + std::to_string(names));
+            lookAt(stage, stage.sheet(), language + "-e-" + stage.sheet() + std::to_string(names));
             stage.control<form::Panel>(stage.sheet(), "zurueck").click();
             stage.wait(50);
         }

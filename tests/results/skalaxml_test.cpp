@@ -43,8 +43,15 @@ TEST(Record, TheSameSecondIsTheSameFileAndTheLaterStays) {
     xml.SkalaXmlSichern({"0"});
     EXPECT_EQ(std::distance(fs::directory_iterator(drill.folder), {}), 1);
     EXPECT_NE(content(xml.datei()).find("value=\"second\""), std::string::npos);
+    drill.programm.aufruf.tempOrdner.clear();
     xml.SkalaXmlNeu();
     EXPECT_TRUE(xml.lektion().empty()) << "a new record has no lesson in hand";
+    EXPECT_EQ(xml.datei(), "RSX260102100000.xml") << "the current folder where no other is named";
+    drill.z.AntwDau = 9.9e7F;
+    xml.LektionNeu("third");
+    xml.AntwortNeu(xml.lektion(), 1);
+    xml.AntwortSchluss();
+    EXPECT_NE(xml.text().find("\"Dauer Antwort\" value=\"99000000\""), std::string::npos);
 }
 
 }  // namespace
