@@ -18,7 +18,8 @@ namespace {
 
 constexpr int sideWidth = 250;
 
-/// Keeps a widget over the middle of another one, in front, without a place in its layout.
+/// Keeps a widget with a layout over the middle of another one, in front, without a place in that
+/// one's layout.
 class InTheMiddle final : public QObject {
   public:
     InTheMiddle(QWidget& above, QWidget& below) : QObject(&above), above_(above), below_(below) {
@@ -29,6 +30,7 @@ class InTheMiddle final : public QObject {
         if (event->type() != QEvent::Resize && event->type() != QEvent::Show) return false;
         if (above_.isHidden()) return false;
         above_.resize(above_.sizeHint());
+        above_.layout()->setGeometry(above_.rect());  // also before it is seen
         above_.move(below_.rect().center() - above_.rect().center());
         above_.raise();
         return false;

@@ -178,6 +178,10 @@ TEST(Windows, TheWaitingNoticeLiesInTheMiddleAndMovesNothing) {
     const auto& shown = stage.widget<QWidget>("arbeitsblatt1", "WaitMeldung");
     EXPECT_LE((shown.geometry().center() - window.rect().center()).manhattanLength(), 2);
     EXPECT_GE(shown.width(), shown.sizeHint().width());
+    const auto& words = stage.widget<QLabel>("arbeitsblatt1", "WaitMeld");
+    EXPECT_TRUE(words.isVisible());
+    EXPECT_GE(words.width(), words.sizeHint().width());
+    EXPECT_FALSE(words.text().isEmpty());
     keepPicture(window, "waiting");
 }
 

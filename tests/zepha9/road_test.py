@@ -7,6 +7,7 @@ import ctypes
 import json
 import os
 import pathlib
+import shutil
 import signal
 import sqlite3
 import subprocess
@@ -263,6 +264,27 @@ class Road(unittest.TestCase):
         [module] = children(host.pid)
         os.kill(module, signal.SIGKILL)
         self.window("Melvora")
+
+    def test_without_the_sound_library_the_module_is_silent_and_says_so(self):
+        modules = self.home / "modules"
+        modules.mkdir()
+        shutil.copy(BINARIES / "zepha9", modules)
+        self.environment.update(MELVORA_MODULE_PATH=str(modules),
+                                MELVORA_I18N=str(BINARIES / "../share/melvora/i18n"))
+        self.host("--start", "zepha9")
+        self.window("Scales: Basic settings")
+        self.key("Return")
+        self.window("Identify scales: Setup")
+        self.key("Return")
+        self.window("^Identify scales$")
+        self.key("Return", "Escape")
+        self.window("Identify scales: Setup")
+        self.key("Escape")
+        self.window("Scales: Basic settings")
+        self.key("Escape")
+        until("a result", lambda: self.rows("SELECT 1 FROM results"))
+        log = [row[0] for row in self.rows("SELECT content FROM log")]
+        self.assertEqual(sum("libmelvora-synth.so" in line for line in log), 1, log)
 
     def test_without_a_host_the_module_says_so_and_ends(self):
         module = self.start("zepha9")
