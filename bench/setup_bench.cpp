@@ -1,6 +1,8 @@
-// The set-up form: a choice until it is painted, the start of a saved training, files of settings.
-// `setup_bench --read FILE` reads one such file and prints how far memory rose at its peak, in KB.
+// The set-up form: a choice until it is painted, the start of a saved training, files of settings;
+// a result on paper. `setup_bench --read FILE` reads a file of settings, `setup_bench --print FILE`
+// prints a result to a PDF file; both print how far memory rose at its peak, in KB.
 #include "core/fortsetzung.h"
+#include "qt/printer.h"
 #include "qt/stage.h"
 #include "setup/einstellungsdatei.h"
 #include "support/fake_words.h"
@@ -21,7 +23,7 @@
 namespace {
 
 constexpr int tetrachords = 6;  ///< ten scales: twenty items, or rows, in both directions
-constexpr std::size_t megabyte = 1 << 20;
+constexpr std::size_t biggest = (1 << 19) - 1;  ///< bytes of a file of settings that is read
 
 // A click in a list until the window is painted.
 
@@ -143,6 +145,60 @@ BENCHMARK(startTraining)
     ->Iterations(500)
     ->Unit(benchmark::kMillisecond);
 
+// Memory that one thing needs, in a process of its own.
+
+/// A field of the memory that this process has used, KB.
+long memory(const char* field) {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with(field)) return std::stol(line.substr(line.find(':') + 1));
+    throw std::runtime_error("no memory count");
+}
+
+template <class F>
+int printPeak(F work) {
+    const long before = memory("VmHWM");
+    work();
+    std::printf("%ld\n", memory("VmHWM") - before);
+    return 0;
+}
+
+/// What a fresh process needs to read or print a file, MB.
+double peakOf(const std::string& what, const std::string& path) {
+    std::FILE* out =
+        popen(("/proc/" + std::to_string(getpid()) + "/exe " + what + " " + path).c_str(), "r");
+    long kilobytes = -1;
+    if (!out || std::fscanf(out, "%ld", &kilobytes) != 1 || pclose(out) != 0)
+        throw std::runtime_error("the memory could not be measured");
+    return static_cast<double>(kilobytes) / 1024;
+}
+
+// A result on paper.
+
+/// A result with its longest content: fifteen chosen scales, twenty rows, all settings.
+QWidget& longestResult(Stage& stage) {
+    stage.openSetup();
+    stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(tetrachords);
+    stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+    for (int chosen = 0; chosen < 15; ++chosen)
+        stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(0);
+    stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);
+    stage.openWorksheet();
+    stage.drill.programm.forms.load("testergebnis");
+    stage.wait(10);
+    return stage.windows.of(stage.form("testergebnis"))->contents();
+}
+
+void printResult(benchmark::State& state) {
+    Stage stage;
+    QWidget& result = longestResult(stage);
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("result.pdf").toStdString();
+    for ([[maybe_unused]] const auto _ : state) qt::printWidget(result, path);
+    state.counters["peak_MB"] = peakOf("--print", path);
+}
+BENCHMARK(printResult)->Name("setup/print_result")->Unit(benchmark::kMillisecond);
+
 // Files of settings as large as they may be.
 
 struct Sample {
@@ -163,40 +219,15 @@ constexpr Sample samples[]{
     {"no_xml", "", "no settings at all ", "", false},
 };
 
-/// Writes a sample of up to a megabyte. @return its path.
+/// Writes a sample as big as it may be. @return its path.
 std::string written(const Sample& sample, const QTemporaryDir& folder) {
     std::string text = sample.begin;
-    const std::size_t room = megabyte - std::string(sample.end).size();
+    const std::size_t room = biggest - std::string(sample.end).size();
     while (text.size() + std::string(sample.each).size() <= room) text += sample.each;
     text += sample.end;
     const std::string path = folder.filePath(sample.name).toStdString() + ".mvs";
     std::ofstream(path, std::ios::binary) << text;
     return path;
-}
-
-/// A field of the memory that this process has used, KB.
-long memory(const char* field) {
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with(field)) return std::stol(line.substr(line.find(':') + 1));
-    throw std::runtime_error("no memory count");
-}
-
-int printPeak(const char* path) {
-    const long before = memory("VmHWM");
-    benchmark::DoNotOptimize(setup::EinstellungenLesen(path));
-    std::printf("%ld\n", memory("VmHWM") - before);
-    return 0;
-}
-
-/// What a fresh process needs to read a file, MB.
-double peakOf(const std::string& path) {
-    std::FILE* out =
-        popen(("/proc/" + std::to_string(getpid()) + "/exe --read " + path).c_str(), "r");
-    long kilobytes = -1;
-    if (!out || std::fscanf(out, "%ld", &kilobytes) != 1 || pclose(out) != 0)
-        throw std::runtime_error("the memory could not be measured");
-    return static_cast<double>(kilobytes) / 1024;
 }
 
 void readSettings(benchmark::State& state) {
@@ -206,7 +237,7 @@ void readSettings(benchmark::State& state) {
     for ([[maybe_unused]] const auto _ : state)
         if (setup::EinstellungenLesen(path).eintraege.empty() == sample.read)
             throw std::logic_error("read otherwise than meant");
-    state.counters["peak_MB"] = peakOf(path);
+    state.counters["peak_MB"] = peakOf("--read", path);
     state.SetLabel(sample.name);
 }
 BENCHMARK(readSettings)
@@ -242,9 +273,15 @@ BENCHMARK(applySettings)
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 3 && std::string(argv[1]) == "--read") return printPeak(argv[2]);
+    const std::string what = argc == 3 ? argv[1] : "";
+    if (what == "--read") return printPeak([&] { setup::EinstellungenLesen(argv[2]); });
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    if (what == "--print") {
+        Stage stage;
+        const QWidget& result = longestResult(stage);
+        return printPeak([&] { qt::printWidget(result, argv[2]); });
+    }
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();
