@@ -16,11 +16,12 @@ void layoutFrmMessage(FormWindow& window) {
     auto* band = new QHBoxLayout(picture);
     band->setContentsMargins(look::margin, look::gap, look::margin, look::gap);
     band->addWidget(title);
-    picture->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    picture->setFixedHeight(title->sizeHint().height() + 2 * look::margin);
     page->addWidget(picture);
     page->addWidget(bind("txtPrompt"), 1);
     page->addWidget(bind("cmdOK"), 0, Qt::AlignRight);
     // Whatever form is shown meanwhile, it is read first.
+    window.setWindowModality(Qt::ApplicationModal);
     window.setWindowFlag(Qt::WindowStaysOnTopHint);
     window.openWith({460, 240});
 }
