@@ -102,7 +102,10 @@ TEST_F(Leaving, OnlyAFaultThatTheRunCannotBearEndsIt) {
     run.help.broken = true;
     run.on<form::Button>("cmdHilfe").click();
     EXPECT_FALSE(run.sheet().key({form::Key::Kind::Digit, 9}));
-    run.sheet().guard("key.", [] { throw std::runtime_error("broken"); });
+    run.sheet().guard("key.", [&] {
+        run.sheet().setPointer(form::Pointer::Hourglass);
+        throw std::runtime_error("broken");
+    });
     EXPECT_EQ(run.dialogs.messages.size(), 2U);
     EXPECT_TRUE(run.there());
     EXPECT_EQ(run.sheet().pointer(), form::Pointer::Arrow);
