@@ -19,9 +19,7 @@ Host::Host(Place place, Words& words)
     connect(&module_, &ModuleProcess::started, this, &Host::moduleStarted);
     connect(&module_, &ModuleProcess::ended, this, &Host::onModuleEnded);
     connect(&module_, &ModuleProcess::failed, this, [this](const QString& cause) {
-        const QString text = words_.wort(941).arg(module_.name(), cause);
-        log(LogKind::Error, text);
-        emit noticed(text);
+        notice(words_.wort(941).arg(module_.name(), cause));
         emit moduleEnded();
         emit menuWanted();
     });
@@ -83,14 +81,14 @@ bool Host::startModule(const QString& module, const QString& settingsFile) {
     QStringList arguments = place_.moduleArguments;
     if (!settingsFile.isEmpty()) {
         if (const QString cause = whyUnreadable(settingsFile); !cause.isEmpty()) {
-            emit noticed(words_.wort(970).arg(cause));
+            notice(words_.wort(970).arg(cause));
             return false;
         }
         arguments << "--settings" << settingsFile;
     }
     if (module_.runs()) {
         if (!settingsFile.isEmpty())
-            emit noticed(words_.wort(971).arg(module_.name(), settingsFile));
+            notice(words_.wort(971).arg(module_.name(), settingsFile));
         return true;
     }
     handedOver_ = false;
@@ -117,11 +115,7 @@ void Host::removeTraining(const Training& training) {
 
 void Host::onModuleEnded(int status) {
     collect();
-    if (status != 0) {
-        const QString text = words_.wort(942).arg(module_.name()).arg(status);
-        log(LogKind::Error, text);
-        emit noticed(text);
-    }
+    if (status != 0) notice(words_.wort(942).arg(module_.name()).arg(status));
     emit moduleEnded();
     if (!handedOver_) emit menuWanted();
 }
@@ -131,11 +125,7 @@ void Host::collect() {
         const bool running = module_.runs() && !handedOver_;
         const auto harvest =
             collector_.collect(running ? Collector::When::DuringRun : Collector::When::AfterRun);
-        for (const QString& path : harvest.unreadable) {
-            const QString text = words_.wort(944).arg(path);
-            log(LogKind::Error, text);
-            emit noticed(text);
-        }
+        for (const QString& path : harvest.unreadable) notice(words_.wort(944).arg(path));
         if (harvest.taken > 0) emit resultsChanged();
     });
 }
@@ -162,7 +152,10 @@ void Host::tell(const StoreError& error) {
 }
 
 void Host::tell(const std::exception& fault) {
-    const QString text = words_.wort(973).arg(QString::fromUtf8(fault.what()));
+    notice(words_.wort(973).arg(QString::fromUtf8(fault.what())));
+}
+
+void Host::notice(const QString& text) {
     log(LogKind::Error, text);
     emit noticed(text);
 }

@@ -80,6 +80,8 @@ class Host : public QObject {
     void noticed(const QString& text);
 
   private:
+    /// Logs what went wrong, and tells it.
+    void notice(const QString& text);
     void onModuleEnded(int status);
 
     const Place place_;

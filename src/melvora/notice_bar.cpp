@@ -1,5 +1,7 @@
 #include "melvora/notice_bar.h"
 
+#include "melvora/wrapped.h"
+
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QStyle>
@@ -25,7 +27,7 @@ NoticeBar::NoticeBar(QWidget* parent)
 }
 
 void NoticeBar::show(const QString& text) {
-    text_->setText(text);
+    text_->setText(wrapped(text));
     QFrame::show();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

@@ -5,7 +5,8 @@
 
 namespace melvora {
 
-/// A line across the window that says what happened, until it is closed. Blocks nothing.
+/// A line across the window that says what happened, until it is closed. Blocks nothing. Shows the
+/// first 300 characters; the whole is in the log.
 class NoticeBar final : public QFrame {
     Q_OBJECT
   public:

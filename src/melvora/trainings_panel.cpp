@@ -1,6 +1,7 @@
 #include "melvora/trainings_panel.h"
 
 #include "melvora/confirm.h"
+#include "melvora/wrapped.h"
 
 #include <QGridLayout>
 
@@ -17,6 +18,7 @@ TrainingsPanel::TrainingsPanel(Host& host, QWidget* parent)
     bold.setWeight(QFont::DemiBold);
     heading_->setFont(bold);
     heading_->setTextFormat(Qt::PlainText);
+    heading_->setWordWrap(true);
     heading_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     hint_->setWordWrap(true);
     hint_->setForegroundRole(QPalette::PlaceholderText);
@@ -48,7 +50,7 @@ void TrainingsPanel::retranslate() {
 
 void TrainingsPanel::showUser(const QString& key, const QString& name) {
     name_ = name;
-    heading_->setText(host_.words().wort(963).arg(name));
+    heading_->setText(wrapped(host_.words().wort(963).arg(name)));
     table_->view()->setAccessibleName(heading_->text());
     host_.guarded([&] {
         trainings_ = host_.store().trainings.of(key);
