@@ -63,6 +63,7 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
     note->setPicture(notation::viertelnote);
     note->setColour(Qt::transparent);
     note->setFixedSize(note->sizeHint() * look::scale());
+    note->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     tempo->addWidget(note);
     tempo->addWidget(bind("lb15", 1));
     sound->addLayout(tempo);
