@@ -8,6 +8,9 @@
 #include <QDBusVariant>
 #include <QUuid>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace hostlink {
 
 namespace {
@@ -19,6 +22,12 @@ QVariant carried(const core::Value& value) {
         throw core::HostGone("the value is nested too deep for a call");
     if (byteSize(value) > maximumBytes) throw core::HostGone("the value is too big for a call");
     return QVariant::fromValue(QDBusVariant(toVariant(value)));
+}
+
+/// A stranger may serve where the user's host should.
+bool belongsToAnother(const std::string& file) {
+    struct stat about {};
+    return lstat(file.c_str(), &about) == 0 && about.st_uid != getuid();
 }
 
 }  // namespace
@@ -33,6 +42,8 @@ DbusHost::~DbusHost() { QDBusConnection::disconnectFromPeer(qt(name_)); }
 void DbusHost::connect() {
     if (QDBusConnection(qt(name_)).isConnected()) return;
     QDBusConnection::disconnectFromPeer(qt(name_));
+    if (const auto socket = socketPath(address_); socket && belongsToAnother(*socket))
+        throw core::HostGone("the socket " + *socket + " belongs to another user");
     const auto connection = QDBusConnection::connectToPeer(qt(address_), qt(name_));
     if (!connection.isConnected())
         throw core::HostGone("no host at " + address_ + ": " +

@@ -26,6 +26,8 @@ std::string temporaryFolder() {
 
 }  // namespace
 
+bool addressIsNamed() { return !variable("MELVORA_HOST_ADDRESS").empty(); }
+
 std::string hostAddress() {
     const std::string given = variable("MELVORA_HOST_ADDRESS");
     if (!given.empty()) return given.front() == '/' ? addressOf(given) : given;

@@ -14,6 +14,9 @@ inline constexpr char methodName[] = "Request";
 /// that bears the user's number.
 std::string hostAddress();
 
+/// Whether MELVORA_HOST_ADDRESS says where the host is.
+bool addressIsNamed();
+
 /// D-Bus address of a Unix socket.
 std::string addressOf(const std::string& socketPath);
 

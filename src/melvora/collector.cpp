@@ -1,5 +1,6 @@
 #include "melvora/collector.h"
 
+#include "melvora/permissions.h"
 #include "melvora/result_record.h"
 
 #include <QDir>
@@ -30,6 +31,7 @@ QString fingerprint(const QString& path) {
 Collector::Collector(QString folder, Results& results)
     : folder_(std::move(folder)), results_(results) {
     QDir().mkpath(folder_);
+    closeToOthers(folder_);
 }
 
 Collector::Harvest Collector::collect(When when) {

@@ -1,5 +1,7 @@
 #include "melvora/database.h"
 
+#include "melvora/permissions.h"
+
 #include <QDir>
 #include <QSqlError>
 #include <QSqlRecord>
@@ -48,8 +50,9 @@ Database::Database(const QString& folder)
       name_(QUuid::createUuid().toString(QUuid::WithoutBraces)) {
     const bool isNew = !QDir(folder).exists();
     if (!QDir().mkpath(folder)) fail("the folder cannot be made");
-    if (isNew)
-        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (isNew) closeToOthers(folder);
+    // The database gives its permissions to the files that it keeps beside it.
+    if (QFile file(path_); file.open(QIODevice::ReadWrite)) closeToOthers(path_);
     try {
         open();
         makeTables();

@@ -87,8 +87,7 @@ bool Host::startModule(const QString& module, const QString& settingsFile) {
         arguments << "--settings" << settingsFile;
     }
     if (module_.runs()) {
-        if (!settingsFile.isEmpty())
-            notice(words_.wort(971).arg(module_.name(), settingsFile));
+        if (!settingsFile.isEmpty()) notice(words_.wort(971).arg(module_.name(), settingsFile));
         return true;
     }
     handedOver_ = false;

@@ -1,4 +1,5 @@
 #include "hostlink/dbus_host.h"
+#include "hostlink/host_address.h"
 #include "look/application.h"
 #include "look/fonts_ahead.h"
 #include "look/look.h"
@@ -108,7 +109,8 @@ int run(const Options& options, look::Application& application) {
     const std::string address = hostlink::hostAddress();
     const auto socket = hostlink::socketPath(address);
     if (!socket) throw UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
-    const SocketLock lock(*socket);
+    const SocketLock lock(
+        *socket, hostlink::addressIsNamed() ? SocketLock::Place::Named : SocketLock::Place::Own);
     return lock.held() ? serve(*socket, options, application) : raiseOther(address, options);
 }
 

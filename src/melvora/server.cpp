@@ -29,6 +29,8 @@ Server::Server(const std::string& socketPath, Requests& requests)
     connect(&server_, &QDBusServer::newConnection, this, [this](QDBusConnection caller) {
         caller.registerObject(hostlink::objectPath, this, QDBusConnection::ExportAllSlots);
     });
+    using std::filesystem::perms;
+    std::filesystem::permissions(provisional(socketPath), perms::owner_read | perms::owner_write);
     std::filesystem::rename(provisional(socketPath), socketPath);
 }
 
