@@ -46,6 +46,8 @@ LIBRARIES = [
     (re.compile(r"fontconfig(/.*)?\.h"), {"look"}),
     (re.compile(r"pugi\w*\.hpp"), {"results", "setup", "sim", "melvora"}),
     (re.compile(r"expat\.h"), {"setup"}),
+    (re.compile(r"unistd\.h"), {"base", "ports", "synth", "hostlink", "qt", "sim", "melvora",
+                                "zepha9"}),
     # The operating system: headers of C that the standard library has under another name are
     # meant too.
     (re.compile(r"[\w/]+\.h"), {"ports", "synth", "hostlink", "qt", "sim", "melvora", "zepha9"}),

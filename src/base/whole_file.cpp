@@ -1,5 +1,7 @@
 #include "base/whole_file.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -20,6 +22,7 @@ void writeWhole(const std::string& path, std::string_view bytes) {
     if (!file) fail(errno);
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     int error = written ? 0 : errno;
+    if (error == 0 && (std::fflush(file) != 0 || fsync(fileno(file)) != 0)) error = errno;
     if (std::fclose(file) != 0 && error == 0) error = errno;
     if (error == 0 && std::rename(beside.c_str(), path.c_str()) != 0) error = errno;
     if (error == 0) return;

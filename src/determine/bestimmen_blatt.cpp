@@ -18,6 +18,9 @@ void BestimmenBlatt::AntwortenVerbinden() {
         const form::Handler antwort{"skal_antw_click.", [this, i] { skal_antw(i); }};
         ton_art(i).onClick = antwort;
         tonart(i).onClick = antwort;
+        // Closed from the first moment on, before the run is ready.
+        ton_art(i).enabled = false;
+        tonart(i).enabled = false;
     }
 }
 

@@ -15,8 +15,9 @@ class MessageLoop {
 
     /// The local date and time.
     virtual base::Moment now() const = 0;
-    /// Seconds since local midnight, as a 32-bit float.
-    float clock() const { return now().sinceMidnight(); }
+    /// Seconds since the local midnight before the program's start, as a 32-bit float. It only goes
+    /// forward, whatever becomes of the day or of the system's clock.
+    virtual float clock() const = 0;
 
     /// Ticks the timer every `milliseconds` until it is disarmed.
     virtual void arm(Timer& timer, int milliseconds) = 0;

@@ -15,6 +15,10 @@ class VirtualTime final : public MessageLoop {
     explicit VirtualTime(base::Moment start = {2026, 1, 2, 10, 0, 0, 0}) : start_(start) {}
 
     base::Moment now() const override;
+    float clock() const override {
+        return static_cast<float>(static_cast<double>(start_.sinceMidnight()) +
+                                  static_cast<double>(elapsed_) / 1000);
+    }
     void arm(Timer& timer, int milliseconds) override;
     void disarm(Timer& timer) override;
     void doEvents() override { advance(0); }

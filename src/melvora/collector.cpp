@@ -1,6 +1,7 @@
 #include "melvora/collector.h"
 
 #include "melvora/permissions.h"
+#include "melvora/plain_file.h"
 #include "melvora/result_record.h"
 
 #include <QDir>
@@ -10,6 +11,10 @@ namespace melvora {
 
 namespace {
 
+constexpr qint64 largestRecord = qint64{64} << 20;
+/// Behind the name of a record that is being written.
+const QString unfinished = QStringLiteral(".part");
+
 /// Moment in the file's name, RSXyymmddhhmmss.xml; the file's own time when the name has none.
 QDateTime startOf(const QFileInfo& file) {
     const QDateTime start =
@@ -17,9 +22,10 @@ QDateTime startOf(const QFileInfo& file) {
     return start.isValid() ? start : file.lastModified();
 }
 
-/// Tells one state of a file from another.
+/// Tells one state of a file from another; of what is no plain file only the path.
 QString fingerprint(const QString& path) {
     const QFileInfo file(path);
+    if (file.isSymLink() || !file.isFile()) return path;
     return QString("%1|%2|%3")
         .arg(path)
         .arg(file.size())
@@ -38,22 +44,36 @@ Collector::Harvest Collector::collect(When when) {
     Harvest harvest;
     const QDir spool(folder_);
     taken_ = 0;
-    for (const QString& name : spool.entryList({"RSX*.xml"}, QDir::Files, QDir::Name)) {
+    // Also what is no file, or leads nowhere: it is told.
+    const auto all = QDir::AllEntries | QDir::System | QDir::Hidden;
+    for (const QString& name : spool.entryList({"RSX*.xml"}, all, QDir::Name)) {
         const QString path = spool.absoluteFilePath(name);
         const QString state = fingerprint(path);
-        if (take(path) || when == When::DuringRun || told_.contains(state)) continue;
+        if (told_.contains(state) || take(path) || when == When::DuringRun) continue;
         told_.insert(state);
         harvest.unreadable.append(path);
     }
+    if (when == When::AfterRun)
+        for (const QString& name : spool.entryList({"RSX*.xml" + unfinished}, QDir::Files))
+            harvest.unreadable.append(putAside(spool, name));
     harvest.taken = taken_;
     return harvest;
 }
 
+/// What a module was writing when it died will not go on. @return where it lies from now on.
+QString Collector::putAside(const QDir& spool, const QString& name) {
+    const QString kept = name.chopped(unfinished.size());
+    QString path = spool.absoluteFilePath("unfinished-" + kept);
+    for (int i = 2; QFileInfo::exists(path); ++i)
+        path = spool.absoluteFilePath(QString("unfinished-%1-%2").arg(i).arg(kept));
+    QFile::rename(spool.absoluteFilePath(name), path);
+    return path;
+}
+
 bool Collector::take(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    const QByteArray xml = file.readAll();
-    const auto record = parseResultRecord(xml);
+    const auto xml = readPlainFile(path, largestRecord);
+    if (!xml) return false;
+    const auto record = parseResultRecord(*xml);
     if (!record) return false;
     const QFileInfo info(path);
     const Result result{0,
@@ -62,8 +82,8 @@ bool Collector::take(const QString& path) {
                         record->exercise.isEmpty() ? record->description : record->exercise,
                         record->rightFirst(),
                         record->answered()};
-    if (results_.add(result, info.fileName(), QString::fromUtf8(xml))) ++taken_;
-    file.remove();
+    if (results_.add(result, info.fileName(), QString::fromUtf8(*xml))) ++taken_;
+    QFile::remove(path);
     return true;
 }
 

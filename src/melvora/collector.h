@@ -1,6 +1,7 @@
 #pragma once
 #include "melvora/results.h"
 
+#include <QDir>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -11,8 +12,10 @@ namespace melvora {
 class Collector {
   public:
     struct Harvest {
-        int taken = 0;           ///< new results
-        QStringList unreadable;  ///< paths not told of before; the files stay where they are
+        int taken = 0;  ///< new results
+        /// Paths not told of before. The files stay where they are; what a module had not finished
+        /// when it died lies beside them as `unfinished-RSX*.xml`.
+        QStringList unreadable;
     };
 
     /// Makes the folder when it is missing.
@@ -21,8 +24,8 @@ class Collector {
     /// While a module runs it may still be writing: an unreadable file is not told of then.
     enum class When { DuringRun, AfterRun };
 
-    /// Reads all `RSX*.xml` of the folder. A file goes only when its content is safely in the
-    /// store.
+    /// Reads all `RSX*.xml` of the folder that are plain files of up to 64 MB; links are not
+    /// followed. A file goes only when its content is safely in the store.
     /// @throws StoreError when the store cannot be written; the file is still there then.
     Harvest collect(When when);
 
@@ -30,6 +33,7 @@ class Collector {
 
   private:
     bool take(const QString& path);
+    static QString putAside(const QDir& spool, const QString& name);
 
     QString folder_;
     Results& results_;

@@ -97,6 +97,7 @@ bool Host::startModule(const QString& module, const QString& settingsFile) {
 
 void Host::takeOver() {
     handedOver_ = true;
+    module_.endSoon();
     collect();
     emit menuWanted();
 }
@@ -114,7 +115,8 @@ void Host::removeTraining(const Training& training) {
 
 void Host::onModuleEnded(int status) {
     collect();
-    if (status != 0) notice(words_.wort(942).arg(module_.name()).arg(status));
+    // How a module ends that has handed over is nobody's concern.
+    if (status != 0 && !handedOver_) notice(words_.wort(942).arg(module_.name()).arg(status));
     emit moduleEnded();
     if (!handedOver_) emit menuWanted();
 }

@@ -23,9 +23,9 @@ LogPage::LogPage(Host& host, QWidget* parent)
     layout->setContentsMargins(12, 12, 12, 12);
     layout->addLayout(filter);
     layout->addWidget(table_);
-    connect(text_, &QLineEdit::textChanged, this, &LogPage::showLines);
-    connect(kind_, &QComboBox::currentIndexChanged, this, &LogPage::showLines);
-    connect(&host_, &Host::logChanged, this, &LogPage::showLines);
+    connect(text_, &QLineEdit::textChanged, this, [this] { refresh(); });
+    connect(kind_, &QComboBox::currentIndexChanged, this, [this] { refresh(); });
+    connect(&host_, &Host::logChanged, this, [this] { refresh(); });
     retranslate();
 }
 
@@ -39,10 +39,10 @@ void LogPage::retranslate() {
     table_->setHeadings({words.wort(935), words.wort(959), words.wort(936), words.wort(937)});
     table_->setEmptyText(words.wort(958));
     table_->view()->setAccessibleName(words.wort(902));
-    showLines();
+    refresh();
 }
 
-void LogPage::showLines() {
+void LogPage::fill() {
     host_.guarded([this] {
         Log::Filter filter{text_->text(), {}};
         if (kind_->currentIndex() == 1) filter.kind = LogKind::Message;

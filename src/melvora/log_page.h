@@ -17,7 +17,7 @@ class LogPage final : public Page {
     void retranslate() override;
 
   private:
-    void showLines();
+    void fill() override;
 
     Host& host_;
     QLabel* label_;

@@ -9,6 +9,7 @@
 #include "melvora/settings_file.h"
 #include "melvora/socket_lock.h"
 
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QThread>
@@ -18,6 +19,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <stdexcept>
 
@@ -46,20 +48,29 @@ class UnreadableFile : public UsageError {
     QString text_;
 };
 
-/// Asks the host that runs already to come forward. It may still be starting: five seconds for
-/// that.
-int raiseOther(const std::string& address, const Options& options) {
+/// Asks the host that runs already to come forward. It may still be starting, or ending: then its
+/// place is this program's. Ten seconds for that.
+/// @return false when the place has become free.
+bool raiseOther(SocketLock& lock, const std::string& address, const Options& options) {
+    using std::chrono::milliseconds;
+    constexpr milliseconds patience{10'000}, answerTime{5'000};
     core::Value wish = options.module.value_or(QString()).toStdString();
     if (options.settingsFile) wish = core::Value::Array{wish, options.settingsFile->toStdString()};
-    for (int attempt = 0;; ++attempt) {
+    QElapsedTimer clock;
+    clock.start();
+    for (;;) {
+        const milliseconds left = patience - milliseconds(clock.elapsed());
+        if (left.count() <= 0)
+            throw std::runtime_error(
+                "the melvora that runs does not answer; end it, then start again");
         try {
-            hostlink::DbusHost other(address);
+            hostlink::DbusHost other(address, std::min(left, answerTime));
             core::Value result;
             if (!other.request("RAISE", wish, result))
                 throw std::runtime_error("the melvora that runs refused; its log says why");
             break;
         } catch (const core::HostGone&) {
-            if (attempt == 50) throw;
+            if (lock.tryAgain()) return false;
             QThread::msleep(100);
         }
     }
@@ -68,7 +79,7 @@ int raiseOther(const std::string& address, const Options& options) {
             "melvora: already running; its window was raised, only --start and a settings file "
             "are handed on\n",
             stderr);
-    return 0;
+    return true;
 }
 
 void choose(Host& host, const Options& options) {
@@ -109,9 +120,10 @@ int run(const Options& options, look::Application& application) {
     const std::string address = hostlink::hostAddress();
     const auto socket = hostlink::socketPath(address);
     if (!socket) throw UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
-    const SocketLock lock(
-        *socket, hostlink::addressIsNamed() ? SocketLock::Place::Named : SocketLock::Place::Own);
-    return lock.held() ? serve(*socket, options, application) : raiseOther(address, options);
+    SocketLock lock(*socket,
+                    hostlink::addressIsNamed() ? SocketLock::Place::Named : SocketLock::Place::Own);
+    if (!lock.held() && raiseOther(lock, address, options)) return 0;
+    return serve(*socket, options, application);
 }
 
 /// Started by a click on the icon or on a file, and nobody reads the standard error: there is no

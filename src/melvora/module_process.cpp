@@ -3,9 +3,13 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <utility>
+
 namespace melvora {
 
 namespace {
+
+constexpr int untilAsked = 5000, untilKilled = 2000;  // milliseconds
 
 QString folderOfModules() {
     const QString given = qEnvironmentVariable("MELVORA_MODULE_PATH");
@@ -22,7 +26,14 @@ ModuleProcess::ModuleProcess(QObject* parent) : QObject(parent) {
         if (error == QProcess::FailedToStart)
             emit failed(process_.program() + ": " + process_.errorString());
     });
+    patience_.setSingleShot(true);
+    connect(&patience_, &QTimer::timeout, this, [this] {
+        if (std::exchange(asked_, true)) return process_.kill();
+        process_.terminate();
+        patience_.start(untilKilled);
+    });
     connect(&process_, &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
+        patience_.stop();
         emit ended(status == QProcess::CrashExit ? -code : code);
     });
 }
@@ -32,6 +43,11 @@ ModuleProcess::~ModuleProcess() {
     if (!runs()) return;
     process_.terminate();
     process_.waitForFinished(2000);
+}
+
+void ModuleProcess::endSoon() {
+    asked_ = false;
+    if (runs()) patience_.start(untilAsked);
 }
 
 void ModuleProcess::start(const QString& module, const QStringList& arguments,

@@ -2,6 +2,7 @@
 #include <QObject>
 #include <QProcess>
 #include <QStringList>
+#include <QTimer>
 
 namespace melvora {
 
@@ -24,6 +25,10 @@ class ModuleProcess : public QObject {
     /// Does nothing while one runs.
     void start(const QString& module, const QStringList& arguments, const Surroundings& where);
 
+    /// Ends a module that has handed over and does not end by itself: after five seconds it is
+    /// asked to, two seconds later it is killed.
+    void endSoon();
+
     bool runs() const { return process_.state() != QProcess::NotRunning; }
     /// Name of the module started last.
     const QString& name() const { return name_; }
@@ -40,6 +45,8 @@ class ModuleProcess : public QObject {
   private:
     QProcess process_;
     QString name_;
+    QTimer patience_;
+    bool asked_ = false;  ///< to end
 };
 
 }  // namespace melvora

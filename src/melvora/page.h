@@ -1,6 +1,8 @@
 #pragma once
 #include <QWidget>
 
+#include <utility>
+
 namespace melvora {
 
 /// One tab of the window. It is made when it is first looked at.
@@ -10,6 +12,21 @@ class Page : public QWidget {
     using QWidget::QWidget;
     /// Shows its texts in the language in force.
     virtual void retranslate() = 0;
+
+  protected:
+    /// Fills the page anew, at once when it is seen, else when it will be.
+    void refresh() {
+        stale_ = !isVisible();
+        if (!stale_) fill();
+    }
+    virtual void fill() {}
+    void showEvent(QShowEvent* event) override {
+        QWidget::showEvent(event);
+        if (std::exchange(stale_, false)) fill();
+    }
+
+  private:
+    bool stale_ = false;
 };
 
 }  // namespace melvora

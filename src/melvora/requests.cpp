@@ -5,6 +5,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <climits>
 
 namespace melvora {
 
@@ -121,6 +122,7 @@ void Requests::raise(const core::Value& argument, core::Value&) {
         throw Refusal{"no such module"};
     if (!file.isEmpty() && !QDir::isAbsolutePath(file))
         throw Refusal{"the file's path must be absolute"};
+    if (file.size() >= PATH_MAX) throw Refusal{"the file's path is too long"};
     emit host_.raiseWanted();
     if (!module.isEmpty() && !host_.startModule(module, file))
         throw Refusal{"the file cannot be read"};

@@ -1,5 +1,7 @@
 #include "melvora/result_record.h"
 
+#include <QStringDecoder>
+
 #include <pugixml.hpp>
 
 #include <algorithm>
@@ -25,6 +27,12 @@ ResultRecord::Lesson lessonOf(const pugi::xml_node& node) {
     return lesson;
 }
 
+bool isUtf8(const QByteArray& bytes) {
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(bytes);
+    return !decoder.hasError() && !text.contains(QChar(0));
+}
+
 }  // namespace
 
 int ResultRecord::rightFirst() const {
@@ -40,7 +48,14 @@ int ResultRecord::answered() const {
 
 std::optional<ResultRecord> parseResultRecord(const QByteArray& xml) {
     pugi::xml_document document;
-    if (!document.load_buffer(xml.data(), static_cast<std::size_t>(xml.size()))) return {};
+    if (!isUtf8(xml) ||
+        !document.load_buffer(xml.data(), static_cast<std::size_t>(xml.size()),
+                              pugi::parse_default | pugi::parse_declaration, pugi::encoding_utf8))
+        return {};
+    const QString encoding = attribute(document.first_child(), "encoding");
+    const bool declared = document.first_child().type() == pugi::node_declaration;
+    if (declared && !encoding.isEmpty() && encoding.compare("UTF-8", Qt::CaseInsensitive) != 0)
+        return {};
     const auto root = document.child("exercise");
     const auto properties = root.child("properties");
     if (!properties.attribute("programm")) return {};

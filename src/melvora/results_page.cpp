@@ -19,7 +19,7 @@ ResultsPage::ResultsPage(Host& host, QWidget* parent)
     layout->setContentsMargins(12, 12, 12, 12);
     layout->addWidget(splitter);
     connect(table_, &TextTable::chosen, this, &ResultsPage::showRecord);
-    connect(&host_, &Host::resultsChanged, this, &ResultsPage::showResults);
+    connect(&host_, &Host::resultsChanged, this, [this] { refresh(); });
     retranslate();
 }
 
@@ -30,10 +30,10 @@ void ResultsPage::retranslate() {
     table_->view()->setAccessibleName(words.wort(901));
     record_->setAccessibleName(words.wort(930));
     record_->setPlaceholderText(words.wort(949));
-    showResults();
+    refresh();
 }
 
-void ResultsPage::showResults() {
+void ResultsPage::fill() {
     host_.guarded([this] {
         const Words& words = host_.words();
         results_ = host_.store().results.all();

@@ -15,7 +15,7 @@ class ResultsPage final : public Page {
     void retranslate() override;
 
   private:
-    void showResults();
+    void fill() override;
     void showRecord(int row);
 
     Host& host_;

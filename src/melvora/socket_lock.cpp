@@ -53,7 +53,12 @@ SocketLock::SocketLock(const std::string& socketPath, Place place) {
         close(file_);
         fail(path, "the file belongs to another user, or is none");
     }
-    held_ = flock(file_, LOCK_EX | LOCK_NB) == 0;
+    tryAgain();
+}
+
+bool SocketLock::tryAgain() {
+    if (!held_) held_ = flock(file_, LOCK_EX | LOCK_NB) == 0;
+    return held_;
 }
 
 SocketLock::~SocketLock() { close(file_); }

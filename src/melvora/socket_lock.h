@@ -20,6 +20,8 @@ class SocketLock {
 
     /// False when another process has the right.
     bool held() const { return held_; }
+    /// Asks once more. @return whether the right is this process's now.
+    bool tryAgain();
 
   private:
     int file_ = -1;

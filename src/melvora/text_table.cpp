@@ -28,8 +28,11 @@ int TextModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant TextModel::data(const QModelIndex& index, int role) const {
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
-    return rows_.value(index.row()).value(index.column());
+    const QString text = rows_.value(index.row()).value(index.column());
+    if (role == Qt::DisplayRole) return text;
+    // What came from elsewhere is shown as it is, never as a page with pictures.
+    if (role == Qt::ToolTipRole) return "<span>" + text.toHtmlEscaped() + "</span>";
+    return {};
 }
 
 QVariant TextModel::headerData(int section, Qt::Orientation orientation, int role) const {

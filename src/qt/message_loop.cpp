@@ -8,7 +8,16 @@
 
 namespace qt {
 
-base::Moment QtMessageLoop::now() const {
+QtMessageLoop::QtMessageLoop() : start_(systemTime().sinceMidnight()) { running_.start(); }
+
+float QtMessageLoop::clock() const {
+    return static_cast<float>(static_cast<double>(start_) +
+                              static_cast<double>(running_.nsecsElapsed()) / 1e9);
+}
+
+base::Moment QtMessageLoop::now() const { return systemTime(); }
+
+base::Moment QtMessageLoop::systemTime() {
     const QDateTime moment = QDateTime::currentDateTime();
     const QDate date = moment.date();
     const QTime time = moment.time();

@@ -1,6 +1,7 @@
 #pragma once
 #include "form/message_loop.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -12,7 +13,9 @@ namespace qt {
 /// The toolkit's event loop and the system's clock.
 class QtMessageLoop final : public form::MessageLoop {
   public:
+    QtMessageLoop();
     base::Moment now() const override;
+    float clock() const override;
     void arm(form::Timer& timer, int milliseconds) override;
     void disarm(form::Timer& timer) override;
     void doEvents() override;
@@ -21,7 +24,11 @@ class QtMessageLoop final : public form::MessageLoop {
     void post(std::function<void()> call) override;
 
   private:
+    static base::Moment systemTime();
+
     QObject context_;
+    const float start_;  ///< seconds since midnight
+    QElapsedTimer running_;
     std::unordered_map<form::Timer*, std::unique_ptr<QTimer>> timers_;
 };
 

@@ -17,8 +17,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Looks at the file's head: the library complains on the terminal about what is no soundfont.
+/// Looks at the head of a plain file: the library complains on the terminal about what is no
+/// soundfont, and would wait for a pipe.
 bool isSoundfont(const fs::path& file) {
+    std::error_code none;
+    if (!fs::is_regular_file(file, none)) return false;
     std::array<char, 12> head{};
     std::ifstream(file, std::ios::binary).read(head.data(), head.size());
     const std::string_view text(head.data(), head.size());
