@@ -2,7 +2,7 @@
 #include "notation/kreistonart.h"
 
 #include "core/katalog.h"
-#include "notation/notenzeile.h"
+#include "notation/grenzen.h"
 
 #include <gtest/gtest.h>
 
@@ -11,13 +11,17 @@
 namespace notation {
 namespace {
 
+using Art = KreisTonart::Art;
+
 struct Draw {
-    explicit Draw(KreisTonart::Art art) : keys(z, rnd, a, art) {
+    explicit Draw(Art art) : keys(z, rnd, a, art) {
         z.skal_typ = 0;
         z.skal_anz = 6;
         engine::SkalaTabellen(a, 0);
         keys.LaufBeginn();
     }
+    Ton note(int k) const { return {a.noten[k], a.notenQz[k]}; }
+
     base::Rnd rnd{11};
     core::Zustand z;
     engine::Aufgabe a;
@@ -36,40 +40,58 @@ void expectSpelled(const engine::Aufgabe& a) {
     ASSERT_EQ(a.noten[7], a.noten[0] + 12);
 }
 
+/// Heights rise by a step a note and tell the notes; what is written lies within the limits.
+void expectOnStaff(const Draw& d, bool written) {
+    const i16 s = d.a.noten[7] < 67 ? 1 : 0;
+    const Grenze limits = grenzenAuf(s, {d.a.quintLage, KreisTonart::stufenQz(0, d.z.skala_nr),
+                                         d.a.transpLage, d.z.FrquMinAkt, d.z.FrquMaxAkt});
+    int below = 0;
+    for (int k = 0; k < 8; ++k) {
+        const Stelle place = YAusTon(d.note(k), s);
+        EXPECT_GE(place.y, written ? 20 : 8) << "the head is seen whole";
+        EXPECT_LE(place.y, written ? 128 : 136);
+        const int height = place.y - 28 * place.oktave;
+        if (k > 0) {
+            EXPECT_EQ(height, below - 4) << "a step up";
+        }
+        below = height;
+        // B#1, which only begins a task and takes no drop, lies below the lowest C.
+        if (d.a.noten[k] > 24) {
+            EXPECT_EQ(TonAusY(place.y, s, vorzeichen(d.a.notenQz[k]), place.oktave), d.note(k));
+        }
+        if (written && k > 0 && k < 7) {
+            EXPECT_GE(place.y, limits.hoechste());
+            EXPECT_LE(place.y, limits.tiefste());
+        }
+    }
+}
+
 TEST(Key, EveryKeyModeAndRangeIsSpelledAndStaysOnItsStaff) {
-    for (const auto art : {KreisTonart::Art::Bestimmen, KreisTonart::Art::Schreiben})
-        for (int size = 0; size < 4; ++size)
-            for (int lowest = 36; lowest + 12 * (size + 1) <= 96; lowest += 12)
+    for (const auto art : {Art::Bestimmen, Art::Schreiben})
+        for (int size = 0; size < 4; ++size) {
+            const int range = 12 * (size + (art == Art::Schreiben ? 2 : 1));
+            for (int lowest = 36; lowest + range <= 96; lowest += 12)
                 for (int key = -7; key <= 7; ++key)
                     for (int mode = 0; mode < 7; ++mode)
                         for (int octave = 0; octave < 8; ++octave) {
+                            SCOPED_TRACE(testing::Message() << key << " " << mode << " " << lowest);
                             Draw d(art);
                             d.rnd.restart(octave);
                             d.z.FrquMinAkt = lowest;
+                            d.z.FrquMaxAkt = lowest + range;
                             d.a.oktSpanne = size;
                             d.z.skala_nr = mode;
                             d.a.quintLage = key;
                             d.keys.Toene();
-                            SCOPED_TRACE(testing::Message() << key << " " << mode << " " << lowest);
                             expectSpelled(d.a);
-                            const i16 staff = d.a.noten[7] < 67 ? 1 : 0;
-                            int line = -1;
-                            for (int k = 0; k < 8; ++k) {
-                                const Stelle place = YAusTon({d.a.noten[k], d.a.notenQz[k]}, staff);
-                                EXPECT_GE(place.y, 8);
-                                EXPECT_LE(place.y, 136);
-                                const int height = place.y - 28 * place.oktave;
-                                if (k > 0) {
-                                    EXPECT_EQ(height, line - 4) << "a step up";
-                                }
-                                line = height;
-                            }
+                            expectOnStaff(d, art == Art::Schreiben);
                         }
+        }
 }
 
 TEST(Key, IsDrawnAsTheExerciseWants) {
     std::set<int> naming, writing;
-    Draw name(KreisTonart::Art::Bestimmen), write(KreisTonart::Art::Schreiben);
+    Draw name(Art::Bestimmen), write(Art::Schreiben);
     for (int i = 0; i < 2000; ++i) {
         name.keys.Ziehen();
         naming.insert(name.a.quintLage);
@@ -77,15 +99,7 @@ TEST(Key, IsDrawnAsTheExerciseWants) {
         writing.insert(write.a.quintLage);
     }
     EXPECT_EQ(naming.size(), 15U);
-    EXPECT_EQ(writing.size(), 12U);
-    EXPECT_FALSE(writing.contains(0));
-    EXPECT_EQ(*writing.rbegin(), 6);
-    write.z.uebungsmodus = core::modus::pruefung;
-    write.z.matbox.redim(3, 1);
-    write.z.matbox(2, 1) = -5;
-    write.a.matIndex = 2;
-    write.keys.Toene();
-    EXPECT_EQ(write.a.quintLage, -5) << "the bag's row decides";
+    EXPECT_EQ(writing, (std::set{-6, -5, -4, -3, -2, -1, 1, 2, 3, 4, 5, 6}));
 }
 
 }  // namespace
