@@ -3,7 +3,6 @@
 #include "engine/aufgabenwahl.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <map>
 #include <vector>
 
@@ -24,7 +23,7 @@ struct Draw {
         z.skal_typ = skal_typ;
         z.skal_anz = katalog::kategorien.at(static_cast<std::size_t>(skal_typ)).skal_max;
     }
-    void choose(std::initializer_list<int> codes) {
+    void choose(const std::vector<int>& codes) {
         z.ska_ausw = 1;
         z.einzelAnz = codes.size() - 1;
         int i = 0;

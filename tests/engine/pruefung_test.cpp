@@ -14,8 +14,6 @@ TEST(Plan, AimsAtThreeToTenMinutes) {
     };
     for (const Row& row : {Row{"both directions, slow", {12000, 1800, 20}, 14, 42, 670, true},
                            {"seven scales, slow", {12000, 1800, 20}, 7, 28, 450, false},
-                           {"just under ten minutes", {8000, 1800, 20}, 12, 48, 570, false},
-                           {"two tetrachords, fast", {1200, 1800, 20}, 2, 12, 60, false},
                            {"one scale", {2400, 1800, 20}, 1, 6, 40, false},
                            {"three quarters made even", {18000, 1800, 20}, 9, 28, 610, true},
                            {"without sound", {0, 1800, 35}, 20, 80, 430, false}}) {

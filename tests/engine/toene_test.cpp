@@ -23,21 +23,23 @@ std::vector<int> pattern(int typ, int nr) {
     return steps;
 }
 
-TEST(Tones, EveryTaskSoundsAsTheCatalogueSaysWithinItsRange) {
+TEST(Tones, EveryTaskSoundsAsTheCatalogueSaysWithinItsRangeAndDirection) {
     for (int typ = 0; typ < katalog::kategorienAnz; ++typ)
         for (int final = 0; final <= 2; ++final)
             for (int octaves = 0; octaves <= 3; ++octaves)
-                for (int stimmung = 0; stimmung <= 2; ++stimmung) {
+                for (int richtung = 0; richtung <= 2; ++richtung) {
                     Draw draw(typ * 100 + final * 10 + octaves);
                     draw.category(typ);
                     draw.z.final = final;
                     draw.z.oktAnz = octaves;
-                    draw.z.stimmung = stimmung;
+                    draw.z.richtung = richtung;
                     draw.z.FrquMinAkt = 36;
                     draw.z.FrquMaxAkt = 36 + 12 * (octaves + 2);
                     draw.wahl.LaufBeginn();
+                    std::map<int, int> drawn;
                     for (int n = 0; n < 60; ++n) {
                         draw.wahl.Ziehen(50);
+                        ++drawn[draw.z.akt_richtung];
                         const auto steps = pattern(typ, draw.z.skala_nr);
                         ASSERT_EQ(draw.a.tonAnz, static_cast<int>(steps.size()));
                         for (int j = 0; j < draw.a.tonAnz; ++j)
@@ -47,6 +49,8 @@ TEST(Tones, EveryTaskSoundsAsTheCatalogueSaysWithinItsRange) {
                         ASSERT_GE(draw.a.noten[0], draw.z.FrquMinAkt);
                         ASSERT_LE(draw.a.noten[draw.a.tonAnz - 1], draw.z.FrquMaxAkt);
                     }
+                    EXPECT_EQ(drawn.contains(1), richtung != 1);
+                    EXPECT_EQ(drawn.contains(-1), richtung != 0);
                 }
 }
 
@@ -106,11 +110,8 @@ TEST(Tuning, CorrectsByDegreeOrByPitchClass) {
     };
     for (const Row& row :
          {Row{"Pythagorean, ionian", 0, 0, 3, 1, {-2, -1, 1, -3, -1, 0, 1, -2}},
-          {"Pythagorean, dorian", 0, 1, 0, 1, {-1, 1, -3, -1, 0, 1, -2, -1}},
           {"Pythagorean, variant from its third", 1, 2, 0, 1, {4, -3, -1, 0, 1, -2, -1, 4}},
           {"Pythagorean, minor with its own pattern", 2, 3, 0, 1, {-3, -1, 0, 1, -2, -1, 1, -3}},
-          {"meantone on C", 0, 0, 0, 2, {5, 6, 1, 4, 6, 0, 1, 5}},
-          {"meantone on D", 0, 0, 2, 2, {6, 1, 2, 6, 0, 1, 2, 6}},
           {"meantone, phrygian on E", 0, 2, 0, 2, {1, 4, 6, 0, 1, 5, 6, 1}},
           {"equal", 0, 0, 2, 0, {0, 0, 0, 0, 0, 0, 0, 0}}}) {
         SCOPED_TRACE(row.name);
