@@ -137,35 +137,5 @@ TEST(Repetition, CountsBeforeTheAnswerAndNotAfterIt) {
     EXPECT_EQ(drill.z.whlgAnz, 0);
 }
 
-TEST(Repetition, AControlHoldsTheAutomaticStepBack) {
-    DrillFixture drill;
-    drill.z.abfrage = 1;
-    drill.run();
-    drill.wait(1800 + 200 + drill.taskLength());
-    drill.answerRight();
-    drill.wait(1700);
-    drill.click("wieder2");
-    EXPECT_FALSE(drill.control("LbNextAufg").visible());
-    const auto starts = drill.midiOut.starts.size();
-    drill.wait(drill.taskLength() + 1700);
-    EXPECT_EQ(drill.midiOut.starts.size(), starts) << "its 1.8 seconds begin anew";
-    drill.wait(300);
-    EXPECT_EQ(drill.midiOut.starts.size(), starts + 1);
-}
-
-TEST(Repetition, AfterTheEndOfATrainingTheLastTaskCanStillBeHeard) {
-    DrillFixture drill;
-    drill.z.uebungsmodus = 1;
-    drill.run();
-    while (drill.sheet()->aufgZustand() != engine::AufgZustand::TrainingBeendet) {
-        drill.next();
-        while (drill.answerWrong()) continue;
-    }
-    drill.click("wieder2");
-    drill.wait(drill.taskLength());
-    EXPECT_TRUE(drill.control("wieder2").usable());
-    EXPECT_FALSE(drill.control("CmdNextAufg").usable());
-}
-
 }  // namespace
 }  // namespace determine

@@ -44,12 +44,6 @@ TEST(Record, TellsTheWholeRun) {
     std::string lessons;
 
     drill.next();
-    const std::string first = nameOf(drill, drill.z.skala_nr);
-    drill.wait(1500);
-    drill.answerRight();
-    lessons += lesson(first, answer(1, true, 15, 0, true, first));
-
-    drill.next();
     const int second = drill.z.skala_nr, confused = (second + 1) % 3;
     drill.wait(2300);
     drill.answer(confused);
