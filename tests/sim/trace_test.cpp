@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <map>
-#include <set>
 
 namespace sim::test {
 
@@ -38,48 +37,6 @@ TEST(Trace, EveryLineIsAnObjectWithItsFields) {
     EXPECT_EQ(seen.size(), fields.size());
 }
 
-struct Setting {
-    const char* name;
-    const char* line;
-};
-
-TEST(Trace, WhatSoundsIsTheTaskDrawn) {
-    for (const Setting& row : {
-             Setting{"both directions", "--tasks 40"},
-             Setting{"melody", "--tasks 40 --set abfolge=1"},
-             Setting{"pure melody", "--tasks 40 --set abfolge=1 --set stimmung=1"},
-             Setting{"meantone, detuned", "--tasks 40 --set stimmung=2 --set frequenz=1"},
-             Setting{"tetrachords", "--tasks 40 --set skal_typ=6"},
-             Setting{"eight tones down", "--tasks 40 --set skal_typ=3 --set richtung=1"},
-             Setting{"pentatonic", "--tasks 40 --set skal_typ=4 --set final=1"},
-         }) {
-        SCOPED_TRACE(row.name);
-        std::vector<int> expected, played;
-        int tasks = 0, last = -1, lastNote = -1;
-        for (const QJsonObject& line : TracedRun(row.line).lines()) {
-            if (line["e"].toString() == "midi" && (line["status"].toInt() & 0xF0) == 0x90)
-                played.push_back(line["data1"].toInt());
-            if (line["e"].toString() != "task") continue;
-            ASSERT_EQ(played, expected);
-            played.clear();
-            const auto notes = numbers(line["noten"]);
-            EXPECT_TRUE(std::ranges::is_sorted(notes, std::ranges::less_equal{}));
-            EXPECT_FALSE(line["skala_nr"].toInt() == last && notes[0] == lastNote);
-            last = line["skala_nr"].toInt();
-            lastNote = notes[0];
-            expected = notes;
-            if (std::string(row.line).find("abfolge=1") != std::string::npos)
-                std::ranges::transform(numbers(line["ton_abfolg"]), expected.begin(), [&](int i) {
-                    return notes.at(static_cast<std::size_t>(i));
-                });
-            else if (line["akt_richtung"].toInt() < 0)
-                std::ranges::reverse(expected);
-            ++tasks;
-        }
-        EXPECT_EQ(tasks, 40);
-    }
-}
-
 TEST(Trace, TheBarIsTheShareOfThePositiveWeights) {
     const TracedRun run("--set uebungsmodus=1 --set einzel_wahl=1,-1,2,-5 --learner random:0.6");
     const int n = run.lines("run")[0]["n"].toInt();
@@ -95,21 +52,6 @@ TEST(Trace, TheBarIsTheShareOfThePositiveWeights) {
         EXPECT_NEAR(closed[i]["FloodPercent"].toInt(), 100.0 * sum / (start * n * 2), 0.51);
     }
     EXPECT_TRUE(closed.back()["FloodPercent"].toInt() % 100 == 0);
-}
-
-TEST(Trace, EachHalfOfAnExamHoldsEveryScale) {
-    const TracedRun run("--set uebungsmodus=4 --set skal_typ=4 --learner perfect --seed 3");
-    const auto tasks = run.lines("task");
-    const std::size_t half = tasks.size() / 2;
-    const int n = run.lines("run")[0]["n"].toInt();
-    for (const std::size_t from : {std::size_t{0}, half}) {
-        std::set<int> codes;
-        for (std::size_t i = from; i < from + half; ++i)
-            codes.insert((tasks[i]["skala_nr"].toInt() + 1) * tasks[i]["akt_richtung"].toInt());
-        // Where nothing but the scale just played is left, a task is drawn from all.
-        EXPECT_GE(static_cast<int>(codes.size()), n - 1);
-    }
-    EXPECT_EQ(run.lines("closed").back()["restAufgaben"].toInt(), 0);
 }
 
 TEST(Trace, AConfusedLearnerNamesTheOtherScaleFirst) {
