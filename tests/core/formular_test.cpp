@@ -58,15 +58,6 @@ TEST(CommonErrorPath, StillWarnsWhenTheHostIsGone) {
     EXPECT_EQ(bench.dialogs.messages[0].text, "VOID\nVOID\nVOID\nVOID");
 }
 
-TEST(Help, OpensThePageOfTheFormInTheLanguageInForce) {
-    BenchProgramm bench;
-    bench.p.worte.SprachenLaden();
-    bench.p.worte.SpracheSetzen("English");
-    Faulty form(bench.p);
-    EXPECT_TRUE(form.key({form::Key::Kind::Help}));
-    EXPECT_EQ(bench.help.opened, std::vector<std::string>{"faulty/en"});
-}
-
 TEST(FrmMessage, ShowsALongTextUntilItIsPutAway) {
     BenchProgramm bench;
     bench.p.Melden("title", "first");

@@ -30,7 +30,6 @@ TEST(HostVerbinden, StandsOnlyWithTheHostThatStartedTheModule) {
         {"no host object", [](auto& h) { h.present = false; }, "zepha9", false, "Status 9"},
         {"a host that does not answer", [](auto& h) { h.gone = true; }, "zepha9", false,
          "Status 9"},
-        {"APP answered false", [](auto& h) { h.refused = {"APP"}; }, "zepha9", false, "Status 9"},
         {"another module was started", [](auto& h) { h.started = "other.exe"; }, "zepha9", false,
          notStarted},
         {"only the beginning is the same", [](auto& h) { h.started = "zepha9"; }, "zepha9", false,
@@ -86,7 +85,6 @@ TEST(HostLesen, FindsOnlyWhatIsARecord) {
         {"one element only", holding(Value::Array{"False"}), false},
         {"no array", holding("True"), false},
         {"the call fails", [](auto& h) { h.failing = {"READ"}; }, false},
-        {"answered false", [](auto& h) { h.refused = {"READ"}; }, false},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

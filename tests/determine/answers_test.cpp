@@ -63,23 +63,38 @@ TEST(Answers, AWrongOneIsLockedUntilTheTaskIsClosed) {
     EXPECT_EQ(openAnswers(drill).size(), 7U);
 }
 
-/// Many ascending scales and few descending ones allow more wrong answers than four.
-TEST(Answers, EveryChoiceOfScalesCanBeWorkedThrough) {
-    for (const auto& [ascending, descending] : {std::pair{7, 1}, {8, 2}, {8, 4}, {1, 8}, {0, 8}})
+/// One fewer than there are answers may be wrong, at most four. In both directions the ascending
+/// scales count, and where there is at most one, no wrong answer loses the task.
+TEST(Answers, EveryChoiceOfScalesCanBeWorkedThroughAndAllowsItsWrongAnswers) {
+    struct Row {
+        int ascending, descending, richtung, wrong;
+    };
+    for (const Row& row : {Row{7, 1, 2, 6},
+                           {8, 4, 2, 7},
+                           {5, 5, 2, 4},
+                           {1, 8, 2, 7},
+                           {0, 8, 2, 7},
+                           {3, 0, 0, 2},
+                           {7, 0, 0, 4},
+                           {0, 3, 1, 2}})
         for (const int modus : {0, 1, 3}) {
             SCOPED_TRACE(testing::Message()
-                         << ascending << " up " << descending << " down " << modus);
+                         << row.ascending << " up " << row.descending << " down " << modus);
             DrillFixture drill;
             drill.category(2);
             drill.z.uebungsmodus = modus;
+            drill.z.richtung = row.richtung;
             drill.z.ska_ausw = 1;
-            drill.z.einzelAnz = ascending + descending - 1;
-            for (int i = 0; i < ascending; ++i) drill.z.einzel_wahl[i] = i + 1;
-            for (int i = 0; i < descending; ++i) drill.z.einzel_wahl[ascending + i] = -(i + 1);
+            drill.z.einzelAnz = row.ascending + row.descending - 1;
+            for (int i = 0; i < row.ascending; ++i) drill.z.einzel_wahl[i] = i + 1;
+            for (int i = 0; i < row.descending; ++i)
+                drill.z.einzel_wahl[row.ascending + i] = -(i + 1);
             drill.run();
             for (int n = 0; n < 3 && drill.control("CmdNextAufg").usable(); ++n) {
                 drill.next();
-                while (drill.answerWrong()) continue;
+                int wrong = 0;
+                while (drill.answerWrong()) ++wrong;
+                EXPECT_EQ(wrong, row.wrong);
                 drill.answerRight();
                 ASSERT_NE(drill.sheet(), nullptr);
             }

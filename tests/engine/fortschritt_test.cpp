@@ -13,35 +13,6 @@ TEST(ZeitStrafe, GrowsByATenthForEveryTwoTenthsOver) {
         EXPECT_FLOAT_EQ(ZeitStrafeBerechnen(took, 20), penalty) << took;
 }
 
-TEST(AntwortDauer, IsInTenthsWithAHalfRoundedUp) {
-    EXPECT_EQ(antwortDauer(12.25F, 10.0F, 0), 23);
-    EXPECT_EQ(antwortDauer(12.1875F, 10.0F, 0), 22);
-}
-
-TEST(ErlaubteFehler, AreAtMostFourAndOneFewerThanTheAnswers) {
-    struct Row {
-        const char* name;
-        int richtung;
-        std::vector<int> codes;
-        int different, allowed;
-    };
-    for (const Row& row : {Row{"all scales", 2, {}, 7, 4},
-                           {"one", 0, {3}, 1, 0},
-                           {"five ascending", 0, {1, 2, 3, 4, 5}, 5, 4},
-                           {"three descending", 1, {-1, -2, -3}, 3, 2},
-                           {"both, three up", 2, {1, 2, 3, -1}, 3, 2}}) {
-        SCOPED_TRACE(row.name);
-        core::Zustand z;
-        z.richtung = row.richtung;
-        z.ska_ausw = row.codes.empty() ? 0 : 1;
-        for (std::size_t i = 0; i < row.codes.size(); ++i) {
-            z.einzel_wahl[static_cast<int>(i)] = row.codes[i];
-            z.einzelAnz = i;
-        }
-        EXPECT_EQ(erlaubteFehler(z, row.different), row.allowed);
-    }
-}
-
 struct FortschrittTest : testing::Test {
     FortschrittTest() {
         z.skal_anz = 6;

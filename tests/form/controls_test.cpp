@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-
 namespace form {
 namespace {
 
@@ -57,31 +55,6 @@ TEST(Button, CanBePressedOnlyWhereTheUserReachesIt) {
         form.button.click();
         EXPECT_EQ(pressed, 1);
     }
-}
-
-TEST(Handler, WhatItThrowsGoesToItsFormWithItsProcedure) {
-    Bench bench;
-    bench.form.button.onClick = {"press.", [] { throw std::runtime_error("broken"); }};
-    bench.form.button.click();
-    EXPECT_EQ(bench.diary.back(), "press.broken");
-    EXPECT_EQ(bench.form.running(), 0);
-}
-
-TEST(Option, OneOfAGroupIsChosenAndItsHandlerRuns) {
-    Bench bench;
-    std::vector<int> chosen;
-    for (Option& option : bench.form.options)
-        option.onClick = {"choose.", [&] { chosen.push_back(option.index()); }};
-    bench.form.options(1).choose();
-    bench.form.options(1).choose();
-    bench.form.options(2).click();
-    bench.form.options(2).click();
-    EXPECT_EQ(chosen, (std::vector{1, 2, 2})) << "code once, the user each time";
-    EXPECT_FALSE(bench.form.options(1).value());
-    EXPECT_TRUE(bench.form.options(2).value());
-    EXPECT_THROW(bench.form.options(3), base::RuntimeError);
-    EXPECT_EQ(bench.form.find("options", 2), &bench.form.options(2));
-    EXPECT_EQ(bench.form.find("options"), nullptr);
 }
 
 TEST(Combo, KeepsItsChoiceThroughChangesOfTheList) {

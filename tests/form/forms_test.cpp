@@ -29,40 +29,32 @@ TEST(Forms, UnloadsAllLastFirstAndThenTheProgramIsEmpty) {
     EXPECT_EQ(bench.diary.size(), 4U) << "both are destroyed by the loop";
 }
 
-TEST(Forms, AFormThatUnloadsItselfInAHandlerOutlivesIt) {
-    Bench bench;
-    std::string seen;
-    const bool never = false;
-    bench.form.button.onClick = {"press.", [&] {
-                                     bench.forms.unload("bench");
-                                     bench.loop.wait(50, never);
-                                     seen = bench.form.button.name();
-                                 }};
-    bench.form.button.click();
-    EXPECT_EQ(seen, "button");
-    EXPECT_EQ(bench.forms.loaded("bench"), nullptr);
-    bench.add("bench");
-    bench.loop.doEvents();
-    EXPECT_EQ(std::ranges::count(bench.diary, "bench destroyed"), 1);
-}
-
-TEST(Forms, AFormUnloadedWhileItsHandlerWaitsIsNotDestroyedUnderIt) {
-    Bench bench;
-    const bool never = false;
-    int ticks = 0;
-    bench.add("second").timer.onTick = {"tick.", [&] { bench.forms.unload("bench"); }};
-    static_cast<BenchForm&>(bench.forms.load("second")).timer.start();
-    bench.form.other.onTick = {"tick.", [&] { ++ticks; }};
-    bench.form.other.start();
-    bench.form.button.onClick = {"press.", [&] {
-                                     bench.loop.wait(1000, never);
-                                     bench.diary.push_back(bench.form.name() + " went on");
-                                 }};
-    bench.form.button.click();
-    EXPECT_EQ(ticks, 0) << "its timers stopped with it";
-    const auto wentOn = std::ranges::find(bench.diary, "bench went on");
-    ASSERT_NE(wentOn, bench.diary.end());
-    EXPECT_EQ(std::find(bench.diary.begin(), wentOn, "bench destroyed"), wentOn);
+TEST(Forms, AFormUnloadedInItsHandlerOrWhileThatWaitsOutlivesIt) {
+    for (const bool itself : {true, false}) {
+        SCOPED_TRACE(itself ? "by itself" : "by another form");
+        Bench bench;
+        const bool never = false;
+        int ticks = 0;
+        BenchForm& second = bench.add("second");
+        second.timer.onTick = {"tick.", [&] { bench.forms.unload("bench"); }};
+        if (!itself) second.timer.start();
+        bench.form.other.onTick = {"tick.", [&] { ++ticks; }};
+        bench.form.other.start();
+        bench.form.button.onClick = {"press.", [&] {
+                                         if (itself) bench.forms.unload("bench");
+                                         bench.loop.wait(1000, never);
+                                         bench.diary.push_back(bench.form.name() + " went on");
+                                     }};
+        bench.form.button.click();
+        EXPECT_EQ(bench.forms.loaded("bench"), nullptr);
+        EXPECT_EQ(ticks, 0) << "its timers stopped with it";
+        const auto wentOn = std::ranges::find(bench.diary, "bench went on");
+        ASSERT_NE(wentOn, bench.diary.end());
+        EXPECT_EQ(std::find(bench.diary.begin(), wentOn, "bench destroyed"), wentOn);
+        bench.add("third");  // the next form that comes buries those that went
+        bench.loop.doEvents();
+        EXPECT_EQ(std::ranges::count(bench.diary, "bench destroyed"), 1);
+    }
 }
 
 TEST(Forms, AModalFormHoldsItsCallerFromItsShowToItsHiding) {

@@ -18,8 +18,7 @@ const QByteArray record = R"(<?xml version="1.0" encoding="utf-8"?>
  <lessons>
   <lesson><properties><property key="Tonskala" value="C dorisch"/></properties><answers>
    <answer lfd="1"><property key="Antwort" value="false"/><property key="Skala" value="Dur"/></answer>
-   <answer lfd="2"><property key="Antwort" value="true"/><property key="Skala" value="dorisch"/>
-    <property key="Dauer Antwort" value="2,5"/><property key="Anz Whlg" value="0"/></answer>
+   <answer lfd="2"><property key="Antwort" value="true"/></answer>
   </answers></lesson>
   <lesson><properties/><answers><answer lfd="1"><property key="Antwort" value="true"/></answer></answers></lesson>
   <lesson><properties/><answers/></lesson>

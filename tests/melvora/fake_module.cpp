@@ -1,12 +1,11 @@
 // A module that does what the variable FAKE_MODULE says: "run" leaves a result record in the spool
-// folder and hands over to the host, "crash" dies, "vanish" ends without a word, "stay" stays as
-// long as its host, "stranger" goes on as another user. All but the one that dies tell the log
-// their arguments and what the host says of them. Ends with status 4 when the host does not answer.
+// folder and hands over to the host, "crash" dies, "vanish" ends without a word, "stranger" goes on
+// as another user. All but the one that dies tell the log their arguments and what the host says of
+// them. Ends with status 4 when the host does not answer.
 #include "hostlink/dbus_host.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QThread>
 
 #include <unistd.h>
 
@@ -22,10 +21,6 @@ int act(const QString& task, const QStringList& arguments) {
     const std::string name = "started as " + result.at(1).text();
     host.request("LOGMESS", (QStringList(name.c_str()) + arguments).join(' ').toStdString(),
                  result);
-    while (task == "stay") {
-        QThread::msleep(20);
-        host.request("LANG", "", result);
-    }
     if (task != "run") return 0;
     QFile record(qEnvironmentVariable("temp") + "/RSX261121120000.xml");
     if (!record.open(QIODevice::WriteOnly)) return 3;

@@ -78,12 +78,10 @@ TEST_F(HostProcess, TellsWhatIsWrongAndEndsWithStatusTwo) {
         {"data folder is a file", {}, data().toStdString()},
         {"unknown option", {"--nonsense"}, "nonsense"},
         {"option without its value", {"--start"}, "start"},
-        {"empty folder", {"--data", ""}, "data"},
         {"value for a switch", {"--teacher=1"}, "teacher"},
         {"unknown module", {"--start", "zepha8"}, "zepha8"},
         {"two files", {"a.mvs", "b.mvs"}, "b.mvs"},
         {"no such file", {"nowhere.mvs"}, QDir::current().filePath("nowhere.mvs").toStdString()},
-        {"folder for a file", {folder_.path()}, folder_.path().toStdString()},
         {"file for another module", {"--start", "zepha8", data()}, "zepha8"},
         {"unknown user", {"--data", folder_.filePath("d1"), "--user", "ghost"}, "ghost"},
         {"unknown language", {"--data", folder_.filePath("d2"), "--language", "Latina"}, "Deutsch"},
@@ -94,6 +92,7 @@ TEST_F(HostProcess, TellsWhatIsWrongAndEndsWithStatusTwo) {
         EXPECT_EQ(ended.status, 2);
         EXPECT_NE(ended.complaint.find(row.told), std::string::npos) << ended.complaint;
     }
+    for (const char* option : {"--help", "-v"}) EXPECT_EQ(second({option}).status, 0) << option;
 }
 
 TEST_F(HostProcess, CallsThatAreNoRequestsDoItNoHarm) {

@@ -25,13 +25,6 @@ TEST_F(ModuleRun, TheModuleFindsItsHostAndItsResultIsCollected) {
     EXPECT_FALSE(QFile::exists(data() + "/spool/RSX261121120000.xml"));
 }
 
-TEST_F(ModuleRun, TheHostNamesTheModuleAsLongAsItRuns) {
-    start({"--start", "zepha9"}, "stay");
-    eventually([this] { return startedModule() == "zepha9.exe"; });
-    EXPECT_EQ(second({"--start", "zepha9"}).status, 0);
-    EXPECT_EQ(startedModule(), "zepha9.exe");
-}
-
 TEST_F(ModuleRun, AModuleThatDiesIsLoggedAndTheHostLives) {
     start({"--start", "zepha9"}, "crash");
     eventually([this] { return !logged().isEmpty(); });

@@ -67,12 +67,10 @@ TEST_F(TrainingsTest, OnlyAStateThatWasLeftWithItsSettingsCounts) {
     };
     const Row rows[] = {
         {"left", left, true, true},
-        {"left, other case", Value::Array{"True", 1}, true, true},
         {"ended", Value::Array{"False"}, true, false},
         {"without settings", left, false, false},
         {"no array", "true", true, false},
         {"mark not in front", Value::Array{1, "true"}, true, false},
-        {"empty", Value::Array{}, true, false},
     };
     Store store(folder_.path());
     for (const Row& row : rows) {
