@@ -1,7 +1,5 @@
 #include "synth/sound_meter.h"
 
-#include "synth/synth_options.h"
-
 #include <algorithm>
 #include <cmath>
 #include <complex>
@@ -55,7 +53,7 @@ const std::array<Tuning, 5> tunings{{
 
 Rendering::Rendering(bool font)
     : engine(mailbox, [this](std::uint32_t run) { ended.push_back(run); }) {
-    if (font) engine.loadFont(findSoundfont(""));
+    if (font) engine.loadFont(measuredFont);
 }
 
 void Rendering::send(int status, int data1, int data2) {

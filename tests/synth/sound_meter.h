@@ -29,6 +29,9 @@ class Rendering {
 std::vector<sound::MidiEvent> note(int channel, int key, int start, int length, int velocity = 100);
 void append(std::vector<sound::MidiEvent>& to, const std::vector<sound::MidiEvent>& more);
 
+/// The font that is among the packages: the instruments of others begin and fade otherwise.
+inline constexpr const char* measuredFont = "/usr/share/sounds/sf2/TimGM6mb.sf2";
+
 /// Clavinet: begins at once and ends within milliseconds. Organ: one steady pitch without vibrato.
 inline constexpr int brief = 7;
 inline constexpr int steady = 16;
