@@ -75,18 +75,5 @@ TEST(GrdEinst, HandsOverToTheHostWhenNoFormIsLeft) {
     EXPECT_EQ(start.host.requests.size(), 1U) << "the link is closed";
 }
 
-TEST(GrdEinst, AFaultAtTheStartLeavesAFormThatCanBeLeft) {
-    StartForm start;
-    start.host.warnsOfErrors = true;
-    const auto watch = start.p.forms.made.connect([&](form::Form& made) {
-        static_cast<form::Timer*>(made.find("start"))->onTick.run = [] { base::throwOverflow(); };
-    });
-    start.p.forms.load("grd_einst");
-    start.loop.advance(1);
-    EXPECT_EQ(start.host.faults.at(0).at(0).text(), "zepha9.grd_einststart_timer.");
-    EXPECT_EQ(start.dialogs.messages.size(), 2U);
-    EXPECT_TRUE(start.form().visible());
-}
-
 }  // namespace
 }  // namespace core

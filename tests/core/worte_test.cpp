@@ -13,17 +13,12 @@ TEST(Worte, AreVoidUntilThereIsALanguageThatKnowsThem) {
     Worte worte(&words);
     EXPECT_EQ(worte.Wort(354), "VOID");
     worte.SprachenLaden();
-    worte.SpracheSetzen("");
-    worte.SpracheSetzen("Klingon");
-    EXPECT_EQ(worte.Wort(354), "VOID");
     worte.SpracheSetzen("Deutsch");
     EXPECT_EQ(worte.Wort(354), "W354") << "also what was asked for before";
     EXPECT_EQ(worte.Wort(7), "VOID");
     worte.SpracheSetzen("English");
-    EXPECT_EQ(worte.Wort(354), "E354");
-    EXPECT_EQ(worte.suffix(), "en");
     worte.SpracheSetzen("Klingon");
-    EXPECT_EQ(worte.Wort(354), "E354") << "an unknown name changes nothing";
+    EXPECT_EQ(worte.Wort(354) + worte.suffix(), "E354en") << "an unknown name changes nothing";
 }
 
 }  // namespace

@@ -5,30 +5,20 @@
 namespace form {
 namespace {
 
-TEST(Property, AViewIsToldOnlyOfRealChanges) {
+TEST(Property, TellsOnlyRealChangesAndAListenerMayGoWhileItIsTold) {
     Bench bench;
-    int told = 0;
-    const auto watch = bench.form.button.changed.connect([&](Aspect) { ++told; });
-    bench.form.button.caption = "go";
-    bench.form.button.caption = "go";
-    bench.form.button.enabled = true;
-    bench.form.button.backColour = base::colours::white;
-    EXPECT_EQ(told, 1);
-    EXPECT_FALSE(bench.form.button.coloured());
-}
-
-TEST(Signal, AListenerMayGoWhileItIsTold) {
-    Signal<> signal;
     int first = 0, second = 0;
     Connection secondListener;
-    const auto firstListener = signal.connect([&] {
+    auto& changed = bench.form.button.changed;
+    const auto firstListener = changed.connect([&](Aspect) {
         ++first;
         secondListener = Connection();
     });
-    secondListener = signal.connect([&] { ++second; });
-    signal();
-    signal();
-    EXPECT_EQ(first, 2);
+    secondListener = changed.connect([&](Aspect) { ++second; });
+    bench.form.button.caption = "go";
+    bench.form.button.caption = "go";
+    bench.form.button.enabled = true;
+    EXPECT_EQ(first, 1);
     EXPECT_EQ(second, 0);
 }
 
@@ -64,19 +54,14 @@ TEST(Combo, KeepsItsChoiceThroughChangesOfTheList) {
     combo.onSelect = {"select.", [&] { ++chosen; }};
     for (const char* text : {"a", "b", "c"}) combo.add(text);
     combo.setListIndex(1);
+    combo.setListIndex(1);
+    EXPECT_EQ(chosen, 2) << "each choice from code runs the handler";
     combo.insert(0, "new");
+    combo.remove(3);
     EXPECT_EQ(combo.text(), "b");
-    combo.remove(0);
     combo.remove(2);
-    EXPECT_EQ(combo.text(), "b");
-    combo.remove(1);
     EXPECT_EQ(combo.listIndex(), -1);
-    EXPECT_EQ(combo.text(), "");
-    combo.setListIndex(0);
-    combo.setListIndex(0);
-    EXPECT_EQ(chosen, 3) << "each choice from code runs the handler";
-    EXPECT_THROW(combo.setListIndex(1), base::RuntimeError);
-    EXPECT_THROW(combo.setListIndex(-2), base::RuntimeError);
+    EXPECT_THROW(combo.setListIndex(2), base::RuntimeError);
 }
 
 }  // namespace
