@@ -56,24 +56,17 @@ TEST_F(CollectorTest, TakesARecordIntoTheStoreAndClearsItAway) {
 }
 
 TEST_F(CollectorTest, KeepsWhatIsNoRecordAndTellsOfItOnce) {
-    struct Row {
-        const char* name;
-        QByteArray text;
-    };
-    const Row rows[] = {
-        {"RSX000000000001.xml", ""},
-        {"RSX000000000002.xml", "no xml"},
-        {"RSX000000000003.xml", record.left(record.size() / 2)},
-        {"RSX000000000004.xml", "<test><properties programm='ZEPHA9'/></test>"},
-    };
-    for (const Row& row : rows) put(row.name, row.text);
+    const QByteArray texts[] = {"", "no xml", record.left(record.size() / 2),
+                                "<test><properties programm='ZEPHA9'/></test>"};
+    const auto name = [](qsizetype i) { return QString("RSX%1.xml").arg(i); };
+    for (qsizetype i = 0; i < std::ssize(texts); ++i) put(name(i), texts[i]);
     put("RSX261121120000.xml", record);
     put("other.xml", record);
     const auto first = collect();
     EXPECT_EQ(first.taken, 1);
-    EXPECT_EQ(first.unreadable.size(), std::ssize(rows));
+    EXPECT_EQ(first.unreadable.size(), std::ssize(texts));
     EXPECT_TRUE(collect().unreadable.isEmpty());
-    for (const Row& row : rows) EXPECT_TRUE(QFile::exists(spool(row.name))) << row.name;
+    for (qsizetype i = 0; i < std::ssize(texts); ++i) EXPECT_TRUE(QFile::exists(spool(name(i))));
     EXPECT_TRUE(QFile::exists(spool("other.xml")));
 }
 

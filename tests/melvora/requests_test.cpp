@@ -24,27 +24,28 @@ class RequestsTest : public testing::Test {
 };
 
 TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
+    using Array = Value::Array;
     struct Row {
         const char* name;
         QString key;
         std::optional<Value> argument;
     };
+    const std::string folder = folder_.path().toStdString();
     const Row rows[] = {
         {"unknown key", "NONSENSE", Value("")},
         {"very long key", QString(1'000'000, 'x'), Value("")},
         {"unknown type", "LANG", {}},
-        {"read without key", "READ", Value(Value::Array{"zepha9"})},
-        {"read with a number for a key", "READ", Value(Value::Array{"zepha9", 1})},
-        {"store of a text", "STORE", Value(Value::Array{"zepha9", "E1", "text"})},
+        {"read without key", "READ", Value(Array{"zepha9"})},
+        {"read with a number for a key", "READ", Value(Array{"zepha9", 1})},
+        {"store of a text", "STORE", Value(Array{"zepha9", "E1", "text"})},
         {"store of 50 MB", "STORE",
-         Value(Value::Array{"zepha9", "E1", Value::Array{std::string(50 << 20, 'x'), 1}})},
-        {"store of too many", "STORE",
-         Value(Value::Array{"zepha9", "E1", Value::Array(1'000'000, Value(1))})},
-        {"error with three elements", "LOGERR", Value(Value::Array{"a", 1, "b"})},
+         Value(Array{"zepha9", "E1", Array{std::string(50 << 20, 'x'), 1}})},
+        {"store of too many", "STORE", Value(Array{"zepha9", "E1", Array(1'000'000, Value(1))})},
+        {"error with three elements", "LOGERR", Value(Array{"a", 1, "b"})},
         {"unknown module", "RAISE", Value("/bin/sh")},
-        {"file for no module", "RAISE", Value(Value::Array{"", folder_.path().toStdString()})},
-        {"relative path", "RAISE", Value(Value::Array{"zepha9", "a.mvs"})},
-        {"folder for a file", "RAISE", Value(Value::Array{"zepha9", folder_.path().toStdString()})},
+        {"file for no module", "RAISE", Value(Array{"", folder})},
+        {"relative path", "RAISE", Value(Array{"zepha9", "a.mvs"})},
+        {"folder for a file", "RAISE", Value(Array{"zepha9", folder})},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

@@ -40,23 +40,21 @@ TEST_F(StoreTest, SettingsOutliveTheProgram) {
 
 TEST_F(StoreTest, AProposedKeyIsFreeAndAllowed) {
     Store store(folder_.path());
-    struct Row {
-        const char* surname;
-        const char* firstName;
-        const char* key;
+    const User expected[] = {
+        {"jdoe", "Doe", "Jane", ""},
+        {"jdoe2", "Doe", "Jörg", ""},
+        {"amullerlu", "Müller-Lü", "Änne", ""},
+        {"user", "", "", ""},
+        {"ubekannt", "Bekannt", "Un", ""},
+        {"unbekannt2", "unbekannt", "", ""},
     };
-    const Row rows[] = {
-        {"Doe", "Jane", "jdoe"}, {"Doe", "Jörg", "jdoe2"},      {"Müller-Lü", "Änne", "amullerlu"},
-        {"", "", "user"},        {"Bekannt", "Un", "ubekannt"}, {"unbekannt", "", "unbekannt2"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.key);
-        const QString key = store.users.proposeKey(row.surname, row.firstName);
-        EXPECT_EQ(key, QString(row.key));
+    for (const User& user : expected) {
+        const QString key = store.users.proposeKey(user.surname, user.firstName);
+        EXPECT_EQ(key, user.key);
         EXPECT_TRUE(isAllowedKey(key));
-        store.users.put({key, row.surname, row.firstName, ""});
+        store.users.put(user);
     }
-    EXPECT_EQ(store.users.all().size(), std::ssize(rows));
+    EXPECT_EQ(store.users.all().size(), std::ssize(expected));
     for (const char* key : {"", "UNBEKANNT", " x", "x "}) EXPECT_FALSE(isAllowedKey(key)) << key;
 }
 
@@ -65,25 +63,17 @@ TEST_F(StoreTest, TheLogIsFilteredByKindAndText) {
     store.log.write(LogKind::Message, "anna", "100 % geübt");
     store.log.write(LogKind::Error, "anna", "grd_einst: Überlauf");
     store.log.write(LogKind::Error, "jörg", "Grdxeinst: anders");
-    struct Row {
-        const char* name;
-        Log::Filter filter;
+    const auto found = [&](const Log::Filter& filter) {
         QStringList texts;
+        for (const LogLine& line : store.log.lines(filter)) texts.append(line.text);
+        return texts;
     };
-    const Row rows[] = {
-        {"all, newest first", {}, {"Grdxeinst: anders", "grd_einst: Überlauf", "100 % geübt"}},
-        {"any case", {"GRDX", {}}, {"Grdxeinst: anders"}},
-        {"underscore is itself", {"grd_", {}}, {"grd_einst: Überlauf"}},
-        {"percent is itself", {"0 %", {}}, {"100 % geübt"}},
-        {"both", {"anna", LogKind::Message}, {"100 % geübt"}},
-        {"at most", {"", {}, 1}, {"Grdxeinst: anders"}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        QStringList texts;
-        for (const LogLine& line : store.log.lines(row.filter)) texts.append(line.text);
-        EXPECT_EQ(texts, row.texts);
-    }
+    EXPECT_EQ(found({}), QStringList({"Grdxeinst: anders", "grd_einst: Überlauf", "100 % geübt"}));
+    EXPECT_EQ(found({"GRDX", {}}), QStringList{"Grdxeinst: anders"}) << "any case";
+    EXPECT_EQ(found({"grd_", {}}), QStringList{"grd_einst: Überlauf"}) << "itself, no pattern";
+    EXPECT_EQ(found({"0 %", {}}), QStringList{"100 % geübt"});
+    EXPECT_EQ(found({"anna", LogKind::Message}), QStringList{"100 % geübt"});
+    EXPECT_EQ(found({"", {}, 1}), QStringList{"Grdxeinst: anders"});
 }
 
 TEST_F(StoreTest, TheLogKeepsTheLatestLinesAndOfLongOnesTheBeginning) {
