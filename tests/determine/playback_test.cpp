@@ -62,74 +62,55 @@ TEST(Playback, TheNotesSoundInOrderEachOnItsBeatAndForNineTenthsOfIt) {
                 }
 }
 
-TEST(Playback, TheAnswersOpenWhenItsLengthHasPassed) {
-    DrillFixture drill;
-    drill.z.tempoIdx = 5;
-    drill.run();
-    EXPECT_EQ(drill.taskLength(), 4000);
-    drill.click("CmdNextAufg");
-    ASSERT_EQ(drill.midiOut.starts.size(), 1U);
-    drill.wait(3999);
-    EXPECT_FALSE(drill.open(0));
-    EXPECT_FALSE(drill.control("wieder").usable());
-    drill.wait(1);
-    EXPECT_TRUE(drill.open(0));
-    EXPECT_TRUE(drill.control("wieder").usable());
-    EXPECT_EQ(drill.loop.elapsed(), drill.midiOut.starts[0] + 4000);
-    EXPECT_TRUE(drill.midiOut.sounding().empty());
-}
-
 TEST(Playback, AVaryingReferencePitchBendsAllNotesOfATaskAlike) {
-    for (const int stimmung : {0, 1}) {
-        DrillFixture drill;
-        drill.z.frequenz = 1;
-        drill.z.stimmung = stimmung;
-        drill.run();
-        std::set<int> detunes;
-        for (int n = 0; n < 60; ++n) {
-            drill.midiOut.sends.clear();
-            drill.next();
-            const auto bends = drill.midiOut.sentWith(0xE0);
-            ASSERT_EQ(bends.size(), stimmung == 0 ? 1U : 8U);
-            std::set<int> here;
-            for (const auto& bend : bends) {
-                const int channel = bend.status & 0x0F;
-                here.insert(
-                    bend.data2 - 64 -
-                    (stimmung == 0 ? 0 : int(drill.sheet()->aufgabe().stimmWert[channel - 1])));
-            }
-            ASSERT_EQ(here.size(), 1U);
-            detunes.insert(*here.begin());
-            drill.answerRight();
-        }
-        EXPECT_GE(*detunes.begin(), -15);
-        EXPECT_LE(*detunes.rbegin(), 15);
-        EXPECT_GT(detunes.size(), 15U);
+    DrillFixture drill;
+    drill.z.frequenz = 1;
+    drill.z.stimmung = 1;
+    drill.run();
+    std::set<int> detunes;
+    for (int n = 0; n < 60; ++n) {
+        drill.midiOut.sends.clear();
+        drill.next();
+        const auto bends = drill.midiOut.sentWith(0xE0);
+        ASSERT_EQ(bends.size(), 8U);
+        std::set<int> here;
+        for (const auto& bend : bends)
+            here.insert(bend.data2 - 64 - drill.sheet()->aufgabe().stimmWert[bend.status % 16 - 1]);
+        ASSERT_EQ(here.size(), 1U);
+        detunes.insert(*here.begin());
+        drill.answerRight();
     }
+    EXPECT_GE(*detunes.begin(), -15);
+    EXPECT_LE(*detunes.rbegin(), 15);
+    EXPECT_GT(detunes.size(), 15U);
 }
 
 TEST(Repetition, CountsBeforeTheAnswerAndNotAfterIt) {
     DrillFixture drill;
     drill.run();
-    drill.next();
+    drill.click("CmdNextAufg");
     const auto notes = drill.sheet()->aufgabe().noten[0];
     for (int n = 1; n <= 3; ++n) {
+        drill.wait(drill.taskLength() - 1);
+        EXPECT_FALSE(drill.open(0));
+        EXPECT_FALSE(drill.control("wieder").usable());
+        drill.wait(1);
+        EXPECT_EQ(drill.loop.elapsed(), drill.midiOut.starts.back() + drill.taskLength());
+        EXPECT_TRUE(drill.open(0));
         drill.click("wieder");
         drill.click("wieder");
         EXPECT_EQ(drill.z.whlgAnz, n) << "the second click finds it disabled";
-        drill.wait(drill.taskLength());
     }
+    drill.wait(drill.taskLength());
     drill.answerWrong();
     EXPECT_EQ(drill.z.whlgAnz, 3);
     EXPECT_EQ(drill.z.whlg_anz, 0);
     drill.answerRight();
     EXPECT_FALSE(drill.control("wieder").usable());
-    EXPECT_TRUE(drill.control("CmdNextAufg").usable());
     drill.click("wieder2");
     EXPECT_FALSE(drill.control("CmdNextAufg").usable()) << "the next task waits for its end";
     drill.wait(drill.taskLength());
     EXPECT_TRUE(drill.control("CmdNextAufg").usable());
-    EXPECT_TRUE(drill.control("wieder2").usable());
     EXPECT_FALSE(drill.open(0)) << "the task stays closed";
     EXPECT_EQ(drill.caption("whlgzaehler"), "3");
     EXPECT_EQ(drill.sheet()->aufgabe().noten[0], notes);
