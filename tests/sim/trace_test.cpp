@@ -56,14 +56,13 @@ TEST(Trace, TheBarIsTheShareOfThePositiveWeights) {
 
 TEST(Trace, AConfusedLearnerNamesTheOtherScaleFirst) {
     const TracedRun run("--tasks 60 --learner confuse:2:5");
-    int scale = -1, tries = 0, confused = 0;
+    int scale = -1, confused = 0;
+    bool first = false;
     for (const QJsonObject& line : run.lines()) {
-        if (line["e"].toString() == "task") {
-            scale = line["skala_nr"].toInt();
-            tries = 0;
-        }
+        if (line["e"].toString() == "task") scale = line["skala_nr"].toInt();
+        if (line["e"].toString() == "task") first = true;
         if (line["e"].toString() != "answer") continue;
-        const bool mixes = (scale == 2 || scale == 5) && tries++ == 0;
+        const bool mixes = (scale == 2 || scale == 5) && std::exchange(first, false);
         confused += mixes;
         EXPECT_EQ(line["index"].toInt(), mixes ? 7 - scale : scale);
         EXPECT_EQ(line["right"].toBool(), !mixes);
