@@ -44,22 +44,18 @@ TEST(Note, LedgerLinesStemAndHeadFollowItsPlace) {
 }
 
 TEST(Outline, FollowsThePixelsOfEveryFigure) {
-    struct Row {
-        const char* name;
-        Figur figure;
-        std::size_t lines;  ///< outer ones and holes
-    };
-    for (const Row& row :
-         {Row{"head", figuren::kopf, 1}, Row{"flat", figuren::be, 2},
-          Row{"sharp", figuren::kreuz, 2}, Row{"natural", figuren::aufloesung, 2},
-          Row{"double sharp", figuren::doppelkreuz, 1}, Row{"dots", figuren::punkte, 2}}) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [figure, lines] : {std::pair{Figur(figuren::kopf), 1},
+                                        {Figur(figuren::be), 2},
+                                        {Figur(figuren::kreuz), 2},
+                                        {Figur(figuren::aufloesung), 2},
+                                        {Figur(figuren::doppelkreuz), 1},
+                                        {Figur(figuren::punkte), 2}}) {
         Pixelbild picture(60, 90);
-        picture.figur(row.figure, 20, 20, base::colours::black);
+        picture.figur(figure, 20, 20, base::colours::black);
         const double pixels =
             static_cast<double>(std::ranges::count(picture.zeichnung({0, 0, 60, 90}), '#'));
-        const Umriss outline = umriss(row.figure);
-        EXPECT_EQ(outline.size(), row.lines);
+        const Umriss outline = umriss(figure);
+        EXPECT_EQ(int(outline.size()), lines) << "outer ones and holes";
         double area = 0;
         for (const auto& line : outline)
             for (std::size_t i = 0; i < line.size(); ++i) {

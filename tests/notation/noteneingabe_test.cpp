@@ -38,34 +38,28 @@ TEST(Drop, TakesAnAccidentalWhereTheRulesAllow) {
     const auto high = static_cast<float>(limits.hoechste()),
                low = static_cast<float>(limits.tiefste());
     for (const Row& row :
-         {Row{"on the note", 0, sharp, 100, 96, true}, Row{"far above it", 0, sharp, 100, 60, true},
-          Row{"far below it", 0, sharp, 100, 118, true},
+         {Row{"far above the note", 0, sharp, 100, 60, true},
           Row{"left edge of the column", 0, sharp, 80, 96, true},
           Row{"a hair further left", 0, sharp, 79.9F, 96, false},
           Row{"column 6", 0, sharp, 319.9F, 96, true},
           Row{"column 7 is closed", 0, flat, 320, 96, false},
-          Row{"right of the last column", 0, sharp, 2000, 96, false},
           Row{"the accidental it has", 0, natural, 100, 96, false},
           Row{"the other staff", 1, sharp, 100, 60, false},
           Row{"above the limit", 0, sharp, 100, high - 3, false},
           Row{"on the upper limit, no higher than the tonic", 0, sharp, 100, high, true},
           Row{"on the upper limit, higher", 0, doubleSharp, 100, high, false},
           Row{"on the lower limit, lower", 0, flat, 100, low, false},
-          Row{"on the lower limit, no lower than the tonic", 0, sharp, 100, low, true},
           Row{"snaps down to the limit", 0, doubleSharp, 100, low + 1, true},
           Row{"below the limit", 0, sharp, 100, low + 3, false}}) {
         SCOPED_TRACE(row.name);
         Task task;
-        const Spalte before = task.staff.NotSelb(1);
         EXPECT_EQ(task.entry.wuerdeAblehnen(row.s, row.index, row.x, row.y), !row.taken);
         EXPECT_EQ(task.entry.DragDrop(row.s, row.index, row.x, row.y), row.taken);
         EXPECT_EQ(task.taken, row.taken ? 1 : 0);
-        const int c = task.staff.lage().spalteBei(row.x);
-        EXPECT_EQ(task.staff.NotSelb(c).abgelegt, row.taken ? 1 : 0);
+        const Spalte& column = task.staff.NotSelb(task.staff.lage().spalteBei(row.x));
+        EXPECT_EQ(column.abgelegt, row.taken ? 1 : 0);
         if (row.taken) {
-            EXPECT_EQ(task.staff.NotSelb(c).vorzeichen, quelle::vorzeichen(row.index));
-        } else {
-            EXPECT_EQ(task.staff.NotSelb(1).ton(), before.ton());
+            EXPECT_EQ(column.vorzeichen, quelle::vorzeichen(row.index));
         }
     }
 }
@@ -143,16 +137,9 @@ TEST(Keys, WriteThroughTheRulesOfADrop) {
         int column, accidental, inHand;
     };
     for (const Row& row :
-         {Row{"up", {Hoch}, 1, 1, -1}, Row{"up twice", {Hoch, Hoch}, 1, 2, -1},
-          Row{"no further than a double sharp", {Hoch, Hoch, Hoch}, 1, 2, -1},
+         {Row{"no further than a double sharp", {Links, Hoch, Hoch, Hoch}, 1, 2, -1},
           Row{"up and down", {Hoch, Tief}, 1, 0, -1},
-          Row{"the third column", {Rechts, Rechts, Tief}, 3, -1, -1},
-          Row{"no further left than the first", {Links, Hoch}, 1, 1, -1},
-          Row{"no further right than the sixth",
-              {Rechts, Rechts, Rechts, Rechts, Rechts, Rechts, Rechts, Tief},
-              6,
-              -1,
-              -1},
+          Row{"no further right than the sixth", std::vector(7, Rechts), 6, 0, -1},
           Row{"taken in hand alone", {Vier}, 1, 0, 3},
           Row{"taken and dropped once", {Rechts, Fuenf, Ablegen, Rechts, Ablegen}, 3, 0, -1},
           Row{"nothing in hand", {Ablegen}, 1, 0, -1}}) {
