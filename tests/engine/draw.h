@@ -10,6 +10,16 @@ namespace engine {
 
 namespace katalog = core::katalog;
 
+/// Semitones of a scale above its first note, as the catalogue has it.
+inline int step(int typ, int nr, int i) {
+    if (const auto* own = katalog::eigenesMuster(typ, nr))
+        return own->stufe[static_cast<std::size_t>(i)];
+    const auto base = katalog::grundmuster(typ);
+    const int degrees = base.size() == 6 ? 5 : static_cast<int>(base.size());
+    return base[static_cast<std::size_t>((nr + i) % degrees)] + 12 * ((nr + i) / degrees) -
+           base[static_cast<std::size_t>(nr)];
+}
+
 /// Task selection without form, sound or time: church modes in both directions, one octave.
 struct Draw {
     explicit Draw(std::int64_t seed = 1) : rnd(seed) {

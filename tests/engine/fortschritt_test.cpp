@@ -48,7 +48,6 @@ TEST_F(FortschrittTest, WhatATaskBooksAndAddsToItsWeight) {
                            {"right, one repetition", -4, 1, 0, -14, 1},
                            {"right, slow and repeated", -4, 1, 1.1F, -11.8F, 2},
                            {"right, half a point left", -4, 0, 3.5F, -9, 4},
-                           {"right, credit used up", -4, 3, 1, -8, 4},
                            {"right, more than used up", -4, 9, 0, -8, 4},
                            {"one wrong", 2, 0, 0, -6, 6},
                            {"two wrong, one repetition", 4, 1, 0, -3, 9},
@@ -66,22 +65,9 @@ TEST_F(FortschrittTest, WhatATaskBooksAndAddsToItsWeight) {
         EXPECT_EQ(weight(-3), row.weight);
         EXPECT_EQ(weight(3), 4);
     }
-}
-
-TEST_F(FortschrittTest, WhatWasConfusedGainsWeightTooButNotInAnExam) {
-    for (const int modus : {1, 4}) {
-        z.uebungsmodus = modus;
-        matbox.TrainingBeginnen();
-        z.punkte = 6;
-        z.FalschSkala[1] = -1;
-        z.FalschSkala[2] = -7;
-        z.FalschSkala[3] = 40;  // not in the run
-        FortschrittWerten(z, wertung, matbox, 8);
-        EXPECT_EQ(weight(-3), modus == 1 ? 10 : 4);
-        EXPECT_EQ(weight(-1), modus == 1 ? 5 : 4);
-        EXPECT_EQ(weight(-7), modus == 1 ? 5 : 4);
-        EXPECT_EQ(weight(1), 4);
-    }
+    z.uebungsmodus = 4;
+    FortschrittWerten(z, wertung, matbox, 8);
+    EXPECT_EQ(weight(-3), 12) << "an exam has no weights";
 }
 
 TEST_F(FortschrittTest, TheTrainingEndsAtNothingAndAtTwiceItsBeginning) {

@@ -27,7 +27,6 @@ struct BenchForm : Form {
     std::vector<std::string>& diary;
     Group frame{*this, {"frame"}};
     Button button{*this, {"button", Place::noIndex, &frame}};
-    Combo combo{*this, {"combo"}};
     Timer timer{*this, {"timer"}, 100};
     Timer other{*this, {"other"}, 250};
 };

@@ -42,22 +42,5 @@ TEST(Button, CanBePressedOnlyWhereTheUserReachesIt) {
     }
 }
 
-TEST(Combo, KeepsItsChoiceThroughChangesOfTheList) {
-    Bench bench;
-    Combo& combo = bench.form.combo;
-    int chosen = 0;
-    combo.onSelect = {"select.", [&] { ++chosen; }};
-    for (const char* text : {"a", "b", "c"}) combo.add(text);
-    combo.setListIndex(1);
-    combo.setListIndex(1);
-    EXPECT_EQ(chosen, 2) << "each choice from code runs the handler";
-    combo.insert(0, "new");
-    combo.remove(3);
-    EXPECT_EQ(combo.text(), "b");
-    combo.remove(2);
-    EXPECT_EQ(combo.listIndex(), -1);
-    EXPECT_THROW(combo.setListIndex(2), base::RuntimeError);
-}
-
 }  // namespace
 }  // namespace form

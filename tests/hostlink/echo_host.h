@@ -4,7 +4,6 @@
 #include <QDBusConnection>
 #include <QDBusServer>
 #include <QDBusVariant>
-#include <QList>
 #include <QObject>
 #include <QThread>
 
@@ -26,8 +25,6 @@ class EchoHost : public QObject {
             this, [&] { listen(address); }, Qt::BlockingQueuedConnection);
     }
     ~EchoHost() override {
-        QMetaObject::invokeMethod(
-            this, [this] { leave(); }, Qt::BlockingQueuedConnection);
         thread_.quit();
         thread_.wait();
     }
@@ -46,18 +43,10 @@ class EchoHost : public QObject {
         server_ = std::make_unique<QDBusServer>(address);
         connect(server_.get(), &QDBusServer::newConnection, this, [this](QDBusConnection caller) {
             caller.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
-            callers_.append(caller.name());
         });
     }
-    void leave() {
-        server_.reset();
-        for (const QString& name : callers_) QDBusConnection::disconnectFromPeer(name);
-        callers_.clear();
-    }
-
     QThread thread_;
     std::unique_ptr<QDBusServer> server_;
-    QStringList callers_;
 };
 
 }  // namespace hostlink

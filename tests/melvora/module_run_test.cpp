@@ -17,22 +17,6 @@ class ModuleRun : public HostProcess {
     std::string startedModule() { return ask("APP", {}).at(1).text(); }
 };
 
-TEST_F(ModuleRun, TheModuleFindsItsHostAndItsResultIsCollected) {
-    start({"--start", "zepha9", "--teacher"}, "run");
-    eventually([this] { return Store(data()).results.all().size() == 1; });
-    eventually([this] { return startedModule().empty(); });
-    EXPECT_EQ(logged(), QStringList{"started as zepha9.exe --teacher"});
-    EXPECT_FALSE(QFile::exists(data() + "/spool/RSX261121120000.xml"));
-}
-
-TEST_F(ModuleRun, AModuleThatDiesIsLoggedAndTheHostLives) {
-    start({"--start", "zepha9"}, "crash");
-    eventually([this] { return !logged().isEmpty(); });
-    EXPECT_TRUE(logged().first().contains("zepha9"));
-    EXPECT_TRUE(logged().first().contains("-9"));
-    EXPECT_EQ(startedModule(), "");
-}
-
 TEST_F(ModuleRun, ASecondHostHandsItsModuleOrFileOn) {
     const QString path = folder_.filePath("Übung 1%2.mvs");
     ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));

@@ -125,6 +125,7 @@ TEST_F(WindowTest, AUsersTrainingsFollowWhatIsStoredAndStayWhileAModuleRuns) {
     EXPECT_EQ(host_.store().trainings.of(nobody).size(), 1);
     until([&] { return !host_.module().runs() && window_.isVisible(); });
     EXPECT_TRUE(wasHidden) << "it goes away while the module runs";
+    EXPECT_TRUE(host_.store().log.lines({}).first().text.contains("-9"));
     EXPECT_TRUE(window_.findChildren<NoticeBar*>().first()->isVisible()) << "of its death";
     host_.removeTraining(training);
     until([&] { return users->rowCount() == 1; });

@@ -1,6 +1,6 @@
 #include "notation/bild.h"
 
-#include "core/katalog.h"
+#include "engine/draw.h"
 #include "notation/tonhoehe.h"
 #include "support/recording_surface.h"
 
@@ -28,16 +28,6 @@ void everyPicture(F f) {
     }
 }
 
-/// Semitones of a scale above its first note, as the catalogue has it.
-int step(int typ, int nr, int i) {
-    if (const auto* own = katalog::eigenesMuster(typ, nr))
-        return own->stufe[static_cast<std::size_t>(i)];
-    const auto base = katalog::grundmuster(typ);
-    const int degrees = base.size() == 6 ? 5 : static_cast<int>(base.size());
-    return base[static_cast<std::size_t>((nr + i) % degrees)] + 12 * ((nr + i) / degrees) -
-           base[static_cast<std::size_t>(nr)];
-}
-
 TEST(Picture, ShowsTheScaleOfItsNumberAsItSoundsInProperSpelling) {
     everyPicture([](int typ, int nr, bool sameFinal, int number) {
         Bild bild{};
@@ -49,7 +39,7 @@ TEST(Picture, ShowsTheScaleOfItsNumberAsItSoundsInProperSpelling) {
         ASSERT_EQ(int(anzahl), katalog::kategorien[static_cast<std::size_t>(typ)].tonAnz);
         std::multiset<int> letters;
         for (std::size_t i = 0; i < anzahl; ++i) {
-            EXPECT_EQ(toene[i].midi - toene[0].midi, step(typ, nr, static_cast<int>(i)));
+            EXPECT_EQ(toene[i].midi - toene[0].midi, engine::step(typ, nr, static_cast<int>(i)));
             EXPECT_EQ(tonklasse(toene[i].qz), toene[i].midi % 12) << "the spelling sounds so";
             EXPECT_LE(std::abs(vorzeichen(toene[i].qz)), anzahl == 4 ? 2 : 1);
             if (i + 1 < anzahl) letters.insert(stammton(toene[i].qz));

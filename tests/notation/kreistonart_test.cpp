@@ -1,7 +1,7 @@
 // Keys of spelled tasks: every key, mode and range is spelled right and stays on its staff.
 #include "notation/kreistonart.h"
 
-#include "core/katalog.h"
+#include "engine/draw.h"
 #include "notation/grenzen.h"
 
 #include <gtest/gtest.h>
@@ -13,18 +13,13 @@ namespace {
 
 using Art = KreisTonart::Art;
 
-struct Draw {
-    explicit Draw(Art art) : keys(z, rnd, a, art) {
-        z.skal_typ = 0;
-        z.skal_anz = 6;
+struct Draw : engine::Draw {
+    explicit Draw(Art art, int seed = 1) : engine::Draw(seed), keys(z, rnd, a, art) {
         engine::SkalaTabellen(a, 0);
         keys.LaufBeginn();
     }
     Ton note(int k) const { return {a.noten[k], a.notenQz[k]}; }
 
-    base::Rnd rnd{11};
-    core::Zustand z;
-    engine::Aufgabe a;
     KreisTonart keys;
 };
 
@@ -75,8 +70,7 @@ TEST(Key, EveryKeyModeAndRangeIsSpelledAndStaysOnItsStaff) {
                     for (int mode = 0; mode < 7; ++mode)
                         for (int octave = 0; octave < 8; ++octave) {
                             SCOPED_TRACE(testing::Message() << key << " " << mode << " " << lowest);
-                            Draw d(art);
-                            d.rnd.restart(octave);
+                            Draw d(art, octave);
                             d.z.FrquMinAkt = lowest;
                             d.z.FrquMaxAkt = lowest + range;
                             d.a.oktSpanne = size;

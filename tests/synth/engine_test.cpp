@@ -56,20 +56,6 @@ TEST(Engine, CutsInAnyOrderLeaveNothingSoundingAndNothingQueued) {
     }
 }
 
-TEST(Engine, QueueEndsOnceAfterItsLastEventWithOrWithoutASoundfont) {
-    for (const bool font : {true, false}) {
-        SCOPED_TRACE(font ? "font" : "no font");
-        Rendering rendering(font);
-        rendering.play(scale(), 7);
-        rendering.render(7 * 300 + 270);
-        EXPECT_TRUE(rendering.ended.empty());
-        rendering.render(3000);
-        EXPECT_EQ(rendering.ended, std::vector<std::uint32_t>{7});
-        EXPECT_EQ(rendering.peak() > 0.01F, font);
-        EXPECT_FALSE(rendering.engine.busy());
-    }
-}
-
 TEST(Engine, EventsMayComeInAnyOrderAndNotesOfNoLengthEnd) {
     auto backwards = scale();
     std::ranges::reverse(backwards);
@@ -78,8 +64,11 @@ TEST(Engine, EventsMayComeInAnyOrderAndNotesOfNoLengthEnd) {
     append(backwards, note(0, 65, 500, 100));  // begins as the one before it ends
     Rendering rendering;
     rendering.send(0xc0, steady, 0);
-    rendering.play(backwards);
-    rendering.render(5000);
+    rendering.play(backwards, 7);
+    rendering.render(7 * 300 + 270);
+    EXPECT_TRUE(rendering.ended.empty());
+    rendering.render(3000);
+    EXPECT_EQ(rendering.ended, std::vector<std::uint32_t>{7}) << "once, after the last event";
     EXPECT_FALSE(rendering.engine.busy());
     EXPECT_LT(rendering.peak(4000), silent);
     EXPECT_GT(rendering.peak(560, 30), 0.01F);
@@ -153,5 +142,15 @@ TEST(Engine, NineLoudChannelsDoNotClip) {
         rendering.render(1000);
         EXPECT_LE(rendering.peak(), 1.0F);
         EXPECT_GT(rendering.peak(), 0.5F);
+    }
+}
+
+TEST(Accuracy, NotesBeginWhenPlannedAndAreWithinHalfACentOfTheirBend) {
+    constexpr double measuring = 0.01;
+    for (const auto& tuning : tunings) {
+        SCOPED_TRACE(tuning.name);
+        for (const auto& note : measure(tuning, brief, 60, 300)) EXPECT_LE(std::fabs(note.ms), 1.5);
+        for (const auto& note : measure(tuning, steady, 60, 1000))
+            EXPECT_LE(std::fabs(note.cents), 0.5 + measuring);
     }
 }
