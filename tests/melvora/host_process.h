@@ -67,7 +67,8 @@ class HostProcess : public testing::Test {
         }
     }
     hostlink::DbusHost& link() {
-        if (!link_) link_.emplace(hostlink::addressOf(socket().toStdString()));
+        if (!link_)
+            link_.emplace(hostlink::addressOf(socket().toStdString()), std::chrono::minutes(10));
         return *link_;
     }
 

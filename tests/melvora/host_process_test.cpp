@@ -37,7 +37,7 @@ TEST_F(HostProcess, KilledAtAnyMomentItLosesNothingThatItAcknowledged) {
                     acknowledged = i;
             }
         };
-        EXPECT_THROW(storeUntilItDies(), core::HostGone);
+        EXPECT_THROW(storeUntilItDies(), core::HostGone) << "long before the time-out";
         murderer.join();
         EXPECT_GT(acknowledged, first);
         ASSERT_TRUE(host_.waitForFinished());

@@ -48,26 +48,5 @@ TEST(Records, AreKeptPerUserExecutableAndKeyAndReplaced) {
     EXPECT_FALSE(again.records.read({"jörg", "zepha9", "E2"}));
 }
 
-TEST(Records, AFullDiskIsToldByPathAndLosesNothing) {
-    const QTemporaryDir folder;
-    Store store(folder.path());
-    const Records::Address address{"anna", "zepha9", "E1"};
-    store.records.store(address, core::Value::Array{"kept", 1});
-    int pages = 0;
-    store.database.run("PRAGMA page_count", {},
-                       [&](const QSqlQuery& row) { pages = row.value(0).toInt(); });
-    store.database.run(QString("PRAGMA max_page_count = %1").arg(pages), {}, [](const auto&) {});
-    try {
-        store.records.store(address, core::Value::Array{std::string(1 << 20, 'x'), 1});
-        ADD_FAILURE() << "stored more than there is room for";
-    } catch (const StoreError& error) {
-        EXPECT_NE(std::string(error.what()).find(store.database.path().toStdString()),
-                  std::string::npos);
-    }
-    EXPECT_EQ(store.records.read(address)->at(0), core::Value("kept"));
-    store.records.store(address, core::Value::Array{"small", 1});
-    EXPECT_EQ(store.records.read(address)->at(0), core::Value("small"));
-}
-
 }  // namespace
 }  // namespace melvora

@@ -91,15 +91,25 @@ TEST_F(RequestsTest, TellsLanguageAndDeviceAndTakesMessagesAndErrors) {
     EXPECT_EQ(lines[0].kind, LogKind::Error);
 }
 
-TEST_F(RequestsTest, AStoreThatFailsAnswersFalseAndIsToldOfWithItsPath) {
+TEST_F(RequestsTest, AFullDiskIsToldOfWithItsPathAndLosesNothing) {
     QStringList notices;
     QObject::connect(&host_, &Host::noticed, [&](const QString& text) { notices.append(text); });
-    host_.store().database.run("PRAGMA query_only = 1", {}, [](const auto&) {});
-    Value result;
-    EXPECT_FALSE(requests_.answer(
-        "STORE", Value(Value::Array{"zepha9", "E1", Value::Array{"a", "b"}}), result));
+    const auto store = [&](const std::string& text) {
+        Value result;
+        return requests_.answer("STORE", Value(Value::Array{"zepha9", "E1", Value::Array{text, 1}}),
+                                result);
+    };
+    EXPECT_TRUE(store("kept"));
+    Database& database = host_.store().database;
+    QString pages;
+    database.run("PRAGMA page_count", {},
+                 [&](const QSqlQuery& row) { pages = row.value(0).toString(); });
+    database.run("PRAGMA max_page_count = " + pages, {}, [](const auto&) {});
+    EXPECT_FALSE(store(std::string(1 << 20, 'x')));
     ASSERT_EQ(notices.size(), 1);
-    EXPECT_TRUE(notices[0].contains(host_.store().database.path()));
+    EXPECT_TRUE(notices[0].contains(database.path()));
+    EXPECT_EQ(ask("READ", Value::Array{"zepha9", "E1"}).at(0), Value("kept"));
+    EXPECT_TRUE(store("small"));
 }
 
 }  // namespace

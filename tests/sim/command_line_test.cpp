@@ -42,19 +42,6 @@ TEST(CommandLine, WhatCannotBeDoneIsToldByName) {
     }
 }
 
-TEST(CommandLine, ChosenScalesAreInForceAndTheLastValueCounts) {
-    const TracedRun run(
-        "--tasks 1 --set skal_typ=2 --set einzel_wahl=8,-3 --set richtung=0 "
-        "--set richtung=1 --set oktAnz=2 --set FrquMinAkt=36");
-    const QJsonObject line = run.lines("run")[0];
-    EXPECT_EQ(numbers(line["einzel_wahl"]), (std::vector{8, -3}));
-    EXPECT_EQ(line["ska_ausw"].toInt(), 1);
-    EXPECT_EQ(line["skal_anz"].toInt(), 7);
-    EXPECT_EQ(line["richtung"].toInt(), 1);
-    EXPECT_EQ(line["FrquMaxAkt"].toInt(), 84);
-    EXPECT_EQ(line["n"].toInt(), 2);
-}
-
 /// Runs the program. @return its exit status.
 int program(const std::string& arguments) {
     const int status = std::system((ZEPHA9_SIM " " + arguments + " > out 2> err").c_str());

@@ -54,11 +54,7 @@ TEST(Simulation, CountsWhatTheLearnerDid) {
     EXPECT_NEAR(half.outcome.rightFirst, 200, 40);
 }
 
-TEST(Simulation, SameSeedSameTraceAndAFixedTaskNumberFixesTheTasksOfAnExamOnly) {
-    const std::string line = "--set frequenz=1 --set abfolge=1 --learner random:0.6 ";
-    const TracedRun first(line + "--set uebungsmodus=1 --seed 7"),
-        again(line + "--set uebungsmodus=1 --seed 7");
-    EXPECT_EQ(first.text, again.text);
+TEST(Simulation, AFixedTaskNumberFixesTheTasksOfAnExamOnly) {
     for (const int modus : {3, 4}) {
         const auto tasks = [&](const char* seed) {
             std::vector<std::vector<int>> all;
@@ -67,6 +63,7 @@ TEST(Simulation, SameSeedSameTraceAndAFixedTaskNumberFixesTheTasksOfAnExamOnly) 
             for (const auto& task : run.lines("task")) all.push_back(numbers(task["noten"]));
             return all;
         };
+        EXPECT_EQ(tasks(" --seed 1"), tasks(" --seed 1"));
         EXPECT_EQ(tasks(" --seed 1") == tasks(" --seed 2"), modus == 4);
     }
 }
