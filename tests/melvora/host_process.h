@@ -1,5 +1,6 @@
 #pragma once
 #include "hostlink/dbus_host.h"
+#include "melvora/store.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -65,6 +66,13 @@ class HostProcess : public testing::Test {
         } catch (const core::HostGone&) {
             return {};
         }
+    }
+    std::string startedModule() { return ask("APP", {}).at(1).text(); }
+    /// Texts of the log that the host has written so far, newest first.
+    QStringList logged() const {
+        QStringList texts;
+        for (const LogLine& line : Store(data()).log.lines({})) texts.append(line.text);
+        return texts;
     }
     hostlink::DbusHost& link() {
         if (!link_)

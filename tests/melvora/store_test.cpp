@@ -21,15 +21,13 @@ TEST_F(StoreTest, AFolderThatCannotBeUsedIsNamed) {
     damaged.write(QByteArray(8192, 'x'));
     damaged.close();
     for (const QString& path :
-         {folder_.filePath("file"), folder_.filePath("file/below"), folder_.path()}) {
-        SCOPED_TRACE(path.toStdString());
+         {folder_.filePath("file"), folder_.filePath("file/below"), folder_.path()})
         try {
             const Store store(path);
-            ADD_FAILURE() << "opened";
+            ADD_FAILURE() << "opened " << path.toStdString();
         } catch (const StoreError& error) {
-            EXPECT_NE(std::string(error.what()).find(path.toStdString()), std::string::npos);
+            EXPECT_TRUE(QString(error.what()).contains(path)) << error.what();
         }
-    }
     EXPECT_EQ(damaged.size(), 8192) << "a file that is no store is left alone";
 }
 
