@@ -131,28 +131,23 @@ TEST(Surface, PassesOnOnlyWhatComesFromThePaletteAndOnlyWhileOpen) {
 
 TEST(Keys, WriteThroughTheRulesOfADrop) {
     using enum Schreibtaste;
-    struct Row {
-        const char* name;
-        std::vector<Schreibtaste> keys;
-        int column, accidental, inHand;
-    };
-    for (const Row& row :
-         {Row{"no further than a double sharp", {Links, Hoch, Hoch, Hoch}, 1, 2, -1},
-          Row{"up and down", {Hoch, Tief}, 1, 0, -1},
-          Row{"no further right than the sixth", std::vector(7, Rechts), 6, 0, -1},
-          Row{"taken in hand alone", {Vier}, 1, 0, 3},
-          Row{"taken and dropped once", {Rechts, Fuenf, Ablegen, Rechts, Ablegen}, 3, 0, -1},
-          Row{"nothing in hand", {Ablegen}, 1, 0, -1}}) {
-        SCOPED_TRACE(row.name);
-        Task task;
-        for (const Schreibtaste key : row.keys) task.staff.PicBNot.taste(key);
-        EXPECT_EQ(task.keys.spalte(), row.column);
-        EXPECT_EQ(task.keys.inHand(), row.inHand);
-        EXPECT_EQ(task.staff.NotSelb(row.column).vorzeichen, row.accidental);
-        EXPECT_EQ(task.staff.PicBNot.marke(), (Rechteck{40 * row.column + 40, 0, 40, 158}));
+    Task task;
+    const auto press = [&](const std::vector<Schreibtaste>& keys) {
+        for (const Schreibtaste key : keys) task.staff.PicBNot.taste(key);
+        const int c = task.keys.spalte();
+        EXPECT_EQ(task.staff.PicBNot.marke(), (Rechteck{40 * c + 40, 0, 40, 158}));
         for (int i = 0; i < quelle::anzahl; ++i)
-            EXPECT_EQ(task.palette.NotP(i).marke() != Rechteck{}, i == row.inHand);
-    }
+            EXPECT_EQ(task.palette.NotP(i).marke() != Rechteck{}, i == task.keys.inHand());
+        return std::pair(c, int(task.staff.NotSelb(c).vorzeichen));
+    };
+    EXPECT_EQ(press({Links, Ablegen}), std::pair(1, 0)) << "no further left, nothing in hand";
+    EXPECT_EQ(press({Hoch, Hoch, Hoch}), std::pair(1, 2)) << "no further than a double sharp";
+    EXPECT_EQ(press({Tief}), std::pair(1, 1));
+    EXPECT_EQ(press({Rechts, Fuenf}), std::pair(2, 0)) << "taken in hand alone";
+    EXPECT_EQ(task.keys.inHand(), 4);
+    EXPECT_EQ(press({Ablegen}), std::pair(2, 2));
+    EXPECT_EQ(press({Rechts, Ablegen}), std::pair(3, 0)) << "dropped once";
+    EXPECT_EQ(press(std::vector(7, Rechts)), std::pair(6, 0)) << "no further right";
 }
 
 }  // namespace

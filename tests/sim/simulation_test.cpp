@@ -22,8 +22,6 @@ TEST(Simulation, EndsAsTheLearnerAndTheModeLetIt) {
              Row{"training, wrong", "--set uebungsmodus=1 --learner wrong", Ending::Failed},
              Row{"training, too slow to earn anything",
                  "--set uebungsmodus=1 --learner slow:60 --tasks 30", Ending::Left},
-             Row{"exam, slow", "--set uebungsmodus=4 --set abfrage=1 --learner slow:8",
-                 Ending::Clock},
              Row{"try-out", "--tasks 7 --learner random:0.5", Ending::Left},
              Row{"only one task", "--set einzel_wahl=2 --set final=1 --set uebungsmodus=1",
                  Ending::Fault},
@@ -49,6 +47,13 @@ TEST(Simulation, CountsWhatTheLearnerDid) {
     EXPECT_EQ(wrong.outcome.rightFirst, 0);
     EXPECT_EQ(wrong.outcome.bar, 100);
     EXPECT_GT(wrong.outcome.meanWeight, 4);
+
+    const TracedRun slow("--set uebungsmodus=4 --set abfrage=1 --learner slow:8");
+    EXPECT_EQ(slow.outcome.ending, Ending::Clock);
+    int rest = slow.lines("run")[0]["restZeit"].toInt();
+    for (const auto& line : slow.lines("clock")) EXPECT_EQ(line["restZeit"].toInt(), rest -= 10);
+    EXPECT_EQ(rest, 0);
+    for (const auto& line : slow.lines("answer")) EXPECT_EQ(line["AntwDau"].toInt(), 80);
 
     const TracedRun half("--tasks 400 --learner random:0.5");
     EXPECT_NEAR(half.outcome.rightFirst, 200, 40);

@@ -66,14 +66,6 @@ TEST(Trace, AConfusedLearnerNamesTheOtherScaleFirst) {
     EXPECT_GT(confused, 5);
 }
 
-TEST(Trace, TheClockOfAnExamRunsInStepsOfTenSeconds) {
-    const TracedRun run("--set uebungsmodus=4 --set abfrage=1 --learner slow:8");
-    int rest = run.lines("run")[0]["restZeit"].toInt();
-    for (const auto& line : run.lines("clock")) EXPECT_EQ(line["restZeit"].toInt(), rest -= 10);
-    EXPECT_EQ(rest, 0);
-    for (const auto& line : run.lines("answer")) EXPECT_EQ(line["AntwDau"].toInt(), 80);
-}
-
 }  // namespace
 
 }  // namespace sim::test
