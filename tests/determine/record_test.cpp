@@ -1,14 +1,23 @@
 #include "support/drill_fixture.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
+#include <pugixml.hpp>
 
 namespace determine {
 namespace {
 
 using support::DrillFixture;
+
+/// Names and attributes of a record from a node on, in their order.
+std::string told(const pugi::xml_node& node) {
+    std::string text = std::string(node.name()) + "(";
+    for (const auto attribute : node.attributes()) {
+        const std::string name = attribute.name();
+        text += (name == "key" || name == "value" ? "" : name + ":") + attribute.value() + " ";
+    }
+    for (const auto child : node.children()) text += told(child);
+    return text + ")";
+}
 
 TEST(Record, TellsTheWholeRun) {
     DrillFixture drill(2);
@@ -30,50 +39,20 @@ TEST(Record, TellsTheWholeRun) {
     const std::string file = drill.wertung.xml.datei();
     drill.click("zurueck");
 
-    std::ostringstream written;
-    written << std::ifstream(file).rdbuf();
-    EXPECT_EQ(written.str(), R"(<?xml version="1.0" encoding="UTF-8"?>
-<exercise>
-	<properties programm="ZEPHA9" ukey="u7" exercise="W154" timestamp=")" +
-                                 drill.loop.now().dateAndTime() +
-                                 R"(" description="Untersuchung: W492" />
-	<settings>
-		<setting key="Tempo" value="60" />
-		<setting key="Tonraum" value="2" />
-	</settings>
-	<lessons>
-		<lesson>
-			<properties>
-				<property key="Tonskala" value=")" +
-                                 name(first) + R"(" />
-			</properties>
-			<answers>
-				<answer lfd="1">
-					<property key="Dauer Antwort" value="23" />
-					<property key="Anz Whlg" value="0" />
-					<property key="Antwort" value="false" />
-					<property key="Skala" value=")" +
-                                 name(first + 1) + R"(" />
-				</answer>
-				<answer lfd="2" Skala="1">
-					<property key="Dauer Antwort" value="12" />
-					<property key="Anz Whlg" value="1" />
-					<property key="Antwort" value="true" />
-					<property key="Skala" value=")" +
-                                 name(first) + R"(" />
-				</answer>
-			</answers>
-		</lesson>
-		<lesson>
-			<properties>
-				<property key="Tonskala" value=")" +
-                                 second + R"(" />
-			</properties>
-			<answers />
-		</lesson>
-	</lessons>
-</exercise>
-)");
+    pugi::xml_document document;
+    ASSERT_TRUE(document.load_file(file.c_str()));
+    const auto property = [](const std::string& text) { return "property(" + text + " )"; };
+    EXPECT_EQ(told(document.child("exercise")),
+              "exercise(properties(programm:ZEPHA9 ukey:u7 exercise:W154 timestamp:" +
+                  drill.loop.now().dateAndTime() +
+                  " description:Untersuchung: W492 )settings(setting(Tempo 60 )setting(Tonraum 2 ))"
+                  "lessons(lesson(properties(" +
+                  property("Tonskala " + name(first)) + ")answers(answer(lfd:1 " +
+                  property("Dauer Antwort 23") + property("Anz Whlg 0") +
+                  property("Antwort false") + property("Skala " + name(first + 1)) +
+                  ")answer(lfd:2 Skala:1 " + property("Dauer Antwort 12") + property("Anz Whlg 1") +
+                  property("Antwort true") + property("Skala " + name(first)) +
+                  ")))lesson(properties(" + property("Tonskala " + second) + ")answers())))");
 }
 
 }  // namespace

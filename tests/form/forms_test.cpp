@@ -49,16 +49,5 @@ TEST(Forms, AFormUnloadedInItsHandlerOrWhileThatWaitsOutlivesIt) {
     }
 }
 
-TEST(Forms, AModalFormHoldsItsCallerFromItsShowToItsHiding) {
-    Bench bench;
-    bench.form.timer.onTick = {"tick.", [&] { bench.forms.show("bench"); }};
-    bench.form.other.onTick = {"tick.", [&] { bench.forms.hide("bench"); }};
-    bench.form.timer.start();
-    bench.form.other.start();
-    bench.forms.runModal("bench");
-    EXPECT_EQ(bench.loop.elapsed(), 250);
-    EXPECT_NE(bench.forms.loaded("bench"), nullptr);
-}
-
 }  // namespace
 }  // namespace form

@@ -7,17 +7,6 @@
 namespace notation {
 namespace {
 
-TEST(Spelling, LetterAndAccidentalComeBack) {
-    for (int letter = 0; letter < 7; ++letter)
-        for (int accidental = -2; accidental <= 2; ++accidental) {
-            SCOPED_TRACE(testing::Message() << "CDEFGAB"[letter] << accidental);
-            const int qz = qzVon(letter, accidental);
-            EXPECT_EQ(stammton(qz), letter);
-            EXPECT_EQ(vorzeichen(qz), accidental);
-            EXPECT_EQ(tonklasse(qz), (halbtoene(letter) + accidental + 12) % 12);
-        }
-}
-
 TEST(Staff, NotesStandOnTheirLines) {
     struct Row {
         const char* name;
