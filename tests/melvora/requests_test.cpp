@@ -32,7 +32,7 @@ TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
     };
     const std::string folder = folder_.path().toStdString();
     const Row rows[] = {
-        {"unknown key", "NONSENSE", Value("")},
+        {"unknown key, very long", QString(1'000'000, 'x'), Value("")},
         {"unknown type", "LANG", {}},
         {"read with a number for a key", "READ", Value(Array{"zepha9", 1})},
         {"store of a text", "STORE", Value(Array{"zepha9", "E1", "text"})},
