@@ -23,40 +23,32 @@ struct Draw : engine::Draw {
     KreisTonart keys;
 };
 
-void expectSpelled(const engine::Aufgabe& a) {
-    for (int k = 0; k < 8; ++k) {
-        ASSERT_EQ(tonklasse(a.notenQz[k]), a.noten[k] % 12);
-        ASSERT_EQ(stammton(a.notenQz[k]), (stammton(a.notenQz[0]) + k) % 7) << "one letter a note";
-        ASSERT_LE(std::abs(vorzeichen(a.notenQz[k])), 1);
-        if (k > 0) {
-            ASSERT_GT(a.noten[k], a.noten[k - 1]);
-        }
-    }
-    ASSERT_EQ(a.noten[7], a.noten[0] + 12);
-}
-
-/// Heights rise by a step a note and tell the notes; what is written lies within the limits.
-void expectOnStaff(const Draw& d, bool written) {
+/// One letter a note, a step up each, on its staff and read back from it; what is written lies
+/// within the limits.
+void expectSpelledOnStaff(const Draw& d, bool written) {
     const i16 s = d.a.noten[7] < 67 ? 1 : 0;
     const Grenze limits = grenzenAuf(s, {d.a.quintLage, KreisTonart::stufenQz(0, d.z.skala_nr),
                                          d.a.transpLage, d.z.FrquMinAkt, d.z.FrquMaxAkt});
+    ASSERT_EQ(d.a.noten[7], d.a.noten[0] + 12);
     int below = 0;
     for (int k = 0; k < 8; ++k) {
-        const Stelle place = YAusTon(d.note(k), s);
-        EXPECT_GE(place.y, written ? 20 : 8) << "the head is seen whole";
-        EXPECT_LE(place.y, written ? 128 : 136);
+        const Ton note = d.note(k);
+        ASSERT_EQ(tonklasse(note.qz), note.midi % 12);
+        ASSERT_EQ(stammton(note.qz), (stammton(d.a.notenQz[0]) + k) % 7);
+        ASSERT_LE(std::abs(vorzeichen(note.qz)), 1);
+        const Stelle place = YAusTon(note, s);
+        ASSERT_GE(place.y, written ? 20 : 8) << "the head is seen whole";
+        ASSERT_LE(place.y, written ? 128 : 136);
         const int height = place.y - 28 * place.oktave;
-        if (k > 0) {
-            EXPECT_EQ(height, below - 4) << "a step up";
-        }
+        ASSERT_TRUE(k == 0 || height == below - 4);
         below = height;
         // B#1, which only begins a task and takes no drop, lies below the lowest C.
-        if (d.a.noten[k] > 24) {
-            EXPECT_EQ(TonAusY(place.y, s, vorzeichen(d.a.notenQz[k]), place.oktave), d.note(k));
+        if (note.midi > 24) {
+            ASSERT_EQ(TonAusY(place.y, s, vorzeichen(note.qz), place.oktave), note);
         }
         if (written && k > 0 && k < 7) {
-            EXPECT_GE(place.y, limits.hoechste());
-            EXPECT_LE(place.y, limits.tiefste());
+            ASSERT_GE(place.y, limits.hoechste());
+            ASSERT_LE(place.y, limits.tiefste());
         }
     }
 }
@@ -77,8 +69,7 @@ TEST(Key, EveryKeyModeAndRangeIsSpelledAndStaysOnItsStaff) {
                             d.z.skala_nr = mode;
                             d.a.quintLage = key;
                             d.keys.Toene();
-                            expectSpelled(d.a);
-                            expectOnStaff(d, art == Art::Schreiben);
+                            expectSpelledOnStaff(d, art == Art::Schreiben);
                         }
         }
 }

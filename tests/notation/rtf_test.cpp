@@ -18,13 +18,10 @@ TEST(Rtf, KeepsLettersParagraphsAndLook) {
               "<span style=\"font-size:10pt\">’{&amp;</span></p>");
 }
 
-TEST(Rtf, RefusesWhatIsNoneOrDoesNotEnd) {
+/// Whatever is damaged in a hint, reading it ends.
+TEST(Rtf, RefusesWhatIsNoneAndEndsWithDamagedOnes) {
     for (const char* text : {"", "hello", "{\\rtf1 never ends", "{\\rtf1 \\", "{\\rtf1 \\'f"})
         EXPECT_THROW(rtfAlsHtml(text), std::runtime_error) << text;
-}
-
-/// Whatever is damaged in a hint, reading it ends.
-TEST(Rtf, DamagedTextsEnd) {
     const std::string whole = "{\\rtf1\\ansi{\\b b}\\u9837?\\'fc\\par\\fs22 x}";
     for (std::size_t at = 0; at < whole.size(); ++at)
         for (const char c : {'{', '}', '\\', '9', '\0'}) {
