@@ -92,6 +92,7 @@ TEST(Answers, EveryChoiceOfScalesCanBeWorkedThroughAndAllowsItsWrongAnswers) {
                 int wrong = 0;
                 while (drill.answerWrong()) ++wrong;
                 EXPECT_EQ(wrong, row.wrong);
+                EXPECT_EQ(drill.open(drill.z.skala_nr), row.ascending < 2 && row.richtung == 2);
                 drill.answerRight();
                 ASSERT_NE(drill.sheet(), nullptr);
             }
