@@ -20,9 +20,7 @@ TEST_F(StoreTest, AFolderThatCannotBeUsedIsNamed) {
     ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
     damaged.write(QByteArray(8192, 'x'));
     damaged.close();
-    for (const QString& path :
-         {folder_.filePath("file"), folder_.filePath("file/below"), folder_.path()})
-        try {
+    for (const QString& path : {folder_.filePath("file"), folder_.path()}) try {
             const Store store(path);
             ADD_FAILURE() << "opened " << path.toStdString();
         } catch (const StoreError& error) {
