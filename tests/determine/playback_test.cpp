@@ -12,11 +12,13 @@ using support::DrillFixture;
 /// Indices into the task's notes in the order of sounding.
 std::vector<int> order(const DrillFixture& drill) {
     const auto& a = drill.sheet()->aufgabe();
-    std::vector<int> indices;
-    for (int i = 0; i < a.tonAnz; ++i)
-        indices.push_back(drill.z.abfolge == 1        ? int(a.ton_abfolg[i])
-                          : drill.z.akt_richtung == 1 ? i
-                                                      : int(a.tonAnz) - 1 - i);
+    std::vector<int> indices(static_cast<std::size_t>(int(a.tonAnz)));
+    for (int i = 0; int& index : indices) {
+        index = drill.z.abfolge == 1        ? int(a.ton_abfolg[i])
+                : drill.z.akt_richtung == 1 ? i
+                                            : int(a.tonAnz) - 1 - i;
+        ++i;
+    }
     return indices;
 }
 

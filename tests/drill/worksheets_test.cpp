@@ -113,12 +113,12 @@ TEST_F(Worksheets, FourWrongAnswersBringTheSolutionToSeeAndToHear) {
             run.loop.advance(20000);
             return notes;
         };
-        std::vector<int> solution;
-        for (int k = 0; k < 8; ++k) solution.push_back(sheet.aufgabe().noten[k]);
-        EXPECT_EQ(played("wieder2"), solution);
-        const auto own = played("eigene");
+        const auto solution = played("wieder2"), own = played("eigene");
+        ASSERT_EQ(solution.size(), 8U);
         EXPECT_EQ(own.size(), 8U);
         EXPECT_NE(own, solution);
+        for (int k = 0; k < 8; ++k)
+            EXPECT_EQ(solution[static_cast<std::size_t>(k)], sheet.aufgabe().noten[k]);
         EXPECT_TRUE(run.on<form::Button>("CmdNextAufg").usable());
     }
 }

@@ -14,7 +14,7 @@ namespace {
 TEST(DbusHost, EveryValueComesBackAsItWentAndAFailedCallLeavesTheResultAlone) {
     const QTemporaryDir folder;
     const std::string address = addressOf(folder.filePath("host").toStdString());
-    const EchoHost host(QString::fromStdString(address));
+    const auto host = std::make_unique<EchoHost>(QString::fromStdString(address));
     DbusHost link(address, std::chrono::seconds(1));
     for (const Sample& sample : sampleValues()) {
         SCOPED_TRACE(sample.name);

@@ -45,7 +45,7 @@ class HostProcess : public testing::Test {
         prepare(host_, arguments, task);
         host_.start();
         ASSERT_TRUE(host_.waitForStarted());
-        eventually([this] { return ask("LANG", "").isEmpty() == false; });
+        eventually([this] { return !ask("LANG", "").isEmpty(); });
     }
 
     void kill() {
@@ -110,11 +110,11 @@ class HostProcess : public testing::Test {
 
 TEST_F(HostProcess, KilledAtAnyMomentItLosesNothingThatItAcknowledged) {
     int acknowledged = -1;
-    for (int round = 0; round < 4; ++round) {
+    for (unsigned long round = 0; round < 4; ++round) {
         SCOPED_TRACE(round);
         start();
         std::thread murderer([&] {
-            QThread::msleep(static_cast<unsigned long>(40 + 37 * round));
+            QThread::msleep(40 + 37 * round);
             ::kill(static_cast<pid_t>(host_.processId()), SIGKILL);
         });
         Value result;

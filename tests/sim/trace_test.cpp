@@ -55,8 +55,10 @@ TEST(Trace, AConfusedLearnerNamesTheOtherScaleFirst) {
     int scale = -1, confused = 0;
     bool first = false;
     for (const QJsonObject& line : run.lines()) {
-        if (line["e"].toString() == "task") scale = line["skala_nr"].toInt();
-        if (line["e"].toString() == "task") first = true;
+        if (line["e"].toString() == "task") {
+            scale = line["skala_nr"].toInt();
+            first = true;
+        }
         if (line["e"].toString() != "answer") continue;
         const bool mixes = (scale == 2 || scale == 5) && std::exchange(first, false);
         confused += mixes;
