@@ -25,7 +25,7 @@ class WindowTest : public testing::Test {
         window_.show();
         settle();
     }
-    ~WindowTest() override { qunsetenv("MELVORA_MODULE_PATH"); }
+    void TearDown() override { qunsetenv("MELVORA_MODULE_PATH"); }
 
     static void settle() { QApplication::processEvents(); }
     template <class Condition>
