@@ -21,8 +21,8 @@ class EchoHost : public QObject {
     explicit EchoHost(const QString& address) {
         moveToThread(&thread_);
         thread_.start();
-        QMetaObject::invokeMethod(
-            this, [&] { listen(address); }, Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(this, "listen", Qt::BlockingQueuedConnection,
+                                  Q_ARG(QString, address));
     }
     ~EchoHost() override {
         thread_.quit();
@@ -39,7 +39,7 @@ class EchoHost : public QObject {
     }
 
   private:
-    void listen(const QString& address) {
+    Q_INVOKABLE void listen(const QString& address) {
         server_ = std::make_unique<QDBusServer>(address);
         connect(server_.get(), &QDBusServer::newConnection, this, [this](QDBusConnection caller) {
             caller.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);

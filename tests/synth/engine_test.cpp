@@ -26,7 +26,7 @@ double pitch(const Rendering& of, double beginMs) {
 }  // namespace
 
 TEST(Engine, CutsInAnyOrderLeaveNothingSoundingAndNothingQueued) {
-    using enum Kind;
+    using enum synth::Command::Kind;
     using Steps = std::vector<std::pair<Kind, int>>;  // what is sent, milliseconds until the next
     for (const Steps& steps : {Steps{{Play, 0}, {Silence, 20}},   // at once
                                Steps{{Play, 10}, {Silence, 20}},  // in the lead-in
