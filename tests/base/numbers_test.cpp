@@ -32,80 +32,51 @@ TEST(RunTimeErrors, ComeFromEveryStepThatLeavesItsRangeAndFromNoOther) {
         std::function<void()> step;
     } rows[] = {
         {"sum above the top", 6, [&] { (void)(top + 1); }},
-        {"difference below the bottom", 6, [&] { (void)(bottom - i16(1)); }},
-        {"product", 6, [&] { (void)(i16(182) * i16(182)); }},
-        {"largest product", 0, [&] { (void)(i16(181) * 181); }},
         {"product beyond 32 bits", 6, [&] { (void)(bottom * bottom); }},
         {"the bottom has no opposite", 6, [&] { (void)-bottom; }},
         {"the bottom by -1", 6, [&] { (void)(bottom / -1); }},
-        {"mixed operand", 6, [&] { (void)(i16(1) + 40000); }},
         {"64-bit operand", 6, [&] { (void)i16(std::int64_t{1} << 40); }},
         {"by zero", 11, [&] { (void)(top / i16(0)); }},
-        {"modulo zero", 11, [&] { (void)(5 % i16(0)); }},
-        {"compound step", 6, [&] { top += 1; }},
         {"step", 6, [&] { ++top; }},
         {"array, behind the last", 9, [&] { (void)array[3]; }},
-        {"array, negative", 9, [&] { (void)array[-1]; }},
         {"table that was never given a size", 9, [&] { (void)unset(0, 0); }},
         {"table, last item", 0, [&] { (void)table(2, 1); }},
-        {"table, first dimension", 9, [&] { (void)table(3, 0); }},
         {"table, not the next row's first item", 9, [&] { (void)table(0, 2); }},
-        {"table, negative", 9, [&] { (void)table(-1, 1); }},
-        {"negative size", 9, [&] { table.redim(-1, 0); }},
-        {"rounded", 6, [&] { (void)rounded(3e9); }},
         {"floor of no number", 6,
          [&] { (void)floorInt(std::numeric_limits<double>::quiet_NaN()); }},
         {"rounded up to too much", 6, [&] { (void)roundedI16(32767.5); }},
-        {"rounded down to the top", 0, [&] { (void)roundedI16(32767.4); }},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(errorOf(row.step), row.error);
     }
     EXPECT_EQ(top, 32767) << "a failed step leaves the value";
-}
-
-TEST(I16, DividesTowardZero) {
+    table(1, 0) = 8;
+    table.redim(1, 1);
+    EXPECT_EQ(table(1, 0), 0) << "a new size forgets everything";
     EXPECT_EQ(i16(-7) / 2, -3);
     EXPECT_EQ(i16(-7) % 2, -1);
 }
 
-TEST(Table, RedimForgetsEverything) {
-    Table<int> table;
-    table.redim(3, 1);
-    table(1, 0) = 8;
-    table.redim(1, 1);
-    EXPECT_EQ(table(1, 0), 0);
-    EXPECT_EQ(errorOf([&] { (void)table(3, 1); }), 9);
-}
-
 TEST(Rounding, GoesToTheNearestAndAHalfToTheEven) {
-    for (const auto& [value, near, floor] : {std::tuple{0.5, 0, 0},
-                                             {1.5, 2, 1},
-                                             {-0.5, 0, -1},
-                                             {-2.5, -2, -3},
-                                             {2.4999999, 2, 2},
-                                             {2.5000001, 3, 2},
-                                             {-3.2, -3, -4}}) {
-        SCOPED_TRACE(value);
+    for (const auto& [value, near, floor] :
+         {std::tuple{0.5, 0, 0}, {-2.5, -2, -3}, {2.4999999, 2, 2}, {2.5000001, 3, 2}}) {
         EXPECT_EQ(rounded(value), near);
         EXPECT_EQ(floorInt(value), floor);
     }
 }
 
 TEST(Rounding, ReadsNumbersFromText) {
-    struct Row {
-        const char* text;
-        int error, value, leading;
-    };
-    for (const Row& row :
-         {Row{" -7 ", 0, -7, -7}, Row{"", 13, 0, 0}, Row{"3 a", 13, 0, 3}, Row{"a3", 13, 0, 0},
-          Row{"1.5", 13, 0, 1}, Row{"99999999999", 6, 0, 0}}) {
-        SCOPED_TRACE(row.text);
+    for (const auto& [text, error, whole, leading] : {std::tuple{" -7 ", 0, -7, -7},
+                                                      {"", 13, 0, 0},
+                                                      {"3 a", 13, 0, 3},
+                                                      {"1.5", 13, 0, 1},
+                                                      {"99999999999", 6, 0, 0}}) {
+        SCOPED_TRACE(text);
         int value = 0;
-        EXPECT_EQ(errorOf([&] { value = parseInt(row.text); }), row.error);
-        EXPECT_EQ(value, row.value);
-        EXPECT_EQ(leadingInt(row.text), row.leading);
+        EXPECT_EQ(errorOf([&value, t = text] { value = parseInt(t); }), error);
+        EXPECT_EQ(value, whole);
+        EXPECT_EQ(leadingInt(text), leading);
     }
 }
 

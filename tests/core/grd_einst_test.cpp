@@ -17,64 +17,44 @@ struct StartForm : BenchProgramm {
         for (const char* name : {"einstellung1", "einstellung1b", "arbeitsblatt4"})
             p.forms.add(name, [this, name] { return std::make_unique<Other>(p, name); });
     }
-    void open() {
-        p.forms.load("grd_einst");
-        loop.advance(10);
-    }
     form::Form& form() { return *p.forms.loaded("grd_einst"); }
     template <class C>
     C& control(const char* name, int index = form::Place::noIndex) {
         return static_cast<C&>(*form().find(name, index));
     }
-    form::Option& branch(int i) { return control<form::Option>("Theoriewahl", i); }
     form::Option& type(int i) { return control<form::Option>("ueb_typ", i); }
 };
 
-TEST(GrdEinst, OpensTheLinkBeforeAnythingIsShown) {
-    StartForm start;
-    start.p.forms.load("grd_einst");
-    EXPECT_FALSE(start.form().visible());
-    EXPECT_EQ(start.host.requests.front(), "APP");
-    start.loop.advance(10);
-    EXPECT_TRUE(start.form().visible());
-    EXPECT_EQ(start.form().caption(), "W491W700W287");
-    EXPECT_EQ(start.control<form::Label>("copyright").caption(), "W6 W699 " + versionText());
-    EXPECT_EQ(start.host.log.back(), "zepha9; uebungs_typ=1");
-    EXPECT_EQ(start.p.zustand.tempo_dauer[6], 428);
-    EXPECT_TRUE(start.p.zustand.angemeldet);
-}
-
-TEST(GrdEinst, RunsWithNobodyLoggedInAndWithoutWords) {
-    for (const bool asked : {true, false}) {
+TEST(GrdEinst, OpensTheLinkBeforeAnythingIsShownAlsoWithNobodyAndWithoutWords) {
+    for (const bool known : {true, false}) {
         StartForm start;
-        start.host.user = Value::Array{"unbekannt"};
-        if (!asked) start.host.failing = {"LOGIN"};
-        start.host.language = "";
-        start.open();
-        EXPECT_FALSE(start.p.zustand.angemeldet);
+        start.words.lacking = {"700s"};
+        if (!known) start.host.failing = {"LOGIN"};
+        if (!known) start.host.language = "Klingon";
+        start.p.forms.load("grd_einst");
+        EXPECT_FALSE(start.form().visible());
+        EXPECT_EQ(start.host.requests.front(), "APP");
+        start.loop.advance(10);
         EXPECT_TRUE(start.form().visible());
-        EXPECT_EQ(start.type(1).caption(), "VOID");
+        EXPECT_EQ(start.form().caption(), known ? "W491VOIDW287" : "VOIDVOIDVOID");
+        EXPECT_EQ(start.p.zustand.angemeldet, known);
+        EXPECT_EQ(start.host.log.back(), "zepha9; uebungs_typ=1");
     }
 }
 
-TEST(GrdEinst, AnotherBranchFallsBackToTheDetermineType) {
+TEST(GrdEinst, FallsBackToTheDetermineTypeAndHandsOverToTheHostAtTheEnd) {
     StartForm start;
-    start.open();
+    start.p.forms.load("grd_einst");
+    start.loop.advance(10);
     for (const int hidden : {2, 3}) EXPECT_FALSE(start.type(hidden).visible());
-    start.type(4).click();
-    EXPECT_EQ(start.p.zustand.ueb_typ, 4);
-    start.branch(1).click();
-    EXPECT_EQ(start.p.zustand.theoriewahl, 1);
-    EXPECT_EQ(start.p.zustand.ueb_typ, 1);
-    EXPECT_TRUE(start.type(1).value());
-    start.type(4).click();
-    start.branch(1).click();
-    EXPECT_EQ(start.p.zustand.ueb_typ, 1) << "also when the branch was chosen already";
-}
-
-TEST(GrdEinst, HandsOverToTheHostWhenNoFormIsLeft) {
-    StartForm start;
-    start.open();
+    for (const char* branch : {"another", "the same again"}) {
+        start.type(4).click();
+        EXPECT_EQ(start.p.zustand.ueb_typ, 4);
+        start.control<form::Option>("Theoriewahl", 1).click();
+        EXPECT_EQ(start.p.zustand.theoriewahl, 1);
+        EXPECT_EQ(start.p.zustand.ueb_typ, 1) << branch;
+        EXPECT_TRUE(start.type(1).value());
+    }
     start.p.forms.load("einstellung1");
     start.host.requests.clear();
     start.control<form::Button>("cmdEnde").click();
@@ -83,19 +63,6 @@ TEST(GrdEinst, HandsOverToTheHostWhenNoFormIsLeft) {
     start.loop.advance(10000);
     start.p.host.HostMeldung("late");
     EXPECT_EQ(start.host.requests.size(), 1U) << "the link is closed";
-}
-
-TEST(GrdEinst, AFaultAtTheStartLeavesAFormThatCanBeLeft) {
-    StartForm start;
-    start.host.warnsOfErrors = true;
-    const auto watch = start.p.forms.made.connect([&](form::Form& made) {
-        static_cast<form::Timer*>(made.find("start"))->onTick.run = [] { base::throwOverflow(); };
-    });
-    start.p.forms.load("grd_einst");
-    start.loop.advance(1);
-    EXPECT_EQ(start.host.faults.at(0).at(0).text(), "zepha9.grd_einststart_timer.");
-    EXPECT_EQ(start.dialogs.messages.size(), 2U);
-    EXPECT_TRUE(start.form().visible());
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 
 namespace core {
@@ -35,21 +34,6 @@ TEST_F(KatalogTest, EveryScaleHasANameOfItsOwnAndNothingElseHas) {
     }
 }
 
-TEST_F(KatalogTest, NamesStandWhereTheirScalesDo) {
-    struct Row {
-        int typ, nr;
-        const char* name;
-    };
-    for (const Row& row : {Row{0, 6, "W375"},
-                           {1, 0, "W386"},
-                           {2, 7, "W636"},
-                           {3, 2, "W264"},
-                           {4, 4, "W426 5"},
-                           {5, 8, "W445"},
-                           {6, 9, "W426 10"}})
-        EXPECT_EQ(k.skal_name[row.typ][row.nr], row.name) << row.typ << ' ' << row.nr;
-}
-
 /// Rising it is the lower half of the modes that its name tells, falling their upper half.
 TEST_F(KatalogTest, ATetrachordIsNamedByAllModesThatItIsHalfOf) {
     const auto tone = [](int degree) {
@@ -71,17 +55,6 @@ TEST_F(KatalogTest, ATetrachordIsNamedByAllModesThatItIsHalfOf) {
                     << k.skal_name[0][mode] << " in '" << name << "'";
             }
         }
-}
-
-TEST(KatalogTables, NoPictureBelongsToTwoCategories) {
-    std::map<int, int> owner;
-    for (int typ = 0; typ < kategorienAnz; ++typ) {
-        const Kategorie& kategorie = kategorien[static_cast<std::size_t>(typ)];
-        for (const int basis : kategorie.bild_basis)
-            for (int nr = 0; nr <= kategorie.skal_max; ++nr)
-                EXPECT_EQ(owner.try_emplace(basis + nr, typ).first->second, typ) << basis + nr;
-    }
-    EXPECT_EQ(owner.size(), 73U) << "19 scales have a second picture";
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include "core/fortsetzung.h"
 #include "support/drill_fixture.h"
 
 #include <gtest/gtest.h>
@@ -19,20 +18,23 @@ void doTask(DrillFixture& drill, bool right) {
         while (drill.answerWrong()) continue;
 }
 
-/// The form is gone, its set-up form is back, nothing sounds and nothing was reported.
-void expectHome(DrillFixture& drill) {
+/// Some time later: nothing has gone on, nothing sounds, the device is audible, the record is kept.
+void expectQuietHome(DrillFixture& drill) {
     EXPECT_EQ(drill.sheet(), nullptr);
-    ASSERT_NE(drill.programm.forms.loaded("einstellung1"), nullptr);
-    EXPECT_TRUE(drill.programm.forms.loaded("einstellung1")->visible());
     EXPECT_EQ(drill.programm.forms.loaded("testergebnis"), nullptr);
+    const auto starts = drill.midiOut.starts.size();
+    drill.wait(20000);
+    EXPECT_EQ(drill.midiOut.starts.size(), starts);
     EXPECT_TRUE(drill.midiOut.sounding().empty());
+    EXPECT_TRUE(drill.midiOut.queued.empty());
     EXPECT_EQ(drill.midiOut.volume, std::pair(40000, 30000));
-    EXPECT_TRUE(std::filesystem::exists(drill.wertung.xml.datei()));
-    EXPECT_TRUE(drill.dialogs.messages.empty());
     EXPECT_TRUE(drill.host.faults.empty());
+    EXPECT_TRUE(drill.dialogs.messages.empty());
+    EXPECT_TRUE(drill.programm.forms.loaded("einstellung1")->visible());
+    EXPECT_TRUE(std::filesystem::exists(drill.wertung.xml.datei()));
 }
 
-TEST(Training, AConfusedScaleComesUpMoreOften) {
+TEST(Training, AConfusedScaleComesUpMoreOftenAndTheLastTaskCanBeHeardAfterTheEnd) {
     DrillFixture drill(5);
     drill.z.uebungsmodus = 1;
     drill.z.richtung = 0;
@@ -48,34 +50,31 @@ TEST(Training, AConfusedScaleComesUpMoreOften) {
                                                                        : 4);
     }
     EXPECT_EQ(drill.caption("zaehler", 0) + drill.caption("zaehler", 1), "11");
+    while (drill.sheet()->aufgZustand() != AufgZustand::TrainingBeendet) doTask(drill, false);
+    drill.click("wieder2");
+    drill.wait(drill.taskLength());
+    EXPECT_TRUE(drill.control("wieder2").usable());
+    EXPECT_FALSE(drill.control("CmdNextAufg").usable());
 }
 
-TEST(Exam, EndsByItsCountWithEveryTaskScored) {
-    for (const int learner : {0, 1}) {
-        DrillFixture drill(7);
-        drill.dismissResults();
-        drill.z.uebungsmodus = 3 + learner;
-        drill.z.tempoIdx = 9;
-        drill.z.richtung = 0;
-        drill.run();
-        const int tasks = drill.sheet()->pruefAufgaben();
-        EXPECT_EQ(tasks, 28);
-        EXPECT_EQ(drill.caption("lab_aufgaben"), "W462 28");
-        for (int n = 1; n <= tasks; ++n) {
-            ASSERT_EQ(drill.sheet()->aufgZustand() == AufgZustand::PruefungBeendet, false) << n;
-            doTask(drill, learner == 0);
-        }
-        EXPECT_EQ(drill.sheet()->aufgZustand(), AufgZustand::PruefungBeendet);
-        EXPECT_EQ(drill.caption("zurueck"), "W625");
-        EXPECT_FALSE(drill.control("wieder2").usable());
-        const int left = drill.sheet()->restZeit();
-        drill.wait(60000);
-        EXPECT_EQ(drill.sheet()->restZeit(), left) << "the clock has stopped";
-        drill.click("zurueck");
-        expectHome(drill);
-        EXPECT_EQ(drill.total, learner == 0 ? "100.0%" : "0.0%");
-        EXPECT_FALSE(drill.host.records.contains("zepha9/A1"));
+TEST(Exam, EndsByItsCountAndItsClockStops) {
+    DrillFixture drill(7);
+    drill.dismissResults();
+    drill.z.uebungsmodus = 4;
+    drill.z.richtung = 0;
+    drill.run();
+    for (int n = 1; n <= 28; ++n) {
+        ASSERT_NE(drill.sheet()->aufgZustand(), AufgZustand::PruefungBeendet) << n;
+        doTask(drill, n % 2 == 0);
     }
+    EXPECT_EQ(drill.sheet()->aufgZustand(), AufgZustand::PruefungBeendet);
+    const int left = drill.sheet()->restZeit();
+    drill.wait(60000);
+    EXPECT_EQ(drill.sheet()->restZeit(), left);
+    drill.click("zurueck");
+    expectQuietHome(drill);
+    EXPECT_EQ(drill.rows.size(), 7U);
+    EXPECT_FALSE(drill.host.records.contains("zepha9/A1"));
 }
 
 /// The clock may run out while a task waits, sounds or is open.
@@ -94,26 +93,12 @@ TEST(Exam, EndsByTheClockAtAnyMoment) {
         EXPECT_EQ(drill.caption("stop_uhr"), "W4610 W39410 W480");
         drill.click("CmdNextAufg");
         drill.wait(lead + 400);
-        expectHome(drill);
+        expectQuietHome(drill);
         EXPECT_EQ(drill.total, "0.0%");
     }
 }
 
-TEST(TryingOut, CountsAndScoresNothing) {
-    DrillFixture drill;
-    drill.run();
-    for (const bool right : {true, false, true}) doTask(drill, right);
-    EXPECT_EQ(drill.caption("zaehler", 0), "2");
-    EXPECT_EQ(drill.caption("zaehler", 1), "4");
-    for (int slot = 0; slot <= 20; ++slot)
-        for (int x = 0; x <= 6; ++x) EXPECT_EQ(drill.wertung.auswertung.read(slot, x), 0);
-    drill.click("zurueck");
-    expectHome(drill);
-    EXPECT_TRUE(drill.dialogs.questions.empty());
-    EXPECT_TRUE(drill.rows.empty());
-}
-
-TEST(AutomaticStepping, TheNextTaskComesByItself) {
+TEST(AutomaticStepping, TheNextTaskComesByItselfUnlessTheLastIsHeardOnceMore) {
     DrillFixture drill;
     drill.z.abfrage = 1;
     drill.run();
@@ -130,30 +115,106 @@ TEST(AutomaticStepping, TheNextTaskComesByItself) {
     EXPECT_EQ(tasks, 1) << "it waits for the answer";
     drill.answerRight();
     EXPECT_TRUE(drill.control("LbNextAufg").visible());
-    drill.wait(1900);
+    drill.wait(1700);
+    drill.click("wieder2");
+    EXPECT_FALSE(drill.control("LbNextAufg").visible());
+    drill.wait(drill.taskLength() + 1700);
+    EXPECT_EQ(tasks, 1) << "its 1.8 seconds begin anew";
+    drill.wait(300);
     EXPECT_EQ(tasks, 2);
     EXPECT_FALSE(drill.control("LbNextAufg").visible());
 }
 
-TEST(Run, OneThatCouldOnlyRepeatItselfIsReportedAndLeft) {
-    DrillFixture drill;
-    drill.choose({3});
-    drill.z.final = 1;
+/// Every way to set a task or a repetition sounding, and what must come before it.
+struct Way {
+    const char* button;
+    bool answered;
+};
+constexpr Way ways[] = {{"CmdNextAufg", false}, {"wieder", false}, {"wieder2", true}};
+
+void prepare(DrillFixture& drill, const Way& way) {
+    drill.z.tempoIdx = 9;
     drill.run();
-    drill.wait(1000);
-    EXPECT_EQ(drill.sheet(), nullptr);
-    ASSERT_EQ(drill.host.faults.size(), 1U);
-    EXPECT_EQ(drill.host.faults[0].at(0).text(), "zepha9.start_timer.arbeitsblatt1");
-    EXPECT_EQ(drill.dialogs.messages.size(), 1U);
+    if (std::string(way.button) != "CmdNextAufg") drill.next();
+    if (way.answered) drill.answerRight();
 }
 
-TEST(Run, AnotherActivationDoesNotBeginItAnew) {
+TEST(Leaving, InEveryWaitAndFadeAndWhileItSoundsLeavesNoNoteAndAnAudibleDevice) {
+    for (const Way& way : ways) {
+        for (const int after :
+             {1, 49, 50, 51, 99, 100, 101, 149, 150, 151, 400, 2399, 2549, 2551}) {
+            SCOPED_TRACE(std::string(way.button) + " after " + std::to_string(after));
+            DrillFixture drill;
+            prepare(drill, way);
+            drill.later(after, [&] {
+                Arbeitsblatt1& sheet = *drill.sheet();
+                sheet.closeBox();
+                sheet.closeBox();
+                drill.midiOut.starts.clear();
+            });
+            drill.click(way.button);
+            drill.wait(3000);
+            EXPECT_TRUE(drill.midiOut.starts.empty());
+            expectQuietHome(drill);
+        }
+        for (const int step : {1, 40, 80, 82, 120, 161}) {
+            SCOPED_TRACE(std::string(way.button) + " in step " + std::to_string(step));
+            DrillFixture drill;
+            prepare(drill, way);
+            int steps = 0;
+            drill.midiOut.volumeSet = [&] {
+                if (++steps == step) drill.loop.post([&] { drill.click("zurueck"); });
+            };
+            drill.click(way.button);
+            drill.wait(1);
+            expectQuietHome(drill);
+        }
+    }
+}
+
+TEST(Leaving, WhenAllFormsAreUnloadedInAWaitNothingGoesOn) {
+    for (const int after : {20, 70, 120, 500}) {
+        SCOPED_TRACE(after);
+        DrillFixture drill;
+        prepare(drill, ways[0]);
+        drill.later(after, [&] { drill.programm.forms.unloadAll(); });
+        drill.click("CmdNextAufg");
+        drill.wait(600);
+        EXPECT_EQ(drill.programm.forms.last(), nullptr);
+        EXPECT_TRUE(drill.midiOut.queued.empty());
+        EXPECT_TRUE(drill.host.faults.empty());
+        EXPECT_EQ(drill.midiOut.volume, std::pair(40000, 30000));
+    }
+}
+
+TEST(Leaving, ThenTheNextRunIsAFreshOne) {
     DrillFixture drill;
-    drill.run();
+    prepare(drill, ways[0]);
+    for (int n = 0; n < 3; ++n) {
+        drill.later(75, [&] { drill.click("zurueck"); });
+        drill.click("CmdNextAufg");
+        drill.wait(500);
+        drill.run();
+    }
     doTask(drill, true);
     drill.programm.forms.show("arbeitsblatt1");
     drill.wait(1000);
-    EXPECT_EQ(drill.caption("zaehler", 0), "1");
+    EXPECT_EQ(drill.caption("zaehler", 0), "1") << "another activation does not begin it anew";
+}
+
+TEST(Fault, InADrawIsLoggedShownAndLeadsHome) {
+    DrillFixture drill;
+    drill.z.uebungsmodus = 1;
+    drill.run();
+    drill.z.matbox.redim(0, 0);
+    drill.click("CmdNextAufg");
+    drill.wait(1000);
+    EXPECT_EQ(drill.sheet(), nullptr);
+    ASSERT_EQ(drill.host.faults.size(), 1U);
+    EXPECT_EQ(drill.host.faults[0].at(0).text(), "zepha9.MatWahl.arbeitsblatt1");
+    EXPECT_EQ(drill.host.faults[0].at(1), core::Value(9));
+    EXPECT_EQ(drill.dialogs.messages.size(), 1U);
+    EXPECT_TRUE(drill.programm.forms.loaded("einstellung1")->visible());
 }
 
 }  // namespace

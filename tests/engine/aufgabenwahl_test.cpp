@@ -4,35 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 namespace engine {
 namespace {
-
-TEST(Exam, EveryScaleDirectionComesOnceInEachHalf) {
-    for (int seed = 0; seed < 30; ++seed)
-        for (const bool chosen : {false, true}) {
-            SCOPED_TRACE(seed);
-            Draw draw(seed);
-            draw.z.uebungsmodus = 4;
-            draw.z.richtung = seed % 3;
-            if (chosen) draw.choose({1, -1, 4, -6, 7});
-            draw.wahl.LaufBeginn();
-            const int half = 2 * draw.z.potSkala;
-            draw.box.PruefungBeginnen(half);
-            for (int which = 0; which < 2; ++which) {
-                const auto bag = draw.pool();
-                std::map<int, int> drawn;
-                for (int n = 0; n < half; ++n) {
-                    draw.wahl.Ziehen(0);
-                    ++drawn[draw.code()];
-                }
-                EXPECT_EQ(drawn, bag);
-                EXPECT_EQ(draw.pool(), (std::map<int, int>{{0, half}})) << "all used up";
-                draw.box.MatFuellen(draw.z.richtung);
-            }
-        }
-}
 
 TEST(Selection, NeverTheSameScaleOnTheSameFirstNoteTwiceRunning) {
     for (int mode = 0; mode <= 4; ++mode)
@@ -72,10 +45,7 @@ TEST(Selection, ARunThatCouldOnlyRepeatItselfIsRefused) {
                            {"two scales", {3, 4}, 1, 0, false}}) {
         SCOPED_TRACE(row.name);
         Draw draw;
-        draw.z.ska_ausw = 1;
-        draw.z.einzelAnz = row.codes.size() - 1;
-        for (std::size_t i = 0; i < row.codes.size(); ++i)
-            draw.z.einzel_wahl[static_cast<int>(i)] = row.codes[i];
+        draw.choose(row.codes);
         draw.z.final = row.final;
         draw.z.oktAnz = row.octaves;
         if (row.refused) {
@@ -99,23 +69,6 @@ TEST(TryingOut, DrawsEvenlyAndACodeEnteredTwiceDoubly) {
     }
     EXPECT_NEAR(drawn[-2], 4000, 150);
     EXPECT_NEAR(drawn[1], 2000, 150);
-}
-
-TEST(TryingOut, KeepsToItsDirection) {
-    for (const int richtung : {0, 1, 2}) {
-        Draw draw;
-        draw.z.akt_richtung = -1;
-        draw.z.richtung = richtung;
-        draw.wahl.LaufBeginn();
-        std::set<int> directions;
-        for (int n = 0; n < 100; ++n) {
-            draw.wahl.Ziehen(50);
-            directions.insert(draw.z.akt_richtung);
-        }
-        EXPECT_EQ(directions, richtung == 0   ? std::set{1}
-                              : richtung == 1 ? std::set{-1}
-                                              : std::set({-1, 1}));
-    }
 }
 
 }  // namespace

@@ -3,13 +3,22 @@
 #include "engine/aufgabenwahl.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <map>
 #include <vector>
 
 namespace engine {
 
 namespace katalog = core::katalog;
+
+/// Semitones of a scale above its first note, as the catalogue has it.
+inline int step(int typ, int nr, int i) {
+    if (const auto* own = katalog::eigenesMuster(typ, nr))
+        return own->stufe[static_cast<std::size_t>(i)];
+    const auto base = katalog::grundmuster(typ);
+    const int degrees = base.size() == 6 ? 5 : static_cast<int>(base.size());
+    return base[static_cast<std::size_t>((nr + i) % degrees)] + 12 * ((nr + i) / degrees) -
+           base[static_cast<std::size_t>(nr)];
+}
 
 /// Task selection without form, sound or time: church modes in both directions, one octave.
 struct Draw {
@@ -24,7 +33,7 @@ struct Draw {
         z.skal_typ = skal_typ;
         z.skal_anz = katalog::kategorien.at(static_cast<std::size_t>(skal_typ)).skal_max;
     }
-    void choose(std::initializer_list<int> codes) {
+    void choose(const std::vector<int>& codes) {
         z.ska_ausw = 1;
         z.einzelAnz = codes.size() - 1;
         int i = 0;

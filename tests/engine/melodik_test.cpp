@@ -49,17 +49,6 @@ TEST(MelodikFolge, EveryModeGivesSingableMelodiesOverAllDegrees) {
     EXPECT_EQ(ends.size(), 2U);
 }
 
-TEST(MelodikFolge, NoScaleOfTheCatalogueIsRefused) {
-    for (int typ = 0; typ < katalog::kategorienAnz; ++typ) {
-        Draw draw(typ);
-        draw.category(typ);
-        draw.z.abfolge = 1;
-        draw.wahl.LaufBeginn();
-        for (int n = 0; n < 300; ++n)
-            ASSERT_NO_THROW(draw.wahl.Ziehen(50)) << typ << ' ' << draw.z.skala_nr;
-    }
-}
-
 TEST(MelodikFolge, NotesThatAllowNoMelodyAreRefusedInsteadOfTriedForEver) {
     Aufgabe a;
     for (int i = 0; i < 9; ++i) a.noten[i] = i % 2 == 0 ? 60 : 66;

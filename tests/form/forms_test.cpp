@@ -7,73 +7,46 @@ namespace {
 
 using Diary = std::vector<std::string>;
 
-TEST(Forms, LoadsOnceAndActivatesAtEachShow) {
+TEST(Forms, LoadOnceActivateAtEachShowAndUnloadLastFirst) {
     Bench bench;
     bench.forms.show("bench");
-    EXPECT_EQ(&bench.forms.load("bench"), &bench.form);
     bench.forms.show("bench");
-    EXPECT_EQ(bench.diary, (Diary{"bench load", "bench active", "bench active"}));
     EXPECT_THROW(bench.forms.load("nobody"), std::out_of_range);
-}
-
-TEST(Forms, UnloadsAllLastFirstAndThenTheProgramIsEmpty) {
-    Bench bench;
     bench.add("second");
-    bench.diary.clear();
     int ended = 0;
     const auto watch = bench.forms.empty.connect([&] { ++ended; });
     bench.forms.unloadAll();
-    EXPECT_EQ(bench.diary, (Diary{"second unloading", "bench unloading"}));
+    EXPECT_EQ(bench.diary, (Diary{"bench load", "bench active", "bench active", "second load",
+                                  "second unloading", "bench unloading"}));
     EXPECT_EQ(ended, 1);
-    bench.loop.doEvents();
-    EXPECT_EQ(bench.diary.size(), 4U) << "both are destroyed by the loop";
 }
 
-TEST(Forms, AFormThatUnloadsItselfInAHandlerOutlivesIt) {
-    Bench bench;
-    std::string seen;
-    const bool never = false;
-    bench.form.button.onClick = {"press.", [&] {
-                                     bench.forms.unload("bench");
-                                     bench.loop.wait(50, never);
-                                     seen = bench.form.button.name();
-                                 }};
-    bench.form.button.click();
-    EXPECT_EQ(seen, "button");
-    EXPECT_EQ(bench.forms.loaded("bench"), nullptr);
-    bench.add("bench");
-    bench.loop.doEvents();
-    EXPECT_EQ(std::ranges::count(bench.diary, "bench destroyed"), 1);
-}
-
-TEST(Forms, AFormUnloadedWhileItsHandlerWaitsIsNotDestroyedUnderIt) {
-    Bench bench;
-    const bool never = false;
-    int ticks = 0;
-    bench.add("second").timer.onTick = {"tick.", [&] { bench.forms.unload("bench"); }};
-    static_cast<BenchForm&>(bench.forms.load("second")).timer.start();
-    bench.form.other.onTick = {"tick.", [&] { ++ticks; }};
-    bench.form.other.start();
-    bench.form.button.onClick = {"press.", [&] {
-                                     bench.loop.wait(1000, never);
-                                     bench.diary.push_back(bench.form.name() + " went on");
-                                 }};
-    bench.form.button.click();
-    EXPECT_EQ(ticks, 0) << "its timers stopped with it";
-    const auto wentOn = std::ranges::find(bench.diary, "bench went on");
-    ASSERT_NE(wentOn, bench.diary.end());
-    EXPECT_EQ(std::find(bench.diary.begin(), wentOn, "bench destroyed"), wentOn);
-}
-
-TEST(Forms, AModalFormHoldsItsCallerFromItsShowToItsHiding) {
-    Bench bench;
-    bench.form.timer.onTick = {"tick.", [&] { bench.forms.show("bench"); }};
-    bench.form.other.onTick = {"tick.", [&] { bench.forms.hide("bench"); }};
-    bench.form.timer.start();
-    bench.form.other.start();
-    bench.forms.runModal("bench");
-    EXPECT_EQ(bench.loop.elapsed(), 250);
-    EXPECT_NE(bench.forms.loaded("bench"), nullptr);
+TEST(Forms, AFormUnloadedInItsHandlerOrWhileThatWaitsOutlivesIt) {
+    for (const bool itself : {true, false}) {
+        SCOPED_TRACE(itself ? "by itself" : "by another form");
+        Bench bench;
+        const bool never = false;
+        int ticks = 0;
+        BenchForm& second = bench.add("second");
+        second.timer.onTick = {"tick.", [&] { bench.forms.unload("bench"); }};
+        if (!itself) second.timer.start();
+        bench.form.other.onTick = {"tick.", [&] { ++ticks; }};
+        bench.form.other.start();
+        bench.form.button.onClick = {"press.", [&] {
+                                         if (itself) bench.forms.unload("bench");
+                                         bench.loop.wait(1000, never);
+                                         bench.diary.push_back(bench.form.name() + " went on");
+                                     }};
+        bench.form.button.click();
+        EXPECT_EQ(bench.forms.loaded("bench"), nullptr);
+        EXPECT_EQ(ticks, 0) << "its timers stopped with it";
+        const auto wentOn = std::ranges::find(bench.diary, "bench went on");
+        ASSERT_NE(wentOn, bench.diary.end());
+        EXPECT_EQ(std::find(bench.diary.begin(), wentOn, "bench destroyed"), wentOn);
+        bench.add("third");  // the next form that comes buries those that went
+        bench.loop.doEvents();
+        EXPECT_EQ(std::ranges::count(bench.diary, "bench destroyed"), 1);
+    }
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <QDBusConnection>
 #include <QDBusServer>
 #include <QDBusVariant>
-#include <QList>
 #include <QObject>
 #include <QThread>
 
@@ -22,12 +21,10 @@ class EchoHost : public QObject {
     explicit EchoHost(const QString& address) {
         moveToThread(&thread_);
         thread_.start();
-        QMetaObject::invokeMethod(
-            this, [&] { listen(address); }, Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(this, "listen", Qt::BlockingQueuedConnection,
+                                  Q_ARG(QString, address));
     }
     ~EchoHost() override {
-        QMetaObject::invokeMethod(
-            this, [this] { leave(); }, Qt::BlockingQueuedConnection);
         thread_.quit();
         thread_.wait();
     }
@@ -42,22 +39,14 @@ class EchoHost : public QObject {
     }
 
   private:
-    void listen(const QString& address) {
+    Q_INVOKABLE void listen(const QString& address) {
         server_ = std::make_unique<QDBusServer>(address);
         connect(server_.get(), &QDBusServer::newConnection, this, [this](QDBusConnection caller) {
             caller.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
-            callers_.append(caller.name());
         });
     }
-    void leave() {
-        server_.reset();
-        for (const QString& name : callers_) QDBusConnection::disconnectFromPeer(name);
-        callers_.clear();
-    }
-
     QThread thread_;
     std::unique_ptr<QDBusServer> server_;
-    QStringList callers_;
 };
 
 }  // namespace hostlink

@@ -8,17 +8,9 @@
 namespace hostlink {
 namespace {
 
-class HostAddress : public testing::Test {
-  protected:
-    void SetUp() override {
-        qunsetenv("MELVORA_HOST_ADDRESS");
-        qunsetenv("XDG_RUNTIME_DIR");
-    }
-    void TearDown() override { SetUp(); }
-};
-
-TEST_F(HostAddress, FollowsTheEnvironmentInThisOrder) {
-    qputenv("TMPDIR", "/tmp");
+TEST(HostAddress, FollowsTheEnvironmentInThisOrder) {
+    const char* variables[] = {"MELVORA_HOST_ADDRESS", "XDG_RUNTIME_DIR", "TMPDIR"};
+    for (const char* variable : variables) qunsetenv(variable);
     EXPECT_EQ(hostAddress(), "unix:path=/tmp/melvora-" + std::to_string(getuid()) + "/host");
     qputenv("XDG_RUNTIME_DIR", "/run/user/7");
     EXPECT_EQ(hostAddress(), "unix:path=/run/user/7/melvora/host");
@@ -26,11 +18,11 @@ TEST_F(HostAddress, FollowsTheEnvironmentInThisOrder) {
     EXPECT_EQ(hostAddress(), "unix:path=/a/b");
     qputenv("MELVORA_HOST_ADDRESS", "/a b/c");
     EXPECT_EQ(hostAddress(), "unix:path=/a%20b/c");
+    for (const char* variable : variables) qunsetenv(variable);
 }
 
-TEST_F(HostAddress, GivesBackTheSocketItWasMadeOf) {
+TEST(HostAddress, GivesBackTheSocketItWasMadeOf) {
     for (const char* path : {"/run/user/1000/melvora/host", "/tmp/Ä ö/h,o;s=t%/host", "/a~b"}) {
-        SCOPED_TRACE(path);
         EXPECT_EQ(socketPath(addressOf(path)), path);
     }
     EXPECT_EQ(socketPath("unix:path=/a,guid=12"), "/a");

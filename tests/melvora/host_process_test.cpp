@@ -1,17 +1,21 @@
-#include "melvora/host_process.h"
-
+#include "hostlink/dbus_host.h"
 #include "melvora/store.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QThread>
 
+#include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <optional>
 #include <thread>
 
 namespace melvora {
@@ -19,13 +23,98 @@ namespace {
 
 using core::Value;
 
+/// The real host program with a socket and a data folder of its own.
+class HostProcess : public testing::Test {
+  protected:
+    QString socket() const { return folder_.filePath("host"); }
+    QString data() const { return folder_.filePath("data"); }
+
+    void prepare(QProcess& process, const QStringList& arguments, const QString& task = {}) const {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        environment.insert("MELVORA_HOST_ADDRESS", socket());
+        environment.insert("MELVORA_MODULE_PATH", MELVORA_FAKE_MODULES);
+        environment.insert("FAKE_MODULE", task);
+        process.setProcessEnvironment(environment);
+        process.setProgram(MELVORA_PROGRAM);
+        process.setArguments(QStringList{"--data", data()} + arguments);
+    }
+
+    /// Starts the host and waits until it answers.
+    void start(const QStringList& arguments = {}, const QString& task = {}) {
+        prepare(host_, arguments, task);
+        host_.start();
+        ASSERT_TRUE(host_.waitForStarted());
+        eventually([this] { return !ask("LANG", "").isEmpty(); });
+    }
+
+    void kill() {
+        host_.kill();
+        ASSERT_TRUE(host_.waitForFinished());
+    }
+
+    struct Ended {
+        int status;
+        std::string complaint;
+    };
+    /// Runs a host to its end beside the one that runs.
+    Ended second(const QStringList& arguments = {}) const {
+        QProcess process;
+        prepare(process, arguments);
+        process.start();
+        EXPECT_TRUE(process.waitForFinished(20'000));
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardError().toStdString()};
+    }
+
+    /// The host's result, nothing when it refuses or is not there.
+    Value ask(const std::string& key, const Value& argument) {
+        Value result;
+        try {
+            return link().request(key, argument, result) ? result : Value();
+        } catch (const core::HostGone&) {
+            return {};
+        }
+    }
+    std::string startedModule() { return ask("APP", {}).at(1).text(); }
+    /// Texts of the log that the host has written so far, newest first.
+    QStringList logged() const {
+        QStringList texts;
+        for (const LogLine& line : Store(data()).log.lines({})) texts.append(line.text);
+        return texts;
+    }
+    hostlink::DbusHost& link() {
+        if (!link_)
+            link_.emplace(hostlink::addressOf(socket().toStdString()), std::chrono::minutes(10));
+        return *link_;
+    }
+
+    template <class Condition>
+    static void eventually(Condition condition) {
+        QElapsedTimer clock;
+        clock.start();
+        while (!condition()) {
+            ASSERT_LT(clock.elapsed(), 20'000) << "waited in vain";
+            QThread::msleep(10);
+        }
+    }
+
+    void TearDown() override {
+        if (host_.state() != QProcess::NotRunning) kill();
+    }
+
+    QTemporaryDir folder_;
+    QProcess host_;
+    std::optional<hostlink::DbusHost> link_;
+};
+
 TEST_F(HostProcess, KilledAtAnyMomentItLosesNothingThatItAcknowledged) {
     int acknowledged = -1;
-    for (int round = 0; round < 4; ++round) {
+    for (unsigned long round = 0; round < 4; ++round) {
         SCOPED_TRACE(round);
         start();
         std::thread murderer([&] {
-            QThread::msleep(static_cast<unsigned long>(40 + 37 * round));
+            QThread::msleep(40 + 37 * round);
             ::kill(static_cast<pid_t>(host_.processId()), SIGKILL);
         });
         Value result;
@@ -37,7 +126,7 @@ TEST_F(HostProcess, KilledAtAnyMomentItLosesNothingThatItAcknowledged) {
                     acknowledged = i;
             }
         };
-        EXPECT_THROW(storeUntilItDies(), core::HostGone);
+        EXPECT_THROW(storeUntilItDies(), core::HostGone) << "long before the time-out";
         murderer.join();
         EXPECT_GT(acknowledged, first);
         ASSERT_TRUE(host_.waitForFinished());
@@ -78,12 +167,10 @@ TEST_F(HostProcess, TellsWhatIsWrongAndEndsWithStatusTwo) {
         {"data folder is a file", {}, data().toStdString()},
         {"unknown option", {"--nonsense"}, "nonsense"},
         {"option without its value", {"--start"}, "start"},
-        {"empty folder", {"--data", ""}, "data"},
         {"value for a switch", {"--teacher=1"}, "teacher"},
         {"unknown module", {"--start", "zepha8"}, "zepha8"},
         {"two files", {"a.mvs", "b.mvs"}, "b.mvs"},
         {"no such file", {"nowhere.mvs"}, QDir::current().filePath("nowhere.mvs").toStdString()},
-        {"folder for a file", {folder_.path()}, folder_.path().toStdString()},
         {"file for another module", {"--start", "zepha8", data()}, "zepha8"},
         {"unknown user", {"--data", folder_.filePath("d1"), "--user", "ghost"}, "ghost"},
         {"unknown language", {"--data", folder_.filePath("d2"), "--language", "Latina"}, "Deutsch"},
@@ -94,29 +181,24 @@ TEST_F(HostProcess, TellsWhatIsWrongAndEndsWithStatusTwo) {
         EXPECT_EQ(ended.status, 2);
         EXPECT_NE(ended.complaint.find(row.told), std::string::npos) << ended.complaint;
     }
+    for (const char* option : {"--help", "-v"}) EXPECT_EQ(second({option}).status, 0) << option;
 }
 
 TEST_F(HostProcess, CallsThatAreNoRequestsDoItNoHarm) {
     start();
     const auto caller =
         QDBusConnection::connectToPeer("unix:path=" + socket(), "caller of nonsense");
-    struct Row {
-        const char* name;
-        const char* method;
-        QVariantList arguments;
-    };
     const QVariant nothing = QVariant::fromValue(QDBusVariant(QString()));
-    const Row rows[] = {
-        {"no arguments", "Request", {}},
-        {"key is a number", "Request", {5, nothing, nothing}},
-        {"argument is no variant", "Request", {"LANG", "", nothing}},
-        {"unknown method", "Destroy", {"LANG", nothing, nothing}},
+    const std::pair<const char*, QVariantList> calls[] = {
+        {"Request", {}},
+        {"Request", {5, nothing, nothing}},
+        {"Request", {"LANG", "no variant", nothing}},
+        {"Destroy", {"LANG", nothing, nothing}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [method, arguments] : calls) {
         auto call = QDBusMessage::createMethodCall({}, hostlink::objectPath,
-                                                   hostlink::interfaceName, row.method);
-        call.setArguments(row.arguments);
+                                                   hostlink::interfaceName, method);
+        call.setArguments(arguments);
         EXPECT_EQ(caller.call(call, QDBus::Block, 5000).type(), QDBusMessage::ErrorMessage);
     }
     QDBusConnection::disconnectFromPeer("caller of nonsense");
@@ -171,8 +253,36 @@ TEST_F(HostProcess, AnotherUserIsNotServed) {
         ASSERT_TRUE(caller.waitForFinished(20'000));
         EXPECT_EQ(caller.exitCode(), status);
     }
-    EXPECT_EQ(Store(data()).log.lines({}).size(), 1);
+    EXPECT_EQ(logged().size(), 1);
     EXPECT_FALSE(ask("LANG", "").isEmpty());
+}
+
+TEST_F(HostProcess, ASecondHostHandsItsModuleOrFileOn) {
+    const QString path = folder_.filePath("Übung 1%2.mvs");
+    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+    const QString fromHere = QDir::current().relativeFilePath(path);
+    start({fromHere, "--teacher"}, "vanish");
+    const QString withFile = "started as zepha9.exe --teacher --settings " + path;
+    eventually([&] { return logged().contains(withFile) && startedModule().empty(); });
+    EXPECT_EQ(second({"--start", "zepha9"}).status, 0);
+    eventually([&] { return logged().size() == 2 && startedModule().empty(); });
+    EXPECT_EQ(logged().first(), "started as zepha9.exe --teacher");
+    EXPECT_EQ(second({fromHere}).status, 0);
+    eventually([&] { return logged().size() == 3 && startedModule().empty(); });
+    EXPECT_EQ(logged().first(), withFile);
+    EXPECT_EQ(second({path + "x"}).status, 2);
+    EXPECT_EQ(second().status, 0);
+    EXPECT_EQ(host_.state(), QProcess::Running);
+}
+
+TEST_F(HostProcess, AMissingModuleIsToldOfWithItsPath) {
+    prepare(host_, {"--start", "zepha9"});
+    auto environment = host_.processEnvironment();
+    environment.insert("MELVORA_MODULE_PATH", folder_.filePath("none"));
+    host_.setProcessEnvironment(environment);
+    host_.start();
+    eventually([this] { return QFile::exists(data() + "/melvora.sqlite") && !logged().isEmpty(); });
+    EXPECT_TRUE(logged().first().contains(folder_.filePath("none/zepha9")));
 }
 
 }  // namespace

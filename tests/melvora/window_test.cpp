@@ -21,11 +21,12 @@ class WindowTest : public testing::Test {
     WindowTest() {
         qputenv("MELVORA_MODULE_PATH", MELVORA_FAKE_MODULES);
         host_.chooseLanguage("Deutsch");
-        host_.putUser({"anna", "Doe", "Anna", "4711"});
+        const QString longName(80, 'W');
+        host_.putUser({"anna", longName, longName, "4711"});
         window_.show();
         settle();
     }
-    ~WindowTest() override { qunsetenv("MELVORA_MODULE_PATH"); }
+    void TearDown() override { qunsetenv("MELVORA_MODULE_PATH"); }
 
     static void settle() { QApplication::processEvents(); }
     template <class Condition>
@@ -53,7 +54,21 @@ void expectNothingCutOff(const QWidget& window) {
     }
 }
 
-TEST_F(WindowTest, NothingIsCutOffInAnyLanguage) {
+/// Whoever hears a window instead of seeing it is told what each control is.
+void expectNamed(const QWidget& window) {
+    for (auto* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
+        if (!qobject_cast<QComboBox*>(widget) && !qobject_cast<QAbstractButton*>(widget) &&
+            !qobject_cast<QTableView*>(widget))
+            continue;
+        auto* interface = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_TRUE(interface);
+        EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty())
+            << widget->metaObject()->className();
+    }
+}
+
+TEST_F(WindowTest, EveryPageIsReadableInEveryLanguageAndNamesItsControls) {
     window_.resize(window_.minimumSizeHint());
     for (const QString& language : words_.languages()) {
         ASSERT_TRUE(host_.chooseLanguage(language));
@@ -66,42 +81,11 @@ TEST_F(WindowTest, NothingIsCutOffInAnyLanguage) {
             window_.resize(window_.minimumSizeHint());
             settle();
             expectNothingCutOff(window_);
+            expectNamed(window_);
             for (const auto* label : window_.findChildren<QLabel*>())
                 EXPECT_NE(label->text(), "VOID");
         }
     }
-}
-
-TEST_F(WindowTest, EveryControlThatTakesTheKeyboardHasAName) {
-    for (int tab = 0; tab < MainWindow::tabCount; ++tab) {
-        window_.open(static_cast<MainWindow::Tab>(tab));
-        settle();
-        for (auto* widget : window_.findChildren<QWidget*>()) {
-            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
-            if (!qobject_cast<QComboBox*>(widget) && !qobject_cast<QAbstractButton*>(widget) &&
-                !qobject_cast<QTableView*>(widget))
-                continue;
-            auto* interface = QAccessible::queryAccessibleInterface(widget);
-            ASSERT_TRUE(interface);
-            EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty())
-                << widget->metaObject()->className() << " on tab " << tab;
-        }
-    }
-}
-
-TEST_F(WindowTest, GoesAwayWhileTheModuleRunsAndComesBackWithTheReasonOfItsDeath) {
-    qputenv("FAKE_MODULE", "crash");
-    const auto notices = window_.findChildren<NoticeBar*>();
-    ASSERT_EQ(notices.size(), 1);
-    bool wasHidden = false;
-    QObject::connect(&host_, &Host::moduleStarted, [&] { wasHidden = window_.isHidden(); });
-    auto* wayOn = qobject_cast<QAbstractButton*>(window_.focusWidget());
-    ASSERT_TRUE(wayOn) << "Enter starts the module";
-    wayOn->click();
-    until([&] { return wasHidden && window_.isVisible(); });
-    EXPECT_TRUE(wasHidden);
-    EXPECT_TRUE(window_.isVisible());
-    EXPECT_TRUE(notices.first()->isVisible());
 }
 
 TEST_F(WindowTest, AUsersTrainingsFollowWhatIsStoredAndStayWhileAModuleRuns) {
@@ -132,6 +116,8 @@ TEST_F(WindowTest, AUsersTrainingsFollowWhatIsStoredAndStayWhileAModuleRuns) {
     QObject::connect(&host_, &Host::noticed, [&](const QString& text) { notices.append(text); });
     const QString file = folder_.filePath("melvora.sqlite");
     qputenv("FAKE_MODULE", "crash");
+    bool wasHidden = false;
+    QObject::connect(&host_, &Host::moduleStarted, [&] { wasHidden = window_.isHidden(); });
     host_.startModule("zepha9");
     host_.removeTraining(training);
     EXPECT_TRUE(host_.startModule("zepha9", file));
@@ -139,6 +125,9 @@ TEST_F(WindowTest, AUsersTrainingsFollowWhatIsStoredAndStayWhileAModuleRuns) {
     EXPECT_TRUE(notices[1].contains(file));
     EXPECT_EQ(host_.store().trainings.of(nobody).size(), 1);
     until([&] { return !host_.module().runs() && window_.isVisible(); });
+    EXPECT_TRUE(wasHidden) << "it goes away while the module runs";
+    EXPECT_TRUE(host_.store().log.lines({}).first().text.contains("-9"));
+    EXPECT_TRUE(window_.findChildren<NoticeBar*>().first()->isVisible()) << "of its death";
     host_.removeTraining(training);
     until([&] { return users->rowCount() == 1; });
     EXPECT_TRUE(host_.store().trainings.of(nobody).isEmpty());

@@ -18,13 +18,17 @@ TEST(Rtf, KeepsLettersParagraphsAndLook) {
               "<span style=\"font-size:10pt\">’{&amp;</span></p>");
 }
 
-TEST(Rtf, RefusesWhatIsNoneOrDoesNotEnd) {
-    for (const char* text : {"", "hello", "{\\rtf1 never ends", "{\\rtf1 \\", "{\\rtf1 \\'f"})
-        EXPECT_THROW(rtfAlsHtml(text), std::runtime_error) << text;
+TEST(Rtf, ReadsCodePage1252AndTypographicWords) {
+    const std::string html = rtfAlsHtml(
+        "{\\rtf1\\ansi\\'84\\'96\\'93\\'80\x85\\endash\\emdash\\lquote\\rquote\\ldblquote"
+        "\\rdblquote\\bullet a\\~b\\_c\\-d}");
+    EXPECT_NE(html.find("„–“€…–—‘’“”•a\u00a0b\u2011c\u00add"), std::string::npos) << html;
 }
 
 /// Whatever is damaged in a hint, reading it ends.
-TEST(Rtf, DamagedTextsEnd) {
+TEST(Rtf, RefusesWhatIsNoneAndEndsWithDamagedOnes) {
+    for (const char* text : {"", "hello", "{\\rtf1 never ends", "{\\rtf1 \\", "{\\rtf1 \\'f"})
+        EXPECT_THROW(rtfAlsHtml(text), std::runtime_error) << text;
     const std::string whole = "{\\rtf1\\ansi{\\b b}\\u9837?\\'fc\\par\\fs22 x}";
     for (std::size_t at = 0; at < whole.size(); ++at)
         for (const char c : {'{', '}', '\\', '9', '\0'}) {

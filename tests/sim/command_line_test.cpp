@@ -1,5 +1,4 @@
 #include "sim/traced_run.h"
-#include "sim/usage_error.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -11,60 +10,6 @@
 namespace sim::test {
 
 namespace {
-
-TEST(CommandLine, WhatCannotBeDoneIsToldByName) {
-    struct Row {
-        const char* line;
-        const char* told;
-    };
-    for (const Row& row : {
-             Row{"--set tempo=3", "tempo"},
-             Row{"--set skal_typ", "field=value"},
-             Row{"--set skal_typ=x", "skal_typ"},
-             Row{"--set skal_typ=", "skal_typ"},
-             Row{"--set skal_typ=1.5", "skal_typ"},
-             Row{"--set skal_typ=7", "0..6"},
-             Row{"--set richtung=-1", "richtung"},
-             Row{"--set zufallsNr=99999999999999999999", "zufallsNr"},
-             Row{"--set ska_ausw=1", "einzel_wahl"},
-             Row{"--set einzel_wahl=1,,2", "einzel_wahl"},
-             Row{"--set einzel_wahl=0", "einzel_wahl"},
-             Row{"--set einzel_wahl=6 --set skal_typ=4", "1..5"},
-             Row{"--set einzel_wahl=1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1", "15"},
-             Row{"--set ueb_typ=4", "arbeitsblatt1"},
-             Row{"--set FrquMinAkt=72 --set oktAnz=3", "oktAnz"},
-             Row{"--form einstellung1", "einstellung1"},
-             Row{"--learner lazy", "lazy"},
-             Row{"--learner random:1.5", "0..1"},
-             Row{"--learner confuse:2", "confuse"},
-             Row{"--tasks -1", "--tasks"},
-             Row{"--seed", "--seed"},
-             Row{"--fast", "--fast"},
-             Row{"", "--tasks"},
-         }) {
-        SCOPED_TRACE(row.line);
-        try {
-            const Options given = options(row.line);
-            const Simulation simulation(given);
-            ADD_FAILURE() << "was taken";
-        } catch (const UsageError& error) {
-            EXPECT_NE(std::string(error.what()).find(row.told), std::string::npos) << error.what();
-        }
-    }
-}
-
-TEST(CommandLine, ChosenScalesAreInForceAndTheLastValueCounts) {
-    const TracedRun run(
-        "--tasks 1 --set skal_typ=2 --set einzel_wahl=8,-3 --set richtung=0 "
-        "--set richtung=1 --set oktAnz=2 --set FrquMinAkt=36");
-    const QJsonObject line = run.lines("run")[0];
-    EXPECT_EQ(numbers(line["einzel_wahl"]), (std::vector{8, -3}));
-    EXPECT_EQ(line["ska_ausw"].toInt(), 1);
-    EXPECT_EQ(line["skal_anz"].toInt(), 7);
-    EXPECT_EQ(line["richtung"].toInt(), 1);
-    EXPECT_EQ(line["FrquMaxAkt"].toInt(), 84);
-    EXPECT_EQ(line["n"].toInt(), 2);
-}
 
 /// Runs the program. @return its exit status.
 int program(const std::string& arguments) {
@@ -84,9 +29,24 @@ TEST(CommandLine, TheProgramTellsItsStatusAndWritesItsFiles) {
 
     EXPECT_EQ(program("--help"), 0);
     EXPECT_NE(contents("out").find("--learner"), std::string::npos);
-    EXPECT_EQ(program("--set nothing=1"), 2);
-    EXPECT_NE(contents("err").find("nothing"), std::string::npos);
-    EXPECT_EQ(program("--tasks 1 --trace /nowhere/trace"), 2);
+    for (const auto& [arguments, told] : {
+             std::pair{"--set tempo=3", "tempo"},
+             {"--set skal_typ", "field=value"},
+             {"--set skal_typ=7", "0..6"},
+             {"--set zufallsNr=99999999999999999999", "zufallsNr"},
+             {"--set ska_ausw=1", "einzel_wahl"},
+             {"--set einzel_wahl=6 --set skal_typ=4", "1..5"},
+             {"--set einzel_wahl=1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1", "15"},
+             {"--set FrquMinAkt=72 --set oktAnz=3", "oktAnz"},
+             {"--form einstellung1", "einstellung1"},
+             {"--learner random:1.5", "0..1"},
+             {"--fast", "--fast"},
+             {"", "--tasks"},
+             {"--tasks 1 --trace /nowhere/trace", "/nowhere/trace"},
+         }) {
+        EXPECT_EQ(program(arguments), 2) << arguments;
+        EXPECT_NE(contents("err").find(told), std::string::npos) << contents("err");
+    }
     EXPECT_EQ(program("--set einzel_wahl=2 --set final=1 --tasks 1"), 1);
 
     EXPECT_EQ(program("--set uebungsmodus=1 --trace trace --record record.xml"), 0);

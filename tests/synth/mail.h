@@ -19,13 +19,24 @@ class Mail {
         };
     }
 
-    /// Runs calls until `done` holds; false when it does not within ten seconds.
+    /// Runs calls until `done` holds; false when it does not within the time.
     template <class Done>
-    bool runUntil(Done done) {
-        const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-        while (!done())
-            if (!runOne(limit)) return false;
+    bool runUntil(Done done, std::chrono::milliseconds time = std::chrono::seconds(10)) {
+        const auto limit = std::chrono::steady_clock::now() + time;
+        while (!done()) {
+            std::unique_lock lock(mutex_);
+            if (!arrived_.wait_until(lock, limit, [this] { return !calls_.empty(); })) return false;
+            const auto call = std::move(calls_.front());
+            calls_.pop_front();
+            lock.unlock();
+            call();
+        }
         return true;
+    }
+
+    /// Runs what arrives within the time.
+    void runFor(std::chrono::milliseconds time) {
+        runUntil([] { return false; }, time);
     }
 
     /// Waits until a call is there, and leaves it.
@@ -35,26 +46,7 @@ class Mail {
                                  [this] { return !calls_.empty(); });
     }
 
-    /// Runs what arrives within the time.
-    void runFor(std::chrono::milliseconds time) {
-        const auto limit = std::chrono::steady_clock::now() + time;
-        while (runOne(limit)) {
-        }
-    }
-
   private:
-    bool runOne(std::chrono::steady_clock::time_point limit) {
-        std::function<void()> call;
-        {
-            std::unique_lock lock(mutex_);
-            if (!arrived_.wait_until(lock, limit, [this] { return !calls_.empty(); })) return false;
-            call = std::move(calls_.front());
-            calls_.pop_front();
-        }
-        call();
-        return true;
-    }
-
     std::mutex mutex_;
     std::condition_variable arrived_;
     std::deque<std::function<void()>> calls_;

@@ -15,14 +15,13 @@ namespace {
 
 /// A player on a port that keeps what it is sent.
 struct Port {
-    synth::Command events(std::vector<sound::MidiEvent> list) {
-        return {.kind = Kind::Play, .events = std::move(list), .run = 1};
+    void play(std::vector<sound::MidiEvent> list) {
+        player->put({.kind = Kind::Play, .events = std::move(list), .run = 1});
     }
-    std::size_t count() {
+    bool silent() {
         const std::lock_guard lock(mutex);
-        return sent.size();
+        return sent.empty();
     }
-    void close() { player.reset(); }
 
     std::mutex mutex;
     std::vector<Bytes> sent;
@@ -45,7 +44,7 @@ TEST(PortPlayer, SendsMessagesUnchangedAndInTheOrderOfTheirTimes) {
     port.player->put({.kind = Kind::Send, .event = {.status = 0xe2, .data1 = 0, .data2 = 61}});
     auto notes = note(2, 62, 40, 30);
     append(notes, note(2, 60, 0, 40, 90));
-    port.player->put(port.events(notes));
+    port.play(notes);
     ASSERT_TRUE(port.mail.runUntil([&] { return port.ends == 1; }));
     const std::vector<Bytes> expected{{0xc2, 73},      {0xe2, 0, 61},  {0xb2, 123, 0},
                                       {0x92, 60, 90}, {0x82, 60, 90}, {0x92, 62, 100},
@@ -59,13 +58,13 @@ TEST(PortPlayer, CutEndsSoundingNotesCentresBendsAndForgetsTheRest) {
         Port port;
         auto notes = note(0, 60, 0, 60000);
         append(notes, note(0, 64, 200, 100));
-        port.player->put(port.events(notes));
-        while (port.count() < 1) std::this_thread::yield();
+        port.play(notes);
+        while (port.silent()) std::this_thread::yield();
         if (!byClosing) {
             port.player->put({.kind = Kind::Silence});
             port.mail.runFor(std::chrono::milliseconds(300));
         }
-        port.close();
+        port.player.reset();
         const std::vector<Bytes> expected{
             {0x90, 60, 100}, {0x80, 60, 100}, {0xb0, 123, 0}, {0xe0, 0, 64}};
         EXPECT_EQ(port.sent, expected);

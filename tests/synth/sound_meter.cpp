@@ -1,7 +1,5 @@
 #include "synth/sound_meter.h"
 
-#include "synth/synth_options.h"
-
 #include <algorithm>
 #include <cmath>
 #include <complex>
@@ -15,15 +13,7 @@ constexpr double rate = Engine::sampleRate;
 constexpr double framesPerMs = rate / 1000;
 constexpr double centsPerStep = 200.0 / 64;
 constexpr std::array<int, 8> major{0, 2, 4, 5, 7, 9, 11, 12};
-constexpr std::array<int, 12> meantone{5, 2, 6, 3, 1, 4, 2, 6, 9, 0, 4, 1};
 constexpr float audible = 0.005F;
-
-constexpr std::array<int, 8> meantoneSteps() {
-    std::array<int, 8> steps{};
-    for (std::size_t i = 0; i < steps.size(); ++i)
-        steps[i] = meantone[static_cast<std::size_t>(major[i]) % 12];
-    return steps;
-}
 
 double hertz(int key) { return 440.0 * std::exp2((key - 69) / 12.0); }
 
@@ -50,12 +40,12 @@ const std::array<Tuning, 5> tunings{{
     {"equal, detuned up", false, {15, 15, 15, 15, 15, 15, 15, 15}},
     {"equal, detuned down", false, {-13, -13, -13, -13, -13, -13, -13, -13}},
     {"Pythagorean", true, {-2, -1, 1, -3, -1, 0, 1, -2}},
-    {"meantone", true, meantoneSteps()},
+    {"meantone", true, {5, 6, 1, 4, 6, 0, 1, 5}},
 }};
 
 Rendering::Rendering(bool font)
     : engine(mailbox, [this](std::uint32_t run) { ended.push_back(run); }) {
-    if (font) engine.loadFont(testFont);
+    if (font) engine.loadFont(measuredFont);
 }
 
 void Rendering::send(int status, int data1, int data2) {

@@ -7,9 +7,6 @@
 
 namespace synth::test {
 
-/// The instruments that the figures of the tests hold for, whatever others the machine has.
-inline constexpr auto testFont = "/usr/share/sounds/sf2/TimGM6mb.sf2";
-
 /// A synthesiser that is pulled by hand; the left channel of what it rendered is kept.
 class Rendering {
   public:
@@ -31,6 +28,9 @@ class Rendering {
 /// Note-on and note-off, as the drill queues them.
 std::vector<sound::MidiEvent> note(int channel, int key, int start, int length, int velocity = 100);
 void append(std::vector<sound::MidiEvent>& to, const std::vector<sound::MidiEvent>& more);
+
+/// The font that is among the packages: the instruments of others begin and fade otherwise.
+inline constexpr const char* measuredFont = "/usr/share/sounds/sf2/TimGM6mb.sf2";
 
 /// Clavinet: begins at once and ends within milliseconds. Organ: one steady pitch without vibrato.
 inline constexpr int brief = 7;
