@@ -42,26 +42,5 @@ TEST(Button, CanBePressedOnlyWhereTheUserReachesIt) {
     }
 }
 
-TEST(Option, OneOfAGroupIsChosenAndItsHandlerRuns) {
-    Bench bench;
-    std::vector<int> chosen;
-    std::vector<int> stored;
-    for (Option& option : bench.form.options) {
-        option.store = [&] { stored.push_back(option.index()); };
-        option.onClick = {"choose.", [&] { chosen.push_back(option.index()); }};
-    }
-    bench.form.options(1).choose();
-    bench.form.options(1).choose();
-    bench.form.options(2).click();
-    bench.form.options(2).click();
-    EXPECT_EQ(chosen, (std::vector{1, 2})) << "only what becomes chosen has consequences";
-    EXPECT_EQ(stored, (std::vector{1, 1, 2, 2}));
-    EXPECT_FALSE(bench.form.options(1).value());
-    EXPECT_TRUE(bench.form.options(2).value());
-    EXPECT_THROW(bench.form.options(3), base::RuntimeError);
-    EXPECT_EQ(bench.form.find("options", 2), &bench.form.options(2));
-    EXPECT_EQ(bench.form.find("options"), nullptr);
-}
-
 }  // namespace
 }  // namespace form

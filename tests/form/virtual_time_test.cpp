@@ -27,7 +27,7 @@ TEST(VirtualTime, TicksInStepsAndWaitsInsideEachOtherAndOverMidnight) {
 
     VirtualTime late({2026, 5, 31, 23, 59, 59, 900});
     late.advance(300);
-    EXPECT_FLOAT_EQ(late.clock(), 0.2F);
+    EXPECT_FLOAT_EQ(late.clock(), 86400.2F);
 }
 
 }  // namespace

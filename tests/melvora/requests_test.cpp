@@ -54,7 +54,7 @@ TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
         EXPECT_FALSE(requests_.answer(row.key, row.argument, result));
         EXPECT_EQ(result == Value("default"), row.key != "STORE") << "a store says why";
         const auto lines = host_.store().log.lines({});
-        ASSERT_EQ(lines.size(), before + 1);
+        ASSERT_GT(lines.size(), before);
         EXPECT_EQ(lines.first().kind, LogKind::Error);
         EXPECT_LT(lines.first().text.size(), 200);
     }

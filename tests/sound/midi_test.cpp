@@ -9,8 +9,11 @@ namespace sound {
 namespace {
 
 TEST(Midi, TakesTheHostsDeviceOrTheLastOfTheList) {
-    for (const auto& [given, device] :
-         {std::pair<std::optional<std::string>, int>{"0", 0}, {"-1", -1}, {" 1 x", 1}, {"40000", 1}, {{}, 1}}) {
+    for (const auto& [given, device] : {std::pair<std::optional<std::string>, int>{"0", 0},
+                                        {"-1", -1},
+                                        {" 1 x", 1},
+                                        {"40000", 1},
+                                        {{}, 1}}) {
         core::BenchProgramm bench;
         bench.host.midi = given;
         bench.p.host.HostVerbinden();

@@ -46,7 +46,7 @@ TEST(PortPlayer, SendsMessagesUnchangedAndInTheOrderOfTheirTimes) {
     append(notes, note(2, 60, 0, 40, 90));
     port.play(notes);
     ASSERT_TRUE(port.mail.runUntil([&] { return port.ends == 1; }));
-    const std::vector<Bytes> expected{{0xc2, 73},      {0xe2, 0, 61},  {0xb2, 123, 0},
+    const std::vector<Bytes> expected{{0xc2, 73},     {0xe2, 0, 61},  {0xb2, 123, 0},
                                       {0x92, 60, 90}, {0x82, 60, 90}, {0x92, 62, 100},
                                       {0x82, 62, 100}};
     EXPECT_EQ(port.sent, expected);
