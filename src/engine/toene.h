@@ -21,7 +21,7 @@ class Tonart {
     virtual void Ziehen() = 0;
     /// The tones of the scale drawn.
     virtual void Toene() = 0;
-    /// Whether every draw of the run has the same key.
+    /// Whether drawing again may give the same key for ever.
     virtual bool fest() const = 0;
 };
 

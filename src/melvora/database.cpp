@@ -7,6 +7,8 @@
 #include <QSqlRecord>
 #include <QUuid>
 
+#include <sys/stat.h>
+
 namespace melvora {
 
 namespace {
@@ -25,6 +27,18 @@ constexpr const char* tables[] = {
     " answered INTEGER NOT NULL, file_name TEXT NOT NULL, digest TEXT NOT NULL,"
     " content TEXT NOT NULL, UNIQUE (file_name, digest))",
 };
+
+/// What a database must answer to be usable.
+constexpr const char* uses[] = {
+    "SELECT setting_key, content FROM settings LIMIT 0",
+    "SELECT user_key, surname, first_name, matriculation FROM users LIMIT 0",
+    "SELECT user_key, executable, record_key, content, stored_at FROM records LIMIT 0",
+    "SELECT id, logged_at, user_key, kind, content FROM log LIMIT 0",
+    "SELECT id, started_at, user_key, exercise, right_first, answered, file_name, digest, content"
+    " FROM results LIMIT 0",
+};
+/// Grows when a program of this version could not use the tables of the next.
+constexpr int schema = 1;
 
 struct Column {
     const char* table;
@@ -53,8 +67,10 @@ Database::Database(const QString& folder)
     if (isNew) closeToOthers(folder);
     // The database gives its permissions to the files that it keeps beside it.
     if (QFile file(path_); file.open(QIODevice::ReadWrite)) closeToOthers(path_);
+    identity_ = identity();
     try {
         open();
+        checkSchema();
         makeTables();
     } catch (...) {
         statements_.clear();
@@ -71,7 +87,7 @@ Database::~Database() {
 void Database::open() {
     QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", name_);
     database.setDatabaseName(path_);
-    database.setConnectOptions("QSQLITE_BUSY_TIMEOUT=5000");
+    database.setConnectOptions("QSQLITE_BUSY_TIMEOUT=2000");
     if (!database.open()) fail(database.lastError().databaseText());
     for (const char* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL"}) {
         QSqlQuery query(database);
@@ -90,6 +106,18 @@ void Database::makeTables() {
         if (!database.record(column.table).contains(column.name))
             execute(QString("ALTER TABLE %1 ADD COLUMN %2 %3")
                         .arg(column.table, column.name, column.type));
+    for (const char* use : uses) execute(use);
+}
+
+/// A database of a newer program is left alone.
+void Database::checkSchema() {
+    QSqlQuery query(QSqlDatabase::database(name_));
+    if (!query.exec("PRAGMA user_version") || !query.next()) fail(query.lastError().databaseText());
+    const int found = query.value(0).toInt();
+    query.finish();
+    if (found > schema) fail("was written by a newer Melvora; install that one");
+    if (found < schema && !query.exec(QString("PRAGMA user_version = %1").arg(schema)))
+        fail(query.lastError().databaseText());
 }
 
 int Database::run(const QString& sql, const QVariantList& values, const Row& row) {
@@ -109,9 +137,21 @@ int Database::run(const QString& sql, const QVariantList& values, const Row& row
         fail(cause);
     }
     while (row && query.next()) row(query);
+    // A list that breaks off in the middle is no shorter list.
+    const QSqlError broken = query.lastError();
     const int changed = query.numRowsAffected();
     query.finish();
+    if (broken.isValid()) fail(broken.databaseText());
+    if (!query.isSelect() && identity() != identity_)
+        fail(
+            "the file was removed or replaced while Melvora runs; quit Melvora and start it again");
     return changed;
+}
+
+Database::Identity Database::identity() const {
+    struct stat about {};
+    if (stat(QFile::encodeName(path_).constData(), &about) != 0) return {};
+    return {about.st_dev, about.st_ino};
 }
 
 void Database::fail(const QString& cause) const {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <stdexcept>
+#include <utility>
 
 namespace melvora {
 
@@ -32,7 +33,7 @@ class Database {
 
     /// Runs a statement with its values in place of the question marks and hands each row to `row`.
     /// @return number of rows changed
-    /// @throws StoreError
+    /// @throws StoreError also when the file is another one by now: what was written is lost then
     int run(const QString& sql, const QVariantList& values = {}, const Row& row = {});
 
     const QString& path() const { return path_; }
@@ -41,11 +42,17 @@ class Database {
     friend class Transaction;
 
     void open();
+    void checkSchema();
     void makeTables();
     [[noreturn]] void fail(const QString& cause) const;
 
+    /// Tells one file from another that bears its name.
+    using Identity = std::pair<quint64, quint64>;
+    Identity identity() const;
+
     QString path_;
     QString name_;
+    Identity identity_;
     std::map<QString, QSqlQuery> statements_;
 };
 

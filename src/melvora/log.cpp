@@ -33,6 +33,8 @@ void Log::write(LogKind kind, const QString& user, const QString& text) {
         " VALUES ((SELECT COALESCE(MAX(id), 0) + 1 FROM log), ?, ?, ?, ?)",
         {QDateTime::currentDateTime().toString(Qt::ISODateWithMs), user, nameOf(kind),
          shortened(text)});
+    constexpr int often = 1000;
+    if (++written_ >= often) prune();
 }
 
 QList<LogLine> Log::lines(const Filter& filter) const {
@@ -54,8 +56,14 @@ QList<LogLine> Log::lines(const Filter& filter) const {
 }
 
 void Log::prune() {
+    written_ = 0;
     database_.run("DELETE FROM log WHERE id <= (SELECT COALESCE(MAX(id), 0) FROM log) - ?",
                   {mostLines});
+    database_.run(
+        "DELETE FROM log WHERE id <= (SELECT COALESCE(MAX(id), 0) FROM"
+        " (SELECT id, SUM(LENGTH(content)) OVER (ORDER BY id DESC) AS newer FROM log)"
+        " WHERE newer > ?)",
+        {mostText});
 }
 
 }  // namespace melvora

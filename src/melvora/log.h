@@ -23,8 +23,9 @@ class Log {
   public:
     /// A longer text is cut to this many characters, with its full length behind it.
     static constexpr int longestText = 2000;
-    /// The oldest lines beyond this many are dropped by prune().
-    static constexpr int mostLines = 50'000;
+    /// The oldest lines beyond so many, or beyond so many characters in all, are dropped.
+    static constexpr int mostLines = 100'000;
+    static constexpr int mostText = 20'000'000;
 
     struct Filter {
         QString text;                 ///< part of the text or of the user key, in any case
@@ -34,6 +35,7 @@ class Log {
 
     explicit Log(Database& database) : database_(database) {}
 
+    /// Drops the oldest lines from time to time.
     void write(LogKind kind, const QString& user, const QString& text);
     /// Newest first.
     QList<LogLine> lines(const Filter& filter) const;
@@ -41,6 +43,7 @@ class Log {
 
   private:
     Database& database_;
+    int written_ = 0;  ///< lines since the last pruning
 };
 
 }  // namespace melvora

@@ -89,6 +89,9 @@ void choose(Host& host, const Options& options) {
             " is not installed; installed: " + host.words().languages().join(", ").toStdString());
     if (options.user && !host.logIn(*options.user))
         throw UsageError("--user: no user has the key " + options.user->toStdString());
+    if (options.user && *options.user != nobody && host.userKey() != *options.user)
+        throw std::runtime_error("--user: the choice cannot be stored in " +
+                                 host.store().database.path().toStdString());
 }
 
 int serve(const std::string& socket, const Options& options, look::Application& application) {

@@ -50,13 +50,26 @@ bool Requests::answer(const QString& key, const std::optional<core::Value>& argu
         (this->*handler)(*argument, result);
         return true;
     } catch (const Refusal& refusal) {
-        host_.log(LogKind::Error, "refused: " + key.left(40) + ": " + refusal.cause);
+        refuse(key, refusal.cause);
         if (key == "STORE") result = refusal.cause.toStdString();
     } catch (const StoreError& error) {
         host_.tell(error);
         if (key == "STORE") result = error.what();
+    } catch (const std::exception& fault) {
+        host_.tell(fault);
     }
     return false;
+}
+
+/// Told the first, the tenth, the hundredth time ...: a caller that repeats itself fills no log.
+void Requests::refuse(const QString& key, const QString& cause) {
+    const QString what = "refused: " + key.left(40) + ": " + cause;
+    times_ = what == refused_ ? times_ + 1 : 1;
+    refused_ = what;
+    int power = 1;
+    while (power < times_ && power < 1'000'000'000) power *= 10;
+    if (times_ > 1 && times_ != power) return;
+    host_.log(LogKind::Error, times_ == 1 ? what : what + QString(" (%1 times)").arg(times_));
 }
 
 void Requests::app(const core::Value&, core::Value& result) {

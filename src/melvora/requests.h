@@ -58,9 +58,13 @@ class Requests {
     void menue(const core::Value&, core::Value&);
     void raise(const core::Value& argument, core::Value&);
 
+    void refuse(const QString& key, const QString& cause);
+
     Records::Address addressIn(const core::Value& argument) const;
 
     Host& host_;
+    QString refused_;  ///< what was refused last
+    int times_ = 0;    ///< how often, one after the other
 };
 
 }  // namespace melvora

@@ -26,9 +26,7 @@ Server::Server(const std::string& socketPath, Requests& requests)
     if (!server_.isConnected())
         throw std::runtime_error(socketPath +
                                  ": cannot listen: " + server_.lastError().message().toStdString());
-    connect(&server_, &QDBusServer::newConnection, this, [this](QDBusConnection caller) {
-        caller.registerObject(hostlink::objectPath, this, QDBusConnection::ExportAllSlots);
-    });
+    connect(&server_, &QDBusServer::newConnection, this, &Server::takeIn);
     using std::filesystem::perms;
     std::filesystem::permissions(provisional(socketPath), perms::owner_read | perms::owner_write);
     std::filesystem::rename(provisional(socketPath), socketPath);
@@ -37,6 +35,18 @@ Server::Server(const std::string& socketPath, Requests& requests)
 Server::~Server() {
     std::error_code ignored;
     std::filesystem::remove(socketPath_, ignored);
+}
+
+/// The library keeps a connection that has ended until it is told to let go.
+void Server::takeIn(QDBusConnection caller) {
+    callers_.removeIf([](const QString& name) {
+        if (QDBusConnection(name).isConnected()) return false;
+        QDBusConnection::disconnectFromPeer(name);
+        return true;
+    });
+    if (callers_.size() >= mostCallers) return QDBusConnection::disconnectFromPeer(caller.name());
+    callers_.append(caller.name());
+    caller.registerObject(hostlink::objectPath, this, QDBusConnection::ExportAllSlots);
 }
 
 bool Server::Request(const QString& key, const QDBusVariant& argument, const QDBusVariant& standard,

@@ -4,6 +4,7 @@
 #include <QDBusServer>
 #include <QDBusVariant>
 #include <QObject>
+#include <QStringList>
 
 #include <string>
 
@@ -26,7 +27,12 @@ class Server : public QObject {
                  QDBusVariant& result);
 
   private:
+    /// Most callers at a time: the one module, and hosts that hand something over.
+    static constexpr qsizetype mostCallers = 64;
+    void takeIn(QDBusConnection caller);
+
     const std::string socketPath_;
+    QStringList callers_;  ///< names of their connections
     QDBusServer server_;
     Requests& requests_;
 };

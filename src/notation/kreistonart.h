@@ -17,7 +17,10 @@ class KreisTonart final : public engine::Tonart {
     void LaufBeginn() override;
     void Ziehen() override;
     void Toene() override;
-    bool fest() const override { return false; }
+    /// In a written test or exam the keys are those of the bag: a plain draw keeps the last.
+    bool fest() const override {
+        return art_ == Art::Schreiben && z.uebungsmodus > core::modus::fortsetzung;
+    }
 
     /// Fifths of a degree from the first one of the category's base scale; 0 where a category has
     /// no place on the circle.

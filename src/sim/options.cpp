@@ -7,13 +7,19 @@
 
 namespace sim {
 
+namespace {
+
+constexpr int mostTasks = 100'000;
+
+}  // namespace
+
 const char* const helpText = R"(zepha9-sim: the drill without a screen, with a simulated learner
 
   --form NAME          worksheet: arbeitsblatt1 (default), arbeitsblatt4 (a heard scale is written),
                        arbeitsblatt1b, arbeitsblatt4b (music theory: named, written)
   --set FIELD=VALUE    a field of the exercise, for example skal_typ=0, richtung=2, uebungsmodus=1,
                        einzel_wahl=1,-1,2,-2 (chosen scales, negative for descending)
-  --tasks N            leave a run after N tasks; 0 (default): it ends by itself
+  --tasks N            leave a run after N tasks, at most 100,000; 0 (default): it ends by itself
   --runs N             runs, one after the other (default 1)
   --seed N             the same seed gives the same runs (default 1)
   --learner KIND       perfect (default), wrong, random:P (right with chance P), confuse:A:B (takes
@@ -53,6 +59,9 @@ Options parseOptions(std::span<const char* const> arguments) {
             options.assignments.push_back({text.substr(0, equals), text.substr(equals + 1)});
         } else if (option == "--tasks") {
             options.tasks = count(0);
+            if (options.tasks > mostTasks)
+                throw UsageError("--tasks: at most " + std::to_string(mostTasks) +
+                                 ", since a run keeps its whole record in memory; use --runs");
         } else if (option == "--runs") {
             options.runs = count(1);
         } else if (option == "--seed") {

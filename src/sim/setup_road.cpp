@@ -100,7 +100,12 @@ void SetupRoad::go(const std::vector<Assignment>& assignments, const core::Zusta
             choose(form, choice.field, int(wanted.*named(choice.field)->member));
     if (wanted.ska_ausw == 1) chooseScales(form, wanted);
 
-    control<form::Button>(form, "cmdOK").click();
+    auto& ok = control<form::Button>(form, "cmdOK");
+    if (!ok.usable())
+        throw UsageError(
+            "the set-up form refuses this choice of scales: they are too few, or unequal in number "
+            "per direction");
+    ok.click();
     for (const Assignment& assignment : assignments) {
         const auto field = named(assignment.field);
         if (field != all.end() && p.zustand.*field->member != wanted.*field->member)
