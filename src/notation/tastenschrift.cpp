@@ -6,7 +6,7 @@ namespace notation {
 
 namespace {
 
-constexpr int schritt = 4;  // pixels from one place of the staff to the next
+constexpr int platz = 4;  // pixels from one place of the staff to the next
 
 }  // namespace
 
@@ -67,8 +67,8 @@ void Tastenschrift::ablegen(int index) {
     const Grenze& grenze = zeile_.grenze(s);
     // Where the hand lets go does not matter between the limits; on one of them it does.
     const int y =
-        std::max<int>(grenze.hoechste() + schritt,
-                      std::min<int>(grenze.tiefste() - schritt, zeile_.NotSelb(spalte_).y()));
+        std::max<int>(grenze.hoechste() + platz,
+                      std::min<int>(grenze.tiefste() - platz, zeile_.NotSelb(spalte_).y()));
     eingabe_.DragDrop(s, static_cast<i16>(index), static_cast<float>(zeile_.lage().x(spalte_)),
                       static_cast<float>(y));
 }

@@ -34,7 +34,7 @@ const QString prefix = QStringLiteral("melvoralang.");
 }  // namespace
 
 QString LanguageFiles::installedFolder() {
-    const QString set = qEnvironmentVariable("MELVORA_I18N");
+    QString set = qEnvironmentVariable("MELVORA_I18N");
     if (!set.isEmpty()) return set;
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/melvora/i18n");
 }

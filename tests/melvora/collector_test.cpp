@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace melvora {
 namespace {
@@ -65,8 +66,13 @@ TEST_F(CollectorTest, TakesARecordWhenItIsWholeOnceAndClearsItAway) {
 }
 
 TEST_F(CollectorTest, KeepsWhatIsNoRecordAndTellsOfItOnce) {
-    const QByteArray texts[] = {"", "no xml", record.left(record.size() / 2),
-                                "<test><properties programm='ZEPHA9'/></test>"};
+    const QByteArray texts[] = {"",
+                                "no xml",
+                                record.left(record.size() / 2),
+                                "<test><properties programm='ZEPHA9'/></test>",
+                                QString::fromUtf8(record).toLatin1(),
+                                QByteArray(record).replace("utf-8", "ISO-8859-1"),
+                                QByteArray("\xff\xfe") + record};
     const auto name = [](qsizetype i) { return QString("RSX%1.xml").arg(i); };
     for (qsizetype i = 0; i < std::ssize(texts); ++i) put(name(i), texts[i]);
     put("RSX261121120000.xml", record);
@@ -77,6 +83,28 @@ TEST_F(CollectorTest, KeepsWhatIsNoRecordAndTellsOfItOnce) {
     EXPECT_TRUE(collect().unreadable.isEmpty());
     for (qsizetype i = 0; i < std::ssize(texts); ++i) EXPECT_TRUE(QFile::exists(spool(name(i))));
     EXPECT_TRUE(QFile::exists(spool("other.xml")));
+}
+
+/// Whatever lies in the folder, looking at it neither waits nor follows, and nothing is lost.
+TEST_F(CollectorTest, OddThingsAreToldOnceAndStay) {
+    const QByteArray pipe = QFile::encodeName(spool("RSX1.xml"));
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    put("elsewhere", record);
+    QFile::link(spool("RSX1.xml"), spool("RSX2.xml"));
+    QFile::link("/dev/zero", spool("RSX3.xml"));
+    QFile::link(spool("elsewhere"), spool("RSX4.xml"));
+    QDir().mkdir(spool("RSX5.xml"));
+    QFile huge(spool("RSX6.xml"));
+    ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(qint64{65} << 20));
+    put("RSX261121120000.xml.part", record.left(200));
+    EXPECT_EQ(collector_.collect(Collector::When::DuringRun).unreadable.size(), 0);
+    const auto first = collect();
+    EXPECT_EQ(first.taken, 0);
+    EXPECT_EQ(first.unreadable.size(), 7);
+    EXPECT_TRUE(QFile::exists(spool("unfinished-RSX261121120000.xml"))) << "kept aside";
+    EXPECT_TRUE(collect().unreadable.isEmpty());
+    EXPECT_TRUE(QFile::exists(spool("RSX4.xml")));
+    EXPECT_FALSE(QFileInfo(spool("")).permission(QFile::ReadGroup | QFile::ReadOther));
 }
 
 TEST_F(CollectorTest, AFileStaysWhenTheStoreCannotTakeIt) {

@@ -29,6 +29,23 @@ TEST_F(StoreTest, AFolderThatCannotBeUsedIsNamed) {
     EXPECT_EQ(damaged.size(), 8192) << "a file that is no store is left alone";
 }
 
+TEST_F(StoreTest, ADatabaseThatIsNotTheOneItWasIsToldBeforeItCounts) {
+    const QString path = folder_.filePath("melvora.sqlite");
+    {
+        Store store(folder_.path());
+        EXPECT_FALSE(QFileInfo(path).permission(QFile::ReadGroup | QFile::ReadOther));
+        ASSERT_TRUE(QFile::rename(path, path + ".old"));
+        EXPECT_THROW(store.settings.set("midi", "x"), StoreError) << "removed";
+        QFile(path).open(QIODevice::WriteOnly);
+        EXPECT_THROW(store.settings.set("midi", "x"), StoreError) << "replaced";
+    }
+    Store(folder_.path()).database.run("ALTER TABLE users RENAME COLUMN surname TO name");
+    EXPECT_THROW(Store(folder_.path()), StoreError) << "a column is missing";
+    QFile::remove(path);
+    Store(folder_.path()).database.run("PRAGMA user_version = 2");
+    EXPECT_THROW(Store(folder_.path()), StoreError) << "of a newer program";
+}
+
 TEST_F(StoreTest, SettingsOutliveTheProgram) {
     Store(folder_.path()).settings.set("midi", "Klavier „Ä“");
     EXPECT_EQ(Store(folder_.path()).settings.get("midi"), QString("Klavier „Ä“"));
