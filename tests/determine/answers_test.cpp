@@ -22,8 +22,8 @@ TEST(Answers, OnlyTheScalesOfTheRunAreOfferedAsPicturesOrNames) {
         drill.choose({3, -3, 1});  // up and down is one answer
         drill.z.an_zeig = an_zeig;
         const form::Connection made = drill.programm.forms.made.connect([&](form::Form& form) {
-            if (form.name() == "arbeitsblatt1")
-                EXPECT_TRUE(openAnswers(drill).empty()) << "before the run is ready";
+            if (form.name() != "arbeitsblatt1") return;
+            EXPECT_TRUE(openAnswers(drill).empty()) << "before the run is ready";
         });
         drill.run();
         EXPECT_TRUE(openAnswers(drill).empty());
