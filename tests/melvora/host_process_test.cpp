@@ -287,6 +287,13 @@ TEST_F(HostProcess, ASecondHostHandsItsModuleOrFileOn) {
     EXPECT_EQ(host_.state(), QProcess::Running);
 }
 
+TEST_F(HostProcess, AModuleThatHasHandedOverAndDoesNotEndIsEnded) {
+    start({"--start", "zepha9"}, "stay");
+    eventually([this] { return !startedModule().empty(); });
+    eventually([this] { return startedModule().empty(); });
+    EXPECT_EQ(logged().size(), 1) << "nothing went wrong";
+}
+
 TEST_F(HostProcess, AMissingModuleIsToldOfWithItsPath) {
     prepare(host_, {"--start", "zepha9"});
     auto environment = host_.processEnvironment();
