@@ -332,5 +332,6 @@
 <message id="971s"><translation>Das Übungsprogramm „%1“ läuft gerade. Verlassen Sie es zuerst, dann lässt sich diese Datei öffnen: %2</translation></message>
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Unerwarteter Fehler: %1</translation></message>
+<message id="974s"><translation>Ergebnisse können nicht angenommen werden. %1</translation></message>
 </context>
 </TS>

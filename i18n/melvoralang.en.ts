@@ -332,5 +332,6 @@
 <message id="971s"><translation>The program “%1” is running. Leave it first, then this file can be opened: %2</translation></message>
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Unexpected fault: %1</translation></message>
+<message id="974s"><translation>Results cannot be taken in. %1</translation></message>
 </context>
 </TS>

@@ -332,5 +332,6 @@
 <message id="971s"><translation>El programa «%1» está en marcha. Salga primero de él; después podrá abrir este archivo: %2</translation></message>
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Error inesperado: %1</translation></message>
+<message id="974s"><translation>No se pueden recoger los resultados. %1</translation></message>
 </context>
 </TS>

@@ -332,5 +332,6 @@
 <message id="971s"><translation>Le programme « %1 » est en cours. Quittez-le d’abord ; ce fichier pourra ensuite être ouvert : %2</translation></message>
 <message id="972s"><translation>%1 : %2</translation></message>
 <message id="973s"><translation>Erreur inattendue : %1</translation></message>
+<message id="974s"><translation>Les résultats ne peuvent pas être reçus. %1</translation></message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 namespace melvora {
 
@@ -35,9 +36,15 @@ QString fingerprint(const QString& path) {
 }  // namespace
 
 Collector::Collector(QString folder, Results& results)
-    : folder_(std::move(folder)), results_(results) {
+    : folder_(std::move(folder)), results_(results) {}
+
+QString Collector::trouble() const {
     QDir().mkpath(folder_);
+    if (!QFileInfo(folder_).isDir()) return folder_ + ": is no folder";
     closeToOthers(folder_);
+    QTemporaryFile probe(folder_ + "/probeXXXXXX");
+    if (!probe.open() || !probe.remove()) return folder_ + ": " + probe.errorString();
+    return QDir(folder_).isReadable() ? QString() : folder_ + ": cannot be read";
 }
 
 Collector::Harvest Collector::collect(When when) {

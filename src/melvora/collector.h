@@ -18,7 +18,6 @@ class Collector {
         QStringList unreadable;
     };
 
-    /// Makes the folder when it is missing.
     Collector(QString folder, Results& results);
 
     /// While a module runs it may still be writing: an unreadable file is not told of then.
@@ -28,6 +27,10 @@ class Collector {
     /// followed. A file goes only when its content is safely in the store.
     /// @throws StoreError when the store cannot be written; the file is still there then.
     Harvest collect(When when);
+
+    /// Makes the folder anew when it is missing. @return why no result can be taken from there,
+    /// with its path; "" when all is well.
+    QString trouble() const;
 
     const QString& folder() const { return folder_; }
 

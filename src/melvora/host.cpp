@@ -23,7 +23,6 @@ Host::Host(Place place, Words& words)
         emit moduleEnded();
         emit menuWanted();
     });
-    spoolWatcher_.addPath(collector_.folder());
     connect(&spoolWatcher_, &QFileSystemWatcher::directoryChanged, this, &Host::collect);
 }
 
@@ -91,8 +90,16 @@ bool Host::startModule(const QString& module, const QString& settingsFile) {
         return true;
     }
     handedOver_ = false;
+    prepareSpool();
     module_.start(module, arguments, {place_.address, collector_.folder()});
     return true;
+}
+
+void Host::prepareSpool() {
+    const QString trouble = collector_.trouble();
+    if (!trouble.isEmpty() && trouble != spoolTrouble_) notice(words_.wort(974).arg(trouble));
+    spoolTrouble_ = trouble;
+    spoolWatcher_.addPath(collector_.folder());
 }
 
 void Host::takeOver() {

@@ -58,6 +58,8 @@ class Host : public QObject {
     void removeTraining(const Training& training);
     /// Takes result records from the spool folder into the store.
     void collect();
+    /// Makes the spool when it is missing, and tells why it cannot be used.
+    void prepareSpool();
 
     void log(LogKind kind, const QString& text);
     /// Runs what writes to the store. @return false, after telling, when the store fails.
@@ -90,6 +92,7 @@ class Host : public QObject {
     Collector collector_;
     ModuleProcess module_;
     QFileSystemWatcher spoolWatcher_;
+    QString spoolTrouble_;  ///< told last
     std::optional<User> user_;
     QString midiDevice_;
     bool handedOver_ = false;

@@ -109,6 +109,7 @@ int serve(const std::string& socket, const Options& options, look::Application& 
         window.show();
     QTimer::singleShot(0, &host, [&host] {
         host.guarded([&host] { host.store().log.prune(); });
+        host.prepareSpool();
         host.collect();
     });
     const int status = QApplication::exec();

@@ -28,6 +28,8 @@ const QByteArray record = R"(<?xml version="1.0" encoding="utf-8"?>
 
 class CollectorTest : public testing::Test {
   protected:
+    CollectorTest() { EXPECT_EQ(collector_.trouble(), ""); }
+
     void put(const QString& name, const QByteArray& text) {
         QFile file(spool(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -105,6 +107,17 @@ TEST_F(CollectorTest, OddThingsAreToldOnceAndStay) {
     EXPECT_TRUE(collect().unreadable.isEmpty());
     EXPECT_TRUE(QFile::exists(spool("RSX4.xml")));
     EXPECT_FALSE(QFileInfo(spool("")).permission(QFile::ReadGroup | QFile::ReadOther));
+}
+
+TEST_F(CollectorTest, AFolderThatIsNoneIsToldAndOneThatIsMissingIsMade) {
+    QDir(spool("")).removeRecursively();
+    EXPECT_EQ(collector_.trouble(), "");
+    put("RSX261121120000.xml", record);
+    EXPECT_EQ(collect().taken, 1);
+    QDir(spool("")).removeRecursively();
+    QFile file(folder_.filePath("spool"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(collector_.trouble().startsWith(folder_.filePath("spool")));
 }
 
 TEST_F(CollectorTest, AFileStaysWhenTheStoreCannotTakeIt) {
