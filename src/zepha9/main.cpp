@@ -48,8 +48,10 @@ core::Aufruf aufruf(const QStringList& arguments) {
 /// Nothing goes on behind a fault that nobody caught: it is logged, told, and the program ends.
 [[noreturn]] void endWith(core::Programm& program, const std::exception& fault) {
     program.host.HostFehler("uncaught.", fault);
-    program.ports.dialogs.message(form::Icon::Stop, "Melvora 2000",
-                                  core::eingesetzt(program.Wort(895), fault.what()));
+    const std::string what = fault.what();
+    program.ports.dialogs.message(
+        form::Icon::Stop, "Melvora 2000",
+        program.worte.hatSprache() ? core::eingesetzt(program.Wort(895), what) : what);
     std::_Exit(3);
 }
 
