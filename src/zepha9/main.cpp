@@ -43,8 +43,6 @@ core::Aufruf aufruf(const QStringList& arguments) {
             .pruefEdit = arguments.contains(QStringLiteral("--teacher"))};
 }
 
-}  // namespace
-
 /// Nothing goes on behind a fault that nobody caught: it is logged, told, and the program ends.
 [[noreturn]] void endWith(core::Programm& program, const std::exception& fault) {
     program.host.HostFehler("uncaught.", fault);
@@ -54,6 +52,8 @@ core::Aufruf aufruf(const QStringList& arguments) {
         program.worte.hatSprache() ? core::eingesetzt(program.Wort(895), what) : what);
     std::_Exit(3);
 }
+
+}  // namespace
 
 int main(int argc, char** argv) {
     const std::jthread fonts = look::readFontsAhead();
