@@ -118,6 +118,7 @@ QWidget* scrolled(QWidget* contents, QWidget& window) {
     scroll->setWidget(contents);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    QObject::connect(&window, &QWidget::windowTitleChanged, scroll, &QWidget::setAccessibleName);
     return scroll;
 }
 
