@@ -33,7 +33,7 @@ std::string libraryDefault() {
     char* name = nullptr;
     if (fluid_settings_dupstr(settings.get(), "synth.default-soundfont", &name) == FLUID_FAILED)
         return "";
-    const std::string file = name ? name : "";
+    std::string file = name ? name : "";
     fluid_free(name);
     return file;
 }
@@ -61,7 +61,7 @@ SynthOptions SynthOptions::fromEnvironment() {
 
 std::string findSoundfont(const std::string& wanted) {
     if (!wanted.empty()) return isSoundfont(wanted) ? wanted : "";
-    if (const std::string file = libraryDefault(); isSoundfont(file)) return file;
+    if (std::string file = libraryDefault(); isSoundfont(file)) return file;
     for (const char* folder :
          {"/usr/share/sounds/sf2", "/usr/share/sounds/sf3", "/usr/share/soundfonts"}) {
         const auto fonts = fontsIn(folder);
