@@ -111,7 +111,7 @@ TEST_F(Leaving, OnlyAFaultThatTheRunCannotBearEndsIt) {
     EXPECT_EQ(run.sheet().pointer(), form::Pointer::Arrow);
     run.on<form::Picture>("ton_art", run.z.skala_nr).click();
     EXPECT_EQ(run.sheet().aufgZustand(), AufgZustand::Geschlossen) << "the run goes on";
-    run.z.skal_typ = 99;  // nothing can be drawn of it
+    run.z.tempoIdx = 99;  // the task cannot be played
     run.on<form::Button>("CmdNextAufg").click();
     run.loop.advance(500);
     EXPECT_FALSE(run.there());

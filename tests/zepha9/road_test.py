@@ -164,7 +164,7 @@ class Road(unittest.TestCase):
     def choose(self, theory, write):
         """From the start form to the set-up form of a branch and kind: its window, its kind."""
         start = self.window("Scales: Basic settings")
-        for wanted, x in ((theory, 104), (write, 328)):
+        for wanted, x in ((theory, 104), (write, 370)):
             self.tool("mousemove", "--window", start, str(x), "224" if wanted else "192", "click", "1")
             time.sleep(0.2)
         self.key("Return")
