@@ -38,15 +38,6 @@ const QScrollArea* scrollerOf(const QWidget& widget) {
     return nullptr;
 }
 
-}  // namespace
-
-void keepPicture(QWidget& window, const std::string& name) {
-    const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
-    if (folder.isEmpty()) return;
-    QDir().mkpath(folder);
-    window.grab().save(folder + '/' + QString::fromStdString(name) + ".png");
-}
-
 void expectReadable(QWidget& window) {
     SCOPED_TRACE(window.objectName().toStdString());
     std::vector<QWidget*> seen;
@@ -74,6 +65,8 @@ void expectReadable(QWidget& window) {
     EXPECT_GT(seen.size(), 5U);
 }
 
+}  // namespace
+
 void lookAt(Stage& stage, const std::string& form, const std::string& picture) {
     static const qt::QtHelp help;  // brings the pages
     EXPECT_TRUE(QFile::exists(QString(":/help/de/%1.html").arg(form.c_str()))) << form;
@@ -87,6 +80,9 @@ void lookAt(Stage& stage, const std::string& form, const std::string& picture) {
         EXPECT_LE(window.minimumSizeHint().width(), 1000);
         EXPECT_LE(window.minimumSizeHint().height(), 700);
         expectReadable(window);
-        keepPicture(window, picture + "-" + name);
+        const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
+        if (folder.isEmpty()) continue;
+        QDir().mkpath(folder);
+        window.grab().save(folder + QString::fromStdString("/" + picture + "-" + name + ".png"));
     }
 }

@@ -1,18 +1,16 @@
 #include "stage.h"
 
-#include "engine/arbeitsblatt.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 
 #include <filesystem>
 
-Stage::Stage(const std::string& language, std::int64_t seed)
+Stage::Stage(const std::string& language)
     : WholeDrill(host,
                  {.tempOrdner = std::filesystem::temp_directory_path().string(),
                   .rechnername = "practice-room-3",
                   .programmOrdner = (qt::LanguageFiles::installedFolder() + "/..").toStdString()},
-                 seed, &languages),
+                 1, &languages),
       windows(drill.programm.forms) {
     host.language = language;
     drill.programm.forms.load("grd_einst");
@@ -35,13 +33,13 @@ void Stage::openSetup(bool theory, int type) {
 }
 
 void Stage::openWorksheet() {
-    control<form::Button>(setup_, "cmdOK").click();
+    button("cmdOK").click();
     wait(10);
 }
 
 void Stage::next() {
-    on<form::Button>("CmdNextAufg").click();
-    wait(22000);
+    WholeDrill::next();
+    wait(0);
 }
 
 bool Stage::task(bool right) {
@@ -50,13 +48,12 @@ bool Stage::task(bool right) {
         answerRight();
     else
         while (answerWrong()) continue;
-    return static_cast<engine::Arbeitsblatt&>(form(sheet_)).aufgZustand() ==
-           engine::AufgZustand::Geschlossen;
+    return turn() == engine::AufgZustand::Geschlossen;
 }
 
 void Stage::leave() {
-    on<form::Panel>("zurueck").click();
-    wait(500);
+    WholeDrill::leave();
+    wait(0);
 }
 
 void Stage::press(QWidget& widget, Qt::Key key) {

@@ -14,7 +14,7 @@ struct WithLanguages {
 
 /// The whole drill with real windows under virtual time: forms open and close as fast as they can.
 struct Stage : support::WithHost, WithLanguages, support::WholeDrill {
-    explicit Stage(const std::string& language = "Deutsch", std::int64_t seed = 1);
+    explicit Stage(const std::string& language = "Deutsch");
     ~Stage();
 
     QWidget& window(const std::string& form) const;

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
@@ -28,34 +27,25 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
         const auto look = [&](const std::string& form, const std::string& picture) {
             lookAt(stage, form, language + picture);
         };
-        const auto combo = [&](const std::string& name, int index) {
-            stage.control<form::Combo>("einstellung1", name).setListIndex(index);
-        };
-        const auto option = [&](const std::string& name, int index) {
-            stage.control<form::Option>("einstellung1", name, index).choose();
-        };
-        const auto pick = [&](int item) {
-            stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(item);
-        };
         look("grd_einst", "-1-start");
         stage.openSetup();
         look("einstellung1", "-2-setup");
-        combo("training_Combo", 4);
+        stage.combo("training_Combo").setListIndex(4);
         look("einstellung1", "-3-exam");
-        combo("training_Combo", 1);
-        option("ska_ausw", 1);
-        for (const int item : {4, 4, 0}) pick(item);
+        stage.combo("training_Combo").setListIndex(1);
+        stage.option("ska_ausw", 1).choose();
+        for (const int item : {4, 4, 0}) stage.list(0).click(item);
         look("einstellung1", "-8-chosen");
-        option("ska_ausw", 0);
+        stage.option("ska_ausw", 0).choose();
         for (const char* dialog : {"frmSave", "frmLoad"}) {
             stage.drill.programm.forms.load(dialog);
             look(dialog, std::string("-9-") + dialog);
             stage.drill.programm.forms.unload(dialog);
         }
-        combo("skal_typ_cmb", 6);
-        combo("Combo_richtung", 2);
-        option("ska_ausw", 1);
-        for (int chosen = 0; chosen < 15; ++chosen) pick(0);
+        stage.combo("skal_typ_cmb").setListIndex(6);
+        stage.combo("Combo_richtung").setListIndex(2);
+        stage.option("ska_ausw", 1).choose();
+        for (int chosen = 0; chosen < 15; ++chosen) stage.list(0).click(0);
         look("einstellung1", "-8-fifteen");
         stage.openWorksheet();
         stage.task(true);
@@ -68,21 +58,21 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
         EXPECT_TRUE(stage.window("einstellung1").isVisible());
         EXPECT_FALSE(stage.loaded("arbeitsblatt1"));
 
-        option("ska_ausw", 0);
-        combo("skal_typ_cmb", 3);
-        option("an_zeig", 1);
-        combo("training_Combo", 3);
+        stage.option("ska_ausw", 0).choose();
+        stage.combo("skal_typ_cmb").setListIndex(3);
+        stage.option("an_zeig", 1).choose();
+        stage.combo("training_Combo").setListIndex(3);
         stage.openWorksheet();
         stage.wait(15000);
         look("arbeitsblatt1", "-7-names");
         if (language != "Deutsch") continue;
         stage.leave();
-        combo("training_Combo", 0);
-        option("abfrage", 0);
+        stage.combo("training_Combo").setListIndex(0);
+        stage.option("abfrage", 0).choose();
         for (int typ = 0; typ < 7; ++typ) {
-            combo("skal_typ_cmb", typ);
-            option("an_zeig", 0);
-            option("final", typ % 2 == 0 ? 1 : 2);
+            stage.combo("skal_typ_cmb").setListIndex(typ);
+            stage.option("an_zeig", 0).choose();
+            stage.option("final", typ % 2 == 0 ? 1 : 2).choose();
             stage.openWorksheet();
             stage.task(true);
             look("arbeitsblatt1", "-pictures-" + std::to_string(typ));
@@ -119,7 +109,7 @@ TEST(Windows, TheWholeRoadByKeyboard) {
 TEST(Windows, ScalesAreChosenByKeyboard) {
     Stage stage;
     stage.openSetup();
-    stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+    stage.option("ska_ausw", 1).click();
     auto& offered = stage.widget<QListWidget>("einstellung1", "lst_ska_0");
     auto& chosen = stage.widget<QListWidget>("einstellung1", "lst_ska_1");
     offered.setFocus();
@@ -148,10 +138,10 @@ TEST(Windows, WidgetsTellTheFormAndFollowIt) {
     other.click();
     EXPECT_EQ(stage.z.final, 1);
     EXPECT_FALSE(one.isChecked());
-    stage.control<form::Option>("einstellung1", "final", 2).choose();
+    stage.option("final", 2).choose();
     EXPECT_TRUE(one.isChecked());
     EXPECT_FALSE(other.isChecked());
-    stage.control<form::Combo>("einstellung1", "CmbOktAnz").setListIndex(3);
+    stage.combo("CmbOktAnz").setListIndex(3);
     EXPECT_EQ(stage.widget<QComboBox>("einstellung1", "CmbOktBer").count(), 1);
     stage.window("einstellung1").close();
     EXPECT_TRUE(stage.window("grd_einst").isVisible()) << "the close box is the way back";
@@ -192,10 +182,10 @@ TEST(Boxes, SpeakTheLanguageOfTheProgram) {
             for (const auto* button : box->buttons()) captions << button->text();
             captions.sort();
             EXPECT_EQ(captions, QStringList({"No", "Sí"}));
-            QKeyEvent press(QEvent::KeyPress, yes ? Qt::Key_Return : Qt::Key_Escape,
-                            Qt::NoModifier);
-            QApplication::sendEvent(yes ? static_cast<QWidget*>(box->defaultButton()) : box,
-                                    &press);
+            if (yes)
+                Stage::press(*box->defaultButton(), Qt::Key_Return);
+            else
+                Stage::press(*box, Qt::Key_Escape);
         });
         EXPECT_EQ(dialogs.askYesNo("title", "text"), yes);
     }
@@ -222,11 +212,10 @@ TEST(Application, CatchesWhatNoHandlerCaught) {
 TEST(Printing, TheResultFormFillsOneLandscapePage) {
     Stage stage;
     stage.openSetup();
-    stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);
+    stage.combo("training_Combo").setListIndex(1);
     stage.openWorksheet();
-    QTemporaryDir folder;
-    const QString kept = qEnvironmentVariable("MELVORA_SCREENSHOTS");
-    const QString file = (kept.isEmpty() ? folder.path() : kept) + "/result.pdf";
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("result.pdf");
     stage.whenResult([&] {
         stage.control<form::Button>("testergebnis", "cmdPrint").click();
         EXPECT_EQ(stage.printer.pages, std::vector<std::string>{"testergebnis"});

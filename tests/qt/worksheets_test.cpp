@@ -44,7 +44,7 @@ TEST(Worksheets, AreReadableInEveryLanguageAndSize) {
             lose(stage);
             look(stage.sheet(), "-c-solution-");
             stage.leave();
-            stage.control<form::Button>(stage.setup(), "cmdZurueck").click();
+            stage.button("cmdZurueck").click();
             stage.wait(50);
         }
         stage.openSetup(true, 1);
@@ -83,7 +83,7 @@ TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
     EXPECT_NE(staff.accessibleDescription().indexOf(QRegularExpression("flat|sharp")), -1);
     stage.press(stage.sheet(), Qt::Key_Return);
     EXPECT_EQ(sheet.aufgZustand(), AufgZustand::Geschlossen);
-    EXPECT_EQ(stage.on<form::Label>("zaehler", 0).caption(), "1");
+    EXPECT_EQ(stage.shown("zaehler", 0), "1");
     const auto before = sheet.notenzeile().NotSelb(1).midi;
     press(Qt::Key_Up);
     EXPECT_EQ(sheet.notenzeile().NotSelb(1).midi, before) << "a closed task stands";

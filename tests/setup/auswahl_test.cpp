@@ -27,7 +27,7 @@ TEST_F(SetUp, TheListsHoldWhatTheDirectionsAllow) {
         option("ska_ausw", 1).click();
         EXPECT_EQ(list(0).count(), row.count);
         EXPECT_EQ(list(0).item(row.item).text, row.text);
-        EXPECT_FALSE(usable("skal_typ_cmb", form::Place::noIndex));
+        EXPECT_FALSE(usable("skal_typ_cmb"));
         EXPECT_FALSE(button("cmdOK").enabled());
     }
 }

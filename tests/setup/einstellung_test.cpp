@@ -76,15 +76,16 @@ TEST_F(SetUp, TheRecapTellsWhatWillBeRun) {
     combo("skal_typ_cmb").setListIndex(2);
     z.an_zeig = 1;  // stored by an earlier opening; the control shows another
     begin();
-    EXPECT_EQ(z.einst_liste.front(), std::to_string(z.einst_liste.size() - 1));
+    const auto& list = z.einst_liste;
+    EXPECT_EQ(list.front(), std::to_string(list.size() - 1));
+    std::map<std::string, std::string> recap;
+    for (std::size_t i = 1; i + 1 < list.size(); i += 2) recap[list[i]] = list[i + 1];
+    EXPECT_FALSE(recap.contains("Einzel-Auswahl Anzahl"));
     for (const auto& [label, value] : {std::pair{"Nr.:", "W426 1"},
-                                       {"Tempo", "80 (Adagio)"},
                                        {"Frequenz", "fest (a1440 Hz)"},
                                        {"Anzeige", "W157"},
-                                       {"Vz/Finalis", "W299"},
-                                       {"Ska-Richtung", "W132"},
-                                       {"Einzel-Auswahl Anzahl", "-"}})
-        EXPECT_EQ(recap(label), value) << label;
+                                       {"Vz/Finalis", "W299"}})
+        EXPECT_EQ(recap[label], value) << label;
     EXPECT_EQ(host.log.back(), "zepha9; prfNr=1");
     EXPECT_TRUE(running());
     EXPECT_FALSE(setUp().visible());

@@ -21,23 +21,12 @@ class Mutator {
     explicit Mutator(std::int64_t seed) : chance_(seed) {}
 
     std::string text(std::string bytes) {
-        static const std::vector<std::string> nasty{"<control>",
-                                                    "</control>",
-                                                    "&a;",
-                                                    "\xff",
-                                                    std::string(1, '\0'),
-                                                    "-1",
-                                                    "99999",
-                                                    "<!DOCTYPE a [<!ENTITY a \"&a;&a;\">]>",
-                                                    "<![CDATA[",
-                                                    "<index>",
-                                                    "<value>True</value>",
-                                                    std::string(3000, '<'),
-                                                    std::string(40000, '9'),
-                                                    "<?xml version=\"1.0\" encoding=\"utf-16\"?>"};
+        static const std::vector<std::string> nasty{
+            "<control>", "</control>", "<!DOCTYPE a>", "<![CDATA[", "<index>", "True",
+            "&a;",       "\xff",       "-1",           "99999",     "<!--",    "<?xml?>"};
         for (int n = below(6); n >= 0; --n) {
             const auto at = below(bytes.size() + 1), length = below(60UL);
-            switch (below(5)) {
+            switch (below(6)) {
                 case 0:
                     if (at < bytes.size()) bytes[at] = static_cast<char>(below(256));
                     break;
@@ -49,6 +38,9 @@ class Mutator {
                     break;
                 case 3:
                     bytes.insert(at, nasty[below(nasty.size())]);
+                    break;
+                case 4:
+                    bytes.insert(at, 40000, "<9"[below(2)]);
                     break;
                 default:
                     bytes.resize(at);

@@ -1,5 +1,6 @@
 #pragma once
 #include "drill/drill.h"
+#include "engine/arbeitsblatt.h"
 #include "form/controls.h"
 #include "form/virtual_time.h"
 #include "support/fake_host.h"
@@ -8,6 +9,7 @@
 #include "support/recording_midi.h"
 
 #include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
 
@@ -69,7 +71,41 @@ struct WholeDrill {
         });
     }
 
-    /// A control of the worksheet at work.
+    // The set-up form.
+    form::Form& setUp() const { return form(setup_); }
+    template <class C>
+    C& get(const std::string& name, int index = form::Place::noIndex,
+           const std::string& formName = "") const {
+        return control<C>(formName.empty() ? setup_ : formName, name, index);
+    }
+    form::Option& option(const std::string& name, int index) {
+        return get<form::Option>(name, index);
+    }
+    form::Combo& combo(const std::string& name) { return get<form::Combo>(name); }
+    form::Button& button(const std::string& name) { return get<form::Button>(name); }
+    form::ListBox& list(int index) { return get<form::ListBox>("lst_ska", index); }
+    form::Group& group(int index) { return get<form::Group>("grdeinst", index); }
+    bool usable(const std::string& name, int index = form::Place::noIndex) {
+        return get<form::Control>(name, index).usable();
+    }
+    /// Opens the lists and moves the items of these scale codes from those on offer.
+    void pick(std::initializer_list<int> codes) {
+        option("ska_ausw", 1).click();
+        for (const int code : codes) {
+            int i = 0;
+            while (i < list(0).count() && list(0).item(i).data != code) ++i;
+            list(0).click(i);
+        }
+    }
+    /// What the third mode says: whether a saved training is offered.
+    std::string offered() { return combo("training_Combo").item(2).text; }
+    void mode(int index) { combo("training_Combo").setListIndex(index); }
+    void begin() {
+        button("cmdOK").click();
+        loop.advance(50);
+    }
+
+    // The worksheet.
     template <class C>
     C& on(const std::string& name, int index = form::Place::noIndex) const {
         return control<C>(sheet_, name, index);
@@ -93,6 +129,41 @@ struct WholeDrill {
         for (int i = 0; i <= z.skal_anz; ++i)
             if (i != z.skala_nr && answer(i)) return true;
         return false;
+    }
+    bool running() const { return loaded(sheet_); }
+    template <class Sheet = engine::Arbeitsblatt>
+    Sheet& sheet() {
+        return dynamic_cast<Sheet&>(form(sheet_));
+    }
+    engine::AufgZustand turn() { return sheet().aufgZustand(); }
+    std::string shown(const std::string& label, int index = form::Place::noIndex) {
+        return on<form::Label>(label, index).caption();
+    }
+    bool ready() {
+        return sheet_.starts_with("arbeitsblatt4") ? on<form::Button>("cmdOK").usable()
+                                                   : open(z.skala_nr);
+    }
+    /// Goes to the next task, unless it comes by itself, and waits until it is ready.
+    void next() {
+        if (z.abfrage == 0) on<form::Button>("CmdNextAufg").click();
+        for (int i = 0; i < 300 && (i == 0 || !ready()); ++i) loop.advance(100);
+    }
+    /// A scale to be named, once wrong before or not.
+    void task(bool right) {
+        next();
+        if (!right) answerWrong();
+        answerRight();
+        loop.advance(100);
+    }
+    void leave(bool keep = false) {
+        dialogs.answers = {keep};
+        on<form::Panel>("zurueck").click();
+        loop.advance(500);
+    }
+    std::map<int, int> weights() const {
+        std::map<int, int> all;
+        for (int i = 1; i <= z.potSkala; ++i) all[z.mathaeufgk_box(i, 0)] = z.mathaeufgk_box(i, 1);
+        return all;
     }
 
     form::VirtualTime loop;
