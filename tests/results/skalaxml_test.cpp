@@ -1,20 +1,12 @@
+#include "base/whole_file.h"
 #include "support/drill_fixture.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
 
 namespace results {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string content(const fs::path& path) {
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
 
 TEST(Record, IsOneFileASecondOfTheLastRunWithItsSettingsMasked) {
     support::DrillFixture drill;
@@ -29,7 +21,7 @@ TEST(Record, IsOneFileASecondOfTheLastRunWithItsSettingsMasked) {
     const fs::path file = xml.datei();
     EXPECT_EQ(file.filename(), "RSX260102100000.xml");
     EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 1);
-    const std::string text = content(file);
+    const std::string text = base::readWhole(file, 1 << 20);
     EXPECT_NE(text.find("timestamp=\"02.01.2026 10:01:01\""), std::string::npos) << "of its end";
     EXPECT_EQ(text.substr(text.find("\t<settings>")), R"(	<settings>
 		<setting key="Tempo &lt;schnell" value="&quot;60&quot; &amp; größer" />

@@ -7,12 +7,16 @@ namespace {
 
 TEST_F(SetUp, AChoiceIsStoredEveryTimeAndHasConsequencesOnce) {
     option("abfolge", 1).click();
+    EXPECT_EQ(z.richtung, 0) << "a melody has no direction";
+    EXPECT_FALSE(combo("Combo_richtung").visible());
     option("final", 0).click();
     z.an_zeig = z.stimmung = 1;  // stored by an earlier opening; the controls show others
     combo("skal_typ_cmb").setListIndex(6);
     EXPECT_EQ(z.an_zeig, 0);
     EXPECT_EQ(z.stimmung, 0);
     EXPECT_EQ(z.abfolge, 0);
+    EXPECT_EQ(z.richtung, 2) << "both directions again";
+    EXPECT_TRUE(combo("Combo_richtung").visible());
     EXPECT_EQ(z.final, 1);
     for (const auto& [name, index] :
          {std::pair{"an_zeig", 1}, {"stimm_g", 1}, {"abfolge", 1}, {"final", 0}})
@@ -28,15 +32,6 @@ TEST_F(SetUp, AChoiceIsStoredEveryTimeAndHasConsequencesOnce) {
     option("ska_ausw", 1).click();
     EXPECT_EQ(z.ska_ausw, 1);
     EXPECT_EQ(list(1).count(), 2) << "what was picked stays";
-}
-
-TEST_F(SetUp, AMelodyHasNoDirection) {
-    option("abfolge", 1).click();
-    EXPECT_EQ(z.richtung, 0);
-    EXPECT_FALSE(combo("Combo_richtung").visible());
-    option("abfolge", 0).click();
-    EXPECT_EQ(z.richtung, 2) << "not what it was, but both";
-    EXPECT_TRUE(combo("Combo_richtung").visible());
 }
 
 TEST_F(OnHost, TheRangeOffersWhatItsSizeLeaves) {

@@ -3,8 +3,8 @@
 
 #include "base/whole_file.h"
 #include "setup/set_up.h"
+#include "sim/temp_folder.h"
 
-#include <filesystem>
 #include <fstream>
 
 namespace setup::test {
@@ -15,19 +15,13 @@ namespace fs = std::filesystem;
 
 /// The set-up form of a teacher, and a folder for its files.
 struct Datei : OnHost {
-    fs::path folder = fs::path(::testing::TempDir()) / "settings_test";
+    const sim::TempFolder temporary;
+    const fs::path folder = temporary.path();
     Practice teacher{host,
                      {.tempOrdner = "/nowhere",
                       .stueckeOrdner = (folder / "Stuecke_Files").string(),
                       .pruefEdit = true}};
 
-    Datei() { fs::create_directories(folder); }
-    ~Datei() override { fs::remove_all(folder); }
-
-    void mark(int group) {
-        teacher.group(group).context();
-        teacher.get<form::MenuEntry>("popExamToggle").click();
-    }
     std::string text() { return EinstellungenText(teacher.setUp(), 1, "für ♭"); }
     void press(const char* form, const char* button) {
         teacher.control<form::Button>(form, button).click();
@@ -47,7 +41,7 @@ struct Datei : OnHost {
 };
 
 TEST_F(Datei, HoldsTheMarkedChoicesInTheOrderOfTheForm) {
-    for (const int group : {3, 1, 1}) mark(group);
+    for (const int group : {3, 1, 1}) teacher.mark(group);
     EXPECT_EQ(teacher.group(3).backColour(), base::rgb(128, 255, 128));
     EXPECT_EQ(teacher.group(1).backColour(), base::rgb(255, 255, 192)) << "the mark is off again";
     teacher.option("stimm_g", 2).click();
@@ -60,7 +54,7 @@ TEST_F(Datei, HoldsTheMarkedChoicesInTheOrderOfTheForm) {
               "    <control title=\"Stimmung\">\r\n      <cname>stimm_g</cname>\r\n"
               "      <index>2</index>\r\n      <value text=\"W401\">True</value>\r\n"
               "    </control>\r\n  </setting>\r\n</test>\r\n");
-    mark(10);
+    teacher.mark(10);
     teacher.pick({4});
     EXPECT_NE(text().find("  <setting>\r\n    <control title=\"Skalen ausgew\xe4hlt\">\r\n"
                           "      <cname>lst_ska</cname>\r\n      <index>1</index>\r\n"
@@ -69,7 +63,7 @@ TEST_F(Datei, HoldsTheMarkedChoicesInTheOrderOfTheForm) {
 }
 
 TEST_F(Datei, ReadBackOnAnotherMachineItSetsAndLocks) {
-    for (const int group : {0, 1, 2, 3, 4, 5, 7, 11, 15}) mark(group);
+    for (const int group : {0, 1, 2, 3, 4, 5, 7, 11, 15}) teacher.mark(group);
     teacher.combo("skal_typ_cmb").setListIndex(1);
     teacher.combo("temp_Combo").setListIndex(6);
     teacher.option("stimm_g", 1).click();
@@ -83,13 +77,10 @@ TEST_F(Datei, ReadBackOnAnotherMachineItSetsAndLocks) {
               "W841|" + (folder / "Stuecke_Files" / "VESHNA_Set_XX.mvs").string());
 
     Practice pupil(host, {.tempOrdner = "/nowhere", .startdatei = file.string()});
-    for (const auto& [mine, his] : {std::pair{&pupil.z.skal_typ, &teacher.z.skal_typ},
-                                    {&pupil.z.tempoIdx, &teacher.z.tempoIdx},
-                                    {&pupil.z.stimmung, &teacher.z.stimmung},
-                                    {&pupil.z.final, &teacher.z.final},
-                                    {&pupil.z.abfolge, &teacher.z.abfolge},
-                                    {&pupil.z.FrquMinAkt, &teacher.z.FrquMinAkt}})
-        EXPECT_EQ(*mine, *his);
+    using Z = core::Zustand;
+    for (const auto field : {&Z::skal_typ, &Z::tempoIdx, &Z::stimmung, &Z::final, &Z::abfolge,
+                             &Z::FrquMinAkt, &Z::FrquMaxAkt})
+        EXPECT_EQ(pupil.z.*field, teacher.z.*field);
     for (const int i : {0, 1, 2, 3, 4, 5, 7, 11, 15}) {
         EXPECT_FALSE(pupil.group(i).enabled()) << i;
         EXPECT_EQ(pupil.group(i).backColour(), base::rgb(255, 192, 192));

@@ -112,7 +112,7 @@ TEST_F(Fortsetzung, ARecordThatDoesNotFitIsRefusedAsAWhole) {
         {"too long", [](auto& a) { a.resize(a.size() + 6, "1"); }},
         {"no such scale", [](auto& a) { a[1] = "9"; }},
         {"scale 0", [](auto& a) { a[1] = "0"; }},
-        {"a scale twice", [](auto& a) { a[1] = a[2]; }},
+        {"a scale twice", [](auto& a) { a[1] = a[2], a[13] = a[17]; }},
         {"no number", [](auto& a) { a[8] = "x"; }},
         {"beyond 16 bits", [](auto& a) { a[8] = "70000"; }},
         {"nothing left to train", [](auto& a) { std::fill_n(a.begin() + 7, 6, "-3"); }},

@@ -86,10 +86,7 @@ void expectInRange(const core::Zustand& z) {
 std::string honestFile() {
     support::FakeHost host;
     Practice teacher(host, {.tempOrdner = "/tmp", .pruefEdit = true});
-    for (const int group : {0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 15}) {
-        teacher.group(group).context();
-        teacher.get<form::MenuEntry>("popExamToggle").click();
-    }
+    for (const int group : {0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 15}) teacher.mark(group);
     teacher.pick({1, -1, 2, -2});
     return EinstellungenText(teacher.setUp(), 1, "honest");
 }

@@ -88,6 +88,11 @@ struct WholeDrill {
     bool usable(const std::string& name, int index = form::Place::noIndex) {
         return get<form::Control>(name, index).usable();
     }
+    /// Marks a group for a settings file, or no more.
+    void mark(int index) {
+        group(index).context();
+        get<form::MenuEntry>("popExamToggle").click();
+    }
     /// Opens the lists and moves the items of these scale codes from those on offer.
     void pick(std::initializer_list<int> codes) {
         option("ska_ausw", 1).click();
