@@ -71,7 +71,7 @@ void lookAt(Stage& stage, const std::string& form, const std::string& picture) {
     static const qt::QtHelp help;  // brings the pages
     EXPECT_TRUE(QFile::exists(QString(":/help/de/%1.html").arg(form.c_str()))) << form;
     for (const auto& [name, size] : sizes) {
-        SCOPED_TRACE(picture + " " + name);
+        SCOPED_TRACE(testing::Message() << picture << " " << name);
         QWidget& window = stage.window(form);
         ASSERT_TRUE(window.isVisible());
         const bool small = form == "grd_einst" || form == "frmSave" || form == "frmLoad";
@@ -83,6 +83,6 @@ void lookAt(Stage& stage, const std::string& form, const std::string& picture) {
         const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
         if (folder.isEmpty()) continue;
         QDir().mkpath(folder);
-        window.grab().save(folder + QString::fromStdString("/" + picture + "-" + name + ".png"));
+        window.grab().save(QString("%1/%2-%3.png").arg(folder, picture.c_str(), name.c_str()));
     }
 }

@@ -23,7 +23,7 @@ struct Fortsetzung : OnHost {
         first.mode(1);
         first.begin();
         for (const bool right : {true, false, true, false}) first.task(right);
-        const auto weights = first.weights();
+        auto weights = first.weights();
         first.leave(true);
         EXPECT_EQ(first.dialogs.questions.back(), "W8|W495");
         EXPECT_EQ(first.offered(), "W565") << "offered at once";

@@ -21,8 +21,7 @@ DrillFixture::DrillFixture(std::int64_t seed)
     programm.worte.SprachenLaden();
     programm.worte.SpracheSetzen("Deutsch");
     programm.katalog.KatalogInit(programm.worte);
-    for (int i = 0; i < z.tempo_dauer.size(); ++i)
-        z.tempo_dauer[i] = core::katalog::tempo_dauer[static_cast<std::size_t>(i)];
+    for (int i = 0; const int dauer : core::katalog::tempo_dauer) z.tempo_dauer[i++] = dauer;
     z.einst_liste = {"4", "Tempo", "60", "Tonraum", "2"};
     z.an_zeig = 1;
     drill.midi.MidiGeraete(midi);

@@ -27,7 +27,7 @@ struct DrillFixture : WithHost, private sim::TempFolder, WholeDrill {
     /// Milliseconds that pass.
     void wait(std::int64_t milliseconds) { loop.advance(milliseconds); }
     /// Clicks a panel or button of the worksheet.
-    void click(const std::string& control);
+    void click(const std::string& name);
     /// Presses the result form's button as soon as it comes.
     void dismissResults();
 

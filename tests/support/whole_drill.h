@@ -57,7 +57,7 @@ struct WholeDrill {
         control<form::Button>("grd_einst", "cmdOK").click();
     }
     /// Calls `look` as soon as the result form can be seen, then closes it.
-    void whenResult(std::function<void()> look) {
+    void whenResult(const std::function<void()>& look) {
         made_ = drill.programm.forms.made.connect([this, look](form::Form& result) {
             if (result.name() != "testergebnis") return;
             shown_ = result.changed.connect([this, look, &result] {
