@@ -17,7 +17,7 @@ struct Stage : support::WithHost, WithLanguages, support::WholeDrill {
     explicit Stage(const std::string& language = "Deutsch");
     ~Stage();
 
-    QWidget& window(const std::string& form) const;
+    QWidget& window(const std::string& name) const;
     template <class W>
     W& widget(const std::string& form, const std::string& id) const {
         return *window(form).findChild<W*>(QString::fromStdString(id));
