@@ -34,8 +34,8 @@ constexpr const char* uses[] = {
     "SELECT user_key, surname, first_name, matriculation FROM users LIMIT 0",
     "SELECT user_key, executable, record_key, content, stored_at FROM records LIMIT 0",
     "SELECT id, logged_at, user_key, kind, content FROM log LIMIT 0",
-    "SELECT id, started_at, user_key, exercise, right_first, answered, file_name, digest, content"
-    " FROM results LIMIT 0",
+    "SELECT id, started_at, user_key, exercise, right_first, answered FROM results LIMIT 0",
+    "SELECT file_name, digest, content FROM results LIMIT 0",
 };
 /// Grows when a program of this version could not use the tables of the next.
 constexpr int schema = 1;

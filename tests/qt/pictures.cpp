@@ -1,9 +1,12 @@
 #include "pictures.h"
 
+#include "qt/help.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QScrollArea>
 
@@ -11,18 +14,14 @@
 
 namespace {
 
-struct Size {
-    const char* name;
-    QSize size;
-};
 /// What a window gets of a small and of a large screen.
-const std::vector<Size> sizes{{"1024x768", {1000, 700}}, {"2560x1440", {2560, 1400}}};
+const std::vector<std::pair<std::string, QSize>> sizes{{"1024x768", {1000, 700}},
+                                                       {"2560x1440", {2560, 1400}}};
 
 int widthOfText(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return label->wordWrap() ? 0 : label->sizeHint().width();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        return button->sizeHint().width();
+    if (qobject_cast<const QAbstractButton*>(&widget)) return widget.sizeHint().width();
     if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
         int widest = 0;
         for (int i = 0; i < combo->count(); ++i)
@@ -39,57 +38,51 @@ const QScrollArea* scrollerOf(const QWidget& widget) {
     return nullptr;
 }
 
-}  // namespace
-
-void keepPicture(QWidget& window, const std::string& name) {
-    const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
-    if (folder.isEmpty()) return;
-    QDir().mkpath(folder);
-    window.grab().save(folder + '/' + QString::fromStdString(name) + ".png");
-}
-
 void expectReadable(QWidget& window) {
-    const QString where = window.objectName();
+    SCOPED_TRACE(window.objectName().toStdString());
     std::vector<QWidget*> seen;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (!widget->isVisible() || widget->objectName().isEmpty() || widget->window() != &window)
-            continue;
-        if (widget->objectName().startsWith("qt_")) continue;
-        EXPECT_LE(widthOfText(*widget), widget->width())
-            << (where + ": cut off: " + widget->objectName()).toStdString();
-        if (widget->focusPolicy() != Qt::NoFocus) {
-            EXPECT_FALSE(widget->accessibleName().isEmpty())
-                << (where + ": no name: " + widget->objectName()).toStdString();
-        }
+        const std::string name = widget->objectName().toStdString();
+        if (!widget->isVisible() || name.empty() || widget->window() != &window) continue;
+        if (name.starts_with("qt_")) continue;
+        EXPECT_LE(widthOfText(*widget), widget->width()) << "cut off: " << name;
+        EXPECT_FALSE(widget->focusPolicy() != Qt::NoFocus && widget->accessibleName().isEmpty())
+            << "no name: " << name;
         const QRect area(widget->mapTo(&window, QPoint()), widget->size());
         const QScrollArea* scroller = scrollerOf(*widget);
         EXPECT_TRUE(scroller ? scroller->widget()->width() <= scroller->viewport()->width()
                              : window.rect().contains(area))
-            << (where + ": outside: " + widget->objectName()).toStdString();
+            << "outside: " << name;
         for (QWidget* other : seen) {
             if (other->isAncestorOf(widget) || widget->isAncestorOf(other)) continue;
             if (scrollerOf(*other) != scroller) continue;
             const QRect otherArea(other->mapTo(&window, QPoint()), other->size());
             EXPECT_FALSE(otherArea.intersects(area))
-                << (where + ": " + widget->objectName() + " over " + other->objectName())
-                       .toStdString();
+                << name << " over " << other->objectName().toStdString();
         }
         seen.push_back(widget);
     }
     EXPECT_GT(seen.size(), 5U);
 }
 
+}  // namespace
+
 void lookAt(Stage& stage, const std::string& form, const std::string& picture) {
+    static const qt::QtHelp help;  // brings the pages
+    EXPECT_TRUE(QFile::exists(QString(":/help/de/%1.html").arg(form.c_str()))) << form;
     for (const auto& [name, size] : sizes) {
-        SCOPED_TRACE(picture + " " + name);
+        SCOPED_TRACE(testing::Message() << picture << " " << name);
         QWidget& window = stage.window(form);
         ASSERT_TRUE(window.isVisible());
         const bool small = form == "grd_einst" || form == "frmSave" || form == "frmLoad";
         window.resize(small ? window.size() : size);
         QApplication::processEvents();
-        EXPECT_LE(window.minimumSizeHint().width(), sizes[0].size.width());
-        EXPECT_LE(window.minimumSizeHint().height(), sizes[0].size.height());
+        EXPECT_LE(window.minimumSizeHint().width(), 1000);
+        EXPECT_LE(window.minimumSizeHint().height(), 700);
         expectReadable(window);
-        keepPicture(window, picture + "-" + name);
+        const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
+        if (folder.isEmpty()) continue;
+        QDir().mkpath(folder);
+        window.grab().save(QString("%1/%2-%3.png").arg(folder, picture.c_str(), name.c_str()));
     }
 }

@@ -1,20 +1,16 @@
 #include "stage.h"
 
-#include "engine/arbeitsblatt.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 
 #include <filesystem>
 
-Stage::Stage(const std::string& language, std::int64_t seed)
-    : midi(loop),
-      drill({loop, dialogs, printer, help, [seed] { return seed; },
-             [this] { return host.connect(); }, &languages},
-            {.tempOrdner = std::filesystem::temp_directory_path().string(),
-             .rechnername = "practice-room-3",
-             .programmOrdner = (qt::LanguageFiles::installedFolder() + "/..").toStdString()},
-            midi),
+Stage::Stage(const std::string& language)
+    : WholeDrill(host,
+                 {.tempOrdner = std::filesystem::temp_directory_path().string(),
+                  .rechnername = "practice-room-3",
+                  .programmOrdner = (qt::LanguageFiles::installedFolder() + "/..").toStdString()},
+                 1, &languages),
       windows(drill.programm.forms) {
     host.language = language;
     drill.programm.forms.load("grd_einst");
@@ -22,12 +18,6 @@ Stage::Stage(const std::string& language, std::int64_t seed)
 }
 
 Stage::~Stage() { drill.programm.forms.unloadAll(); }
-
-form::Form& Stage::form(const std::string& name) const {
-    form::Form* found = drill.programm.forms.loaded(name);
-    if (!found) throw std::out_of_range(name + " is not loaded");
-    return *found;
-}
 
 QWidget& Stage::window(const std::string& name) const { return *windows.of(form(name)); }
 
@@ -38,48 +28,43 @@ void Stage::wait(std::int64_t milliseconds) {
 }
 
 void Stage::openSetup(bool theory, int type) {
-    setup_ = theory ? "einstellung1b" : "einstellung1";
-    sheet_ = "arbeitsblatt" + std::to_string(type) + (theory ? "b" : "");
-    control<form::Option>("grd_einst", "Theoriewahl", theory ? 1 : 0).click();
-    control<form::Option>("grd_einst", "ueb_typ", type).click();
-    control<form::Button>("grd_einst", "cmdOK").click();
+    toSetUp(theory, type);
     wait(300);
 }
 
 void Stage::openWorksheet() {
-    control<form::Button>(setup_, "cmdOK").click();
+    button("cmdOK").click();
     wait(10);
 }
 
-void Stage::press(const std::string& name, Qt::Key key) {
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-    QApplication::sendEvent(&window(name), &event);
-    QApplication::processEvents();
+void Stage::next() {
+    WholeDrill::next();
+    wait(0);
 }
 
 bool Stage::task(bool right) {
-    auto& sheet = static_cast<engine::Arbeitsblatt&>(form("arbeitsblatt1"));
-    const core::Zustand& z = drill.programm.zustand;
-    control<form::Button>("arbeitsblatt1", "CmdNextAufg").click();
-    wait(22000);
-    for (int i = 0; i <= z.skal_anz && right; ++i)
-        if (i == z.skala_nr) control<form::Picture>("arbeitsblatt1", "ton_art", i).click();
-    for (int i = 0; i <= z.skal_anz && !right; ++i)
-        if (i != z.skala_nr) control<form::Picture>("arbeitsblatt1", "ton_art", i).click();
-    return sheet.aufgZustand() == engine::AufgZustand::Geschlossen;
+    next();
+    if (right)
+        answerRight();
+    else
+        while (answerWrong()) continue;
+    return turn() == engine::AufgZustand::Geschlossen;
 }
 
-void Stage::whenResult(std::function<void()> look) {
-    made_ = drill.programm.forms.made.connect([this, look](form::Form& made) {
-        if (made.name() != "testergebnis") return;
-        shown_ = made.changed.connect([this, look, &made, done = false]() mutable {
-            if (done || !made.visible()) return;
-            done = true;
-            loop.post([this, look] {
-                wait(10);
-                look();
-                control<form::Button>("testergebnis", "cmdOK").click();
-            });
-        });
+void Stage::leave() {
+    WholeDrill::leave();
+    wait(0);
+}
+
+void Stage::press(QWidget& widget, Qt::Key key) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+    QApplication::processEvents();
+}
+
+void Stage::whenResult(const std::function<void()>& look) {
+    WholeDrill::whenResult([this, look] {
+        wait(10);
+        look();
     });
 }

@@ -2,14 +2,12 @@
 #include "look/application.h"
 #include "pictures.h"
 #include "qt/dialogs.h"
-#include "qt/help.h"
 #include "qt/printer.h"
 #include "stage.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
@@ -26,60 +24,59 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
     for (const std::string& language : allLanguages) {
         SCOPED_TRACE(language);
         Stage stage(language);
-        lookAt(stage, "grd_einst", language + "-1-start");
+        const auto look = [&](const std::string& form, const std::string& picture) {
+            lookAt(stage, form, language + picture);
+        };
+        look("grd_einst", "-1-start");
         stage.openSetup();
-        lookAt(stage, "einstellung1", language + "-2-setup");
-        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(4);
-        lookAt(stage, "einstellung1", language + "-3-exam");
-        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);
-        stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
-        for (const int item : {4, 4, 0})
-            stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(item);
-        lookAt(stage, "einstellung1", language + "-8-chosen");
-        stage.control<form::Option>("einstellung1", "ska_ausw", 0).click();
+        look("einstellung1", "-2-setup");
+        stage.combo("training_Combo").setListIndex(4);
+        look("einstellung1", "-3-exam");
+        stage.combo("training_Combo").setListIndex(1);
+        stage.option("ska_ausw", 1).choose();
+        for (const int item : {4, 4, 0}) stage.list(0).click(item);
+        look("einstellung1", "-8-chosen");
+        stage.option("ska_ausw", 0).choose();
         for (const char* dialog : {"frmSave", "frmLoad"}) {
             stage.drill.programm.forms.load(dialog);
-            lookAt(stage, dialog, language + "-9-" + dialog);
+            look(dialog, std::string("-9-") + dialog);
             stage.drill.programm.forms.unload(dialog);
         }
-        stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(6);
-        stage.control<form::Combo>("einstellung1", "Combo_richtung").setListIndex(2);
-        stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
-        for (int chosen = 0; chosen < 15; ++chosen)
-            stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(0);
-        lookAt(stage, "einstellung1", language + "-8-fifteen");
+        stage.combo("skal_typ_cmb").setListIndex(6);
+        stage.combo("Combo_richtung").setListIndex(2);
+        stage.option("ska_ausw", 1).choose();
+        for (int chosen = 0; chosen < 15; ++chosen) stage.list(0).click(0);
+        look("einstellung1", "-8-fifteen");
         stage.openWorksheet();
         stage.task(true);
-        lookAt(stage, "arbeitsblatt1", language + "-4-training");
-        stage.whenResult([&] { lookAt(stage, "testergebnis", language + "-5-result"); });
+        look("arbeitsblatt1", "-4-training");
+        stage.whenResult([&] { look("testergebnis", "-5-result"); });
         while (stage.task(false)) {
         }
-        lookAt(stage, "arbeitsblatt1", language + "-6-failed");
-        stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
-        stage.wait(500);
+        look("arbeitsblatt1", "-6-failed");
+        stage.leave();
         EXPECT_TRUE(stage.window("einstellung1").isVisible());
-        EXPECT_EQ(stage.drill.programm.forms.loaded("arbeitsblatt1"), nullptr);
+        EXPECT_FALSE(stage.loaded("arbeitsblatt1"));
 
-        stage.control<form::Option>("einstellung1", "ska_ausw", 0).click();
-        stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(3);
-        stage.control<form::Option>("einstellung1", "an_zeig", 1).choose();
-        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(3);
+        stage.option("ska_ausw", 0).choose();
+        stage.combo("skal_typ_cmb").setListIndex(3);
+        stage.option("an_zeig", 1).choose();
+        stage.combo("training_Combo").setListIndex(3);
         stage.openWorksheet();
         stage.wait(15000);
-        lookAt(stage, "arbeitsblatt1", language + "-7-names");
+        look("arbeitsblatt1", "-7-names");
         if (language != "Deutsch") continue;
-        stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
-        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(0);
-        stage.control<form::Option>("einstellung1", "abfrage", 0).choose();
+        stage.leave();
+        stage.combo("training_Combo").setListIndex(0);
+        stage.option("abfrage", 0).choose();
         for (int typ = 0; typ < 7; ++typ) {
-            stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(typ);
-            stage.control<form::Option>("einstellung1", "an_zeig", 0).choose();
-            stage.control<form::Option>("einstellung1", "final", typ % 2 == 0 ? 1 : 2).choose();
+            stage.combo("skal_typ_cmb").setListIndex(typ);
+            stage.option("an_zeig", 0).choose();
+            stage.option("final", typ % 2 == 0 ? 1 : 2).choose();
             stage.openWorksheet();
             stage.task(true);
-            lookAt(stage, "arbeitsblatt1", "pictures-" + std::to_string(typ));
-            stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
-            stage.wait(10);
+            look("arbeitsblatt1", "-pictures-" + std::to_string(typ));
+            stage.leave();
         }
     }
 }
@@ -96,12 +93,13 @@ TEST(Windows, TheWholeRoadByKeyboard) {
     stage.wait(13000);
     stage.press("arbeitsblatt1", Qt::Key_Space);
     stage.wait(13000);
-    EXPECT_EQ(stage.widget<QLabel>("arbeitsblatt1", "whlgzaehler").text(), "1");
-    keepPicture(stage.window("arbeitsblatt1"), "worksheet");
-    const int right = stage.drill.programm.zustand.skala_nr;
-    stage.press("arbeitsblatt1", static_cast<Qt::Key>(Qt::Key_1 + right));
-    EXPECT_EQ(stage.widget<QLabel>("arbeitsblatt1", "zaehler_0").text(), "1");
-    EXPECT_EQ(stage.widget<QLabel>("arbeitsblatt1", "zaehler_1").text(), "0");
+    const auto shown = [&](const char* id) {
+        return stage.widget<QLabel>("arbeitsblatt1", id).text();
+    };
+    EXPECT_EQ(shown("whlgzaehler"), "1");
+    stage.press("arbeitsblatt1", static_cast<Qt::Key>(Qt::Key_1 + stage.z.skala_nr));
+    EXPECT_EQ(shown("zaehler_0"), "1");
+    EXPECT_EQ(shown("zaehler_1"), "0");
     stage.press("arbeitsblatt1", Qt::Key_Escape);
     EXPECT_TRUE(stage.window("einstellung1").isVisible());
     stage.press("einstellung1", Qt::Key_Escape);
@@ -111,30 +109,20 @@ TEST(Windows, TheWholeRoadByKeyboard) {
 TEST(Windows, ScalesAreChosenByKeyboard) {
     Stage stage;
     stage.openSetup();
-    stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+    stage.option("ska_ausw", 1).click();
     auto& offered = stage.widget<QListWidget>("einstellung1", "lst_ska_0");
     auto& chosen = stage.widget<QListWidget>("einstellung1", "lst_ska_1");
     offered.setFocus();
     offered.setCurrentRow(3);
-    const auto press = [](QWidget& widget, Qt::Key key) {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(&widget, &event);
-    };
-    press(offered, Qt::Key_Return);
-    press(offered, Qt::Key_Space);
+    Stage::press(offered, Qt::Key_Return);
+    Stage::press(offered, Qt::Key_Space);
     EXPECT_EQ(chosen.count(), 2);
     EXPECT_EQ(offered.count(), 12);
     EXPECT_EQ(offered.currentRow(), 3) << "the focus stays where it was";
     EXPECT_EQ(chosen.item(0)->text(), "- dorisch");
     chosen.setCurrentRow(0);
-    press(chosen, Qt::Key_Enter);
+    Stage::press(chosen, Qt::Key_Enter);
     EXPECT_EQ(chosen.count(), 1);
-    for (int exam = 1; exam <= 5; ++exam) {
-        stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(4);
-        stage.control<form::Combo>("einstellung1", "prfnr_Comb").setListIndex(exam - 1);
-        QApplication::processEvents();
-        keepPicture(stage.window("einstellung1"), "exam-" + std::to_string(exam));
-    }
 }
 
 TEST(Windows, WidgetsTellTheFormAndFollowIt) {
@@ -143,17 +131,17 @@ TEST(Windows, WidgetsTellTheFormAndFollowIt) {
     auto& combo = stage.widget<QComboBox>("einstellung1", "skal_typ_cmb");
     combo.setCurrentIndex(4);
     emit combo.activated(4);
-    const core::Zustand& z = stage.drill.programm.zustand;
-    EXPECT_EQ(z.skal_typ, 4);
+    EXPECT_EQ(stage.z.skal_typ, 4);
     EXPECT_FALSE(stage.widget<QRadioButton>("einstellung1", "stimm_g_1").isEnabled());
-    stage.widget<QRadioButton>("einstellung1", "final_1").click();
-    EXPECT_EQ(z.final, 1);
-    EXPECT_FALSE(stage.widget<QRadioButton>("einstellung1", "final_2").isChecked());
-    stage.control<form::Option>("einstellung1", "final", 2).choose();
-    EXPECT_TRUE(stage.widget<QRadioButton>("einstellung1", "final_2").isChecked());
-    EXPECT_FALSE(stage.widget<QRadioButton>("einstellung1", "final_1").isChecked());
-    EXPECT_EQ(stage.widget<QComboBox>("einstellung1", "CmbOktBer").count(), 4);
-    stage.control<form::Combo>("einstellung1", "CmbOktAnz").setListIndex(3);
+    const auto& one = stage.widget<QRadioButton>("einstellung1", "final_2");
+    auto& other = stage.widget<QRadioButton>("einstellung1", "final_1");
+    other.click();
+    EXPECT_EQ(stage.z.final, 1);
+    EXPECT_FALSE(one.isChecked());
+    stage.option("final", 2).choose();
+    EXPECT_TRUE(one.isChecked());
+    EXPECT_FALSE(other.isChecked());
+    stage.combo("CmbOktAnz").setListIndex(3);
     EXPECT_EQ(stage.widget<QComboBox>("einstellung1", "CmbOktBer").count(), 1);
     stage.window("einstellung1").close();
     EXPECT_TRUE(stage.window("grd_einst").isVisible()) << "the close box is the way back";
@@ -171,8 +159,7 @@ TEST(Windows, TheWaitingNoticeLiesInTheMiddleAndMovesNothing) {
         return all;
     };
     const auto before = places();
-    auto& notice = stage.control<form::Group>("arbeitsblatt1", "WaitMeldung");
-    notice.visible = true;
+    stage.on<form::Group>("WaitMeldung").visible = true;
     QApplication::processEvents();
     EXPECT_EQ(places(), before);
     const auto& shown = stage.widget<QWidget>("arbeitsblatt1", "WaitMeldung");
@@ -182,7 +169,6 @@ TEST(Windows, TheWaitingNoticeLiesInTheMiddleAndMovesNothing) {
     EXPECT_TRUE(words.isVisible());
     EXPECT_GE(words.width(), words.sizeHint().width());
     EXPECT_FALSE(words.text().isEmpty());
-    keepPicture(window, "waiting");
 }
 
 TEST(Boxes, SpeakTheLanguageOfTheProgram) {
@@ -196,10 +182,10 @@ TEST(Boxes, SpeakTheLanguageOfTheProgram) {
             for (const auto* button : box->buttons()) captions << button->text();
             captions.sort();
             EXPECT_EQ(captions, QStringList({"No", "Sí"}));
-            QKeyEvent press(QEvent::KeyPress, yes ? Qt::Key_Return : Qt::Key_Escape,
-                            Qt::NoModifier);
-            QApplication::sendEvent(yes ? static_cast<QWidget*>(box->defaultButton()) : box,
-                                    &press);
+            if (yes)
+                Stage::press(*box->defaultButton(), Qt::Key_Return);
+            else
+                Stage::press(*box, Qt::Key_Escape);
         });
         EXPECT_EQ(dialogs.askYesNo("title", "text"), yes);
     }
@@ -223,24 +209,13 @@ TEST(Application, CatchesWhatNoHandlerCaught) {
     EXPECT_EQ(told, (std::vector<std::string>{"memory is full", "an unknown fault"}));
 }
 
-TEST(Help, HasAPageForEveryFormInEveryLanguage) {
-    const qt::QtHelp help;  // brings the pages
-    for (const char* language : {"de", "en", "es", "fr"})
-        for (const char* page :
-             {"index", "grd_einst", "einstellung1", "einstellung1b", "frmSave", "frmLoad",
-              "arbeitsblatt1", "arbeitsblatt1b", "arbeitsblatt4", "arbeitsblatt4b", "testergebnis"})
-            EXPECT_TRUE(QFile::exists(QString(":/help/%1/%2.html").arg(language, page)))
-                << language << " " << page;
-}
-
 TEST(Printing, TheResultFormFillsOneLandscapePage) {
     Stage stage;
     stage.openSetup();
-    stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);
+    stage.combo("training_Combo").setListIndex(1);
     stage.openWorksheet();
-    QTemporaryDir folder;
-    const QString kept = qEnvironmentVariable("MELVORA_SCREENSHOTS");
-    const QString file = (kept.isEmpty() ? folder.path() : kept) + "/result.pdf";
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("result.pdf");
     stage.whenResult([&] {
         stage.control<form::Button>("testergebnis", "cmdPrint").click();
         EXPECT_EQ(stage.printer.pages, std::vector<std::string>{"testergebnis"});
@@ -250,8 +225,7 @@ TEST(Printing, TheResultFormFillsOneLandscapePage) {
     });
     while (stage.task(false)) {
     }
-    stage.control<form::Panel>("arbeitsblatt1", "zurueck").click();
-    stage.wait(500);
+    stage.leave();
     QFile pdf(file);
     ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
     const QByteArray bytes = pdf.readAll();
@@ -259,7 +233,7 @@ TEST(Printing, TheResultFormFillsOneLandscapePage) {
     EXPECT_EQ(bytes.count("/Type /Page") - bytes.count("/Type /Pages"), 1);
     EXPECT_TRUE(bytes.contains("/MediaBox [0 0 842")) << "A4 on its side";
     EXPECT_FALSE(bytes.contains("/Subtype /Image")) << "text and lines, no picture";
-    EXPECT_TRUE(bytes.contains("/Font"));
+    EXPECT_TRUE(bytes.contains("/BaseFont"));
     EXPECT_LT(bytes.size(), 200'000);
 }
 

@@ -8,102 +8,81 @@ namespace results {
 namespace {
 
 /// A result form after a training in church modes, shown over a table that a test fills.
-struct ResultForm {
+struct ResultForm : support::DrillFixture {
     ResultForm() {
-        drill.wertung.vorbereiten();
-        drill.z.bewertung_basis = 2;
-        drill.z.uebungsmodus = 1;
+        wertung.vorbereiten();
+        z.bewertung_basis = 2;
+        z.uebungsmodus = 1;
     }
     /// A slot with one task and what it booked.
     void score(int slot, float booked) {
-        drill.wertung.auswertung.Save(slot, 0, 1);
-        drill.wertung.auswertung.Save(slot, 1, booked);
+        wertung.auswertung.Save(slot, 0, 1);
+        wertung.auswertung.Save(slot, 1, booked);
     }
-    Testergebnis& open() {
-        drill.programm.forms.load("testergebnis");
-        drill.wait(5);
-        return form();
+    Testergebnis& opened() {
+        auto& form = static_cast<Testergebnis&>(programm.forms.load("testergebnis"));
+        wait(5);
+        return form;
     }
-    Testergebnis& form() {
-        return static_cast<Testergebnis&>(drill.programm.forms.load("testergebnis"));
+    form::Control& part(const std::string& name, int index = form::Place::noIndex) {
+        return WholeDrill::control<form::Control>("testergebnis", name, index);
     }
-    form::Control& control(const std::string& name, int index = form::Place::noIndex) {
-        return *form().find(name, index);
-    }
-    support::DrillFixture drill;
 };
 
-TEST(Testergebnis, EachRowReadsItsOwnSlot) {
+TEST(Testergebnis, EachRowReadsItsOwnSlotAndTheTotalIsTheMeanOfThoseThatCount) {
     struct Row {
         const char* name;
         int richtung;
         std::size_t rows;
         int slot;              ///< the one that is scored
-        std::size_t expected;  ///< row that shows it, beyond all rows for none
-        bool secondHeading;
+        std::size_t expected;  ///< row that shows it
     };
-    for (const Row& row : {Row{"ascending, first scale", 0, 7, 1, 0, false},
-                           {"ascending, last scale", 0, 7, 7, 6, false},
-                           {"ascending does not show descending", 0, 7, 8, 99, false},
-                           {"descending, first scale", 1, 7, 8, 0, false},
-                           {"descending does not show ascending", 1, 7, 1, 99, false},
-                           {"both, ascending", 2, 14, 3, 2, true},
-                           {"both, descending", 2, 14, 14, 13, true}}) {
+    for (const Row& row : {Row{"ascending, last scale", 0, 7, 7, 6},
+                           {"descending, first scale", 1, 7, 8, 0},
+                           {"both, ascending", 2, 14, 3, 2},
+                           {"both, descending", 2, 14, 14, 13}}) {
         SCOPED_TRACE(row.name);
         ResultForm result;
-        result.drill.z.richtung = row.richtung;
+        result.z.richtung = row.richtung;
         result.score(row.slot, -12);
-        result.open();
-        const auto rows = result.form().zeilen();
+        const auto rows = result.opened().zeilen();
         ASSERT_EQ(rows.size(), row.rows);
         for (std::size_t i = 0; i < rows.size(); ++i) {
             EXPECT_EQ(rows[i].prozent, i == row.expected ? "75.0%" : "0.0 %") << i;
-            EXPECT_EQ(rows[i].name,
-                      result.drill.programm.katalog.skal_name[0][static_cast<int>(i) % 7]);
+            EXPECT_EQ(rows[i].name, result.programm.katalog.skal_name[0][static_cast<int>(i) % 7]);
         }
-        EXPECT_EQ(result.form().gesamtText(), row.expected == 99 ? "0.0 %" : "75.0%");
-        EXPECT_EQ(result.control("Lab_richtung", 1).visible(), row.secondHeading);
-        EXPECT_EQ(result.control("Lab_richtung", 0).caption(), row.richtung == 1 ? "W83" : "W132");
+        EXPECT_EQ(result.opened().gesamtText(), "75.0%");
+        EXPECT_EQ(result.part("Lab_richtung", 1).visible(), row.richtung == 2);
+        EXPECT_EQ(result.part("Lab_richtung", 0).caption(), row.richtung == 1 ? "W83" : "W132");
     }
-}
-
-TEST(Testergebnis, TheTotalIsTheMeanOfTheRowsThatCount) {
-    ResultForm result;
-    for (const auto& [slot, booked] : {std::pair{1, -16.F}, {4, -8.F}, {14, 3.F}})
-        result.score(slot, booked);
-    result.open();
-    EXPECT_EQ(result.form().gesamtText(), "50.0%");
-
     ResultForm largest;
-    largest.drill.category(6);
-    for (int slot = 1; slot <= 20; ++slot) largest.score(slot, -16);
-    largest.open();
-    ASSERT_EQ(largest.form().zeilen().size(), 20U);
-    EXPECT_EQ(largest.form().gesamtText(), "100.0%");
+    largest.category(6);
+    for (int slot = 1; slot <= 20; ++slot) largest.score(slot, slot % 2 == 0 ? -16.F : 3.F);
+    EXPECT_EQ(largest.opened().zeilen().size(), 20U);
+    EXPECT_EQ(largest.opened().gesamtText(), "50.0%");
 }
 
 TEST(Testergebnis, NamesWhoWasLoggedIn) {
     for (const bool known : {true, false}) {
         ResultForm result;
-        result.drill.z.angemeldet = known;
-        result.open();
-        EXPECT_EQ(result.control("g_einst_inh", 5).visible(), known);
-        EXPECT_EQ(result.control("g_einst_inh", 5).caption(), known ? "4711" : "");
+        result.z.angemeldet = known;
+        result.opened();
+        EXPECT_EQ(result.part("g_einst_inh", 5).visible(), known);
+        EXPECT_EQ(result.part("g_einst_inh", 5).caption(), known ? "4711" : "");
     }
 }
 
 TEST(Testergebnis, PrintsOnceInWhiteAndTellsWhatFailed) {
     for (const bool fails : {false, true}) {
         ResultForm result;
-        result.open();
-        if (fails) result.drill.printer.fault = "no paper";
-        auto& print = static_cast<form::Button&>(result.control("cmdPrint"));
-        print.click();
-        print.click();
-        EXPECT_EQ(result.drill.printer.pages.size(), fails ? 0U : 1U);
-        EXPECT_TRUE(result.form().whitened());
-        EXPECT_TRUE(result.control("PicSchalt").visible());
-        EXPECT_EQ(result.drill.programm.forms.loaded("frmMessage") != nullptr, fails);
+        if (fails) result.printer.fault = "no paper";
+        const auto& form = result.opened();
+        for (int click = 0; click < 2; ++click)
+            static_cast<form::Button&>(result.part("cmdPrint")).click();
+        EXPECT_EQ(result.printer.pages.size(), fails ? 0U : 1U);
+        EXPECT_TRUE(form.whitened());
+        EXPECT_TRUE(result.part("PicSchalt").visible());
+        EXPECT_EQ(result.loaded("frmMessage"), fails);
     }
 }
 
@@ -111,15 +90,15 @@ TEST(Testergebnis, LeavesToTheSetUpFormAndByItselfAfterAFaultWhileItFills) {
     for (const bool faulty : {false, true}) {
         SCOPED_TRACE(faulty);
         ResultForm result;
-        auto& forms = result.drill.programm.forms;
-        if (faulty) result.drill.wertung.auswertung.init_arr(2, 1);
+        auto& forms = result.programm.forms;
+        if (faulty) result.wertung.auswertung.init_arr(2, 1);
         forms.load("einstellung1");
-        result.drill.later(500, [&] {
+        result.later(500, [&] {
             if (form::Form* form = forms.loaded("testergebnis"))
                 form->key({form::Key::Kind::Enter});
         });
         EXPECT_NO_THROW(forms.runModal("testergebnis"));
-        EXPECT_EQ(result.drill.host.faults.size(), faulty ? 1U : 0U);
+        EXPECT_EQ(result.host.faults.size(), faulty ? 1U : 0U);
         EXPECT_EQ(forms.loaded("einstellung1")->visible(), !faulty) << "else the worksheet does it";
     }
 }

@@ -4,73 +4,59 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
 namespace results {
 namespace {
 
-/// A run whose tasks allow four wrong answers: a right first answer books -16.
-struct WertungTest : testing::Test {
-    WertungTest() {
-        bench.p.zustand.bewertung_basis = 2;
-        bench.p.zustand.bestAnz = 4;
-        wertung.vorbereiten();
+using core::modus::test;
+
+/// What a slot reached, from all that was booked for it: a right first answer books `best`.
+float share(const core::Zustand& z, std::vector<float> booked, float best) {
+    std::size_t counted = booked.size();
+    if (z.uebungsmodus >= test) {
+        // The best count, in a named test always two; what is missing or above nothing is nothing.
+        counted = z.ueb_typ == 1 ? 2 : std::min<std::size_t>(counted, int(z.bestAnz));
+        std::ranges::sort(booked);
+        booked.resize(counted);
+        for (float& one : booked) one = std::min(one, 0.0F);
     }
+    const float sum = std::accumulate(booked.begin(), booked.end(), 0.0F);
+    return std::min(sum, 0.0F) / (best * static_cast<float>(counted));
+}
+
+TEST(Wertung, TheShareIsThatOfAnotherCalculation) {
     core::BenchProgramm bench;
     core::Zustand& z = bench.p.zustand;
     Wertung wertung{bench.p};
-};
-
-TEST_F(WertungTest, BooksByModeAndExerciseType) {
-    struct Row {
-        const char* name;
-        int modus, typ;
-        std::array<float, 4> columns;
-    };
-    for (const Row& row : {Row{"trying out books nothing", 0, 1, {0, 0, 0, 0}},
-                           {"resumed training: count and sum", 2, 4, {2, -24, 0, 0}},
-                           {"test, determine: the best two", 3, 1, {-8, -16, 0, 0}},
-                           {"exam, determine", 4, 1, {-8, -16, 0, 0}},
-                           {"exam, write: counted, and the best four", 4, 4, {2, 0, -8, -16}}}) {
-        SCOPED_TRACE(row.name);
-        wertung.auswertung.Clear();
-        z.uebungsmodus = row.modus;
-        z.ueb_typ = row.typ;
-        wertung.ErgebnisBuchen(3, -8);
-        wertung.ErgebnisBuchen(3, 0);
-        for (int x = 0; x < 4; ++x)
-            EXPECT_EQ(wertung.auswertung.read(3, x), row.columns[static_cast<std::size_t>(x)]) << x;
-    }
-}
-
-TEST_F(WertungTest, SharesOfARow) {
-    struct Row {
-        const char* name;
-        int modus, typ;
-        std::array<float, 6> columns;
-        bool counts;
-        float share;
-    };
-    for (const Row& row :
-         {Row{"training, all right at once", 1, 1, {3, -48}, true, 1},
-          {"training, worse than nothing", 1, 1, {1, 6}, true, 0},
-          {"training, no task", 1, 1, {0, 0}, false, 0},
-          {"test, two right answers", 3, 1, {-16, -16, 0, 1}, true, 1},
-          {"test, one task only", 3, 1, {0, -16, 0, 1}, true, 0.5F},
-          {"test, nothing reached", 4, 1, {0, 0, 0, 2}, true, 0},
-          {"test, a scale that was not in the run", 4, 1, {-16, -16, 0, 0}, false, 0},
-          {"write, one of four", 4, 4, {1, 0, -12, 0, 0, 0}, true, 0.75F},
-          {"write, more tasks than are kept", 4, 4, {9, 0, -8, -16, -16, -16}, true, 0.875F},
-          {"write, no task", 4, 4, {0, 0}, false, 0}}) {
-        SCOPED_TRACE(row.name);
-        z.uebungsmodus = row.modus;
-        z.ueb_typ = row.typ;
-        for (int x = 0; x < 6; ++x)
-            wertung.auswertung.Save(5, x, row.columns[static_cast<std::size_t>(x)]);
-        const ErgebnisZeile zeile = ergebnisZeile(wertung.auswertung, z, 5);
-        EXPECT_EQ(zeile.zaehlt, row.counts);
-        EXPECT_FLOAT_EQ(zeile.anteil, row.share);
-        z.bewertung_basis = 0;
-        EXPECT_FALSE(ergebnisZeile(wertung.auswertung, z, 5).zaehlt) << "nothing to be reached";
-        z.bewertung_basis = 2;
+    base::Rnd chance(5);
+    for (int run = 0; run < 2000; ++run) {
+        z.uebungsmodus = chance.below(5);
+        z.ueb_typ = chance.below(2) == 0 ? 1 : 4;
+        z.bestAnz = 3 + chance.below(2);
+        z.bewertung_basis = static_cast<float>(int(chance.below(3)));
+        wertung.vorbereiten();
+        const int slot = 1 + chance.below(20);
+        const bool named = z.uebungsmodus >= test && z.ueb_typ == 1;
+        const bool there = chance.below(5) > 0;  // a named test marks the scales of its run
+        if (named && there) wertung.auswertung.Save(slot, 3, 1);
+        std::vector<float> booked;
+        for (int tasks = chance.below(7); tasks > 0; --tasks) {
+            const auto points = static_cast<float>(int(chance.below(30)) - 4);
+            wertung.ErgebnisBuchen(slot, points);
+            booked.push_back(points - 4 * z.bewertung_basis);
+        }
+        SCOPED_TRACE(testing::Message() << "mode " << int(z.uebungsmodus) << " type "
+                                        << int(z.ueb_typ) << " " << testing::PrintToString(booked));
+        const ErgebnisZeile row = ergebnisZeile(wertung.auswertung, z, slot);
+        ASSERT_EQ(row.zaehlt,
+                  (named ? there : !booked.empty()) && z.uebungsmodus > 0 && z.bewertung_basis > 0);
+        if (row.zaehlt) {
+            ASSERT_FLOAT_EQ(row.anteil, share(z, booked, -8 * z.bewertung_basis));
+        }
+        EXPECT_FALSE(ergebnisZeile(wertung.auswertung, z, slot % 20 + 1).zaehlt);
     }
 }
 

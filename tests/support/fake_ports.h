@@ -13,17 +13,15 @@ namespace support {
 /// Message boxes that are answered at once: questions from `answers`, "no" when none is left.
 struct ScriptedDialogs final : form::Dialogs {
     struct Message {
-        form::Icon icon;
         std::string title, text;
-        friend bool operator==(const Message&, const Message&) = default;
     };
     std::vector<Message> messages;
     std::vector<std::string> questions;  ///< "title|text"
     std::deque<bool> answers;
     std::deque<std::string> files;  ///< what the file dialogs give; "" when none is left
 
-    void message(form::Icon icon, const std::string& title, const std::string& text) override {
-        messages.push_back({icon, title, text});
+    void message(form::Icon, const std::string& title, const std::string& text) override {
+        messages.push_back({title, text});
     }
     bool askYesNo(const std::string& title, const std::string& text) override {
         questions.push_back(title + "|" + text);

@@ -16,13 +16,12 @@ struct RecordingMidi::EndTimer : private form::Forms, form::Form {
     form::Timer timer{*this, {"end"}, 1};
 };
 
-RecordingMidi::RecordingMidi(form::VirtualTime& loop, int ports)
-    : loop_(loop), ports_(ports), end_(std::make_unique<EndTimer>(loop)) {
+RecordingMidi::RecordingMidi(form::VirtualTime& loop)
+    : loop_(loop), end_(std::make_unique<EndTimer>(loop)) {
     end_->timer.onTick = {"end", [this] {
                               end_->timer.stop();
                               startedAt_ = -1;
                               queued.clear();
-                              ++ended;
                               if (queueEmpty) queueEmpty();
                           }};
 }
@@ -34,8 +33,6 @@ sound::MidiDevice RecordingMidi::device(int id) {
                         : sound::MidiDevice{1, "port " + std::to_string(id)};
 }
 
-void RecordingMidi::open(int id) { opened = id < ports_ ? id : mapper; }
-
 void RecordingMidi::start() {
     starts.push_back(loop_.elapsed());
     startedAt_ = loop_.elapsed();
@@ -46,7 +43,6 @@ void RecordingMidi::start() {
 }
 
 void RecordingMidi::stop() {
-    ++stops;
     queued.clear();
     startedAt_ = -1;
     end_->timer.stop();
@@ -84,8 +80,8 @@ std::vector<sound::MidiEvent> RecordingMidi::noteOns() const {
 
 std::vector<sound::MidiEvent> RecordingMidi::sentWith(int status) const {
     std::vector<sound::MidiEvent> found;
-    for (const Sent& sent : sends)
-        if ((sent.event.status & 0xF0) == status) found.push_back(sent.event);
+    std::ranges::copy_if(sends, std::back_inserter(found),
+                         [status](const auto& e) { return (e.status & 0xF0) == status; });
     return found;
 }
 
