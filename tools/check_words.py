@@ -18,6 +18,10 @@ import xml.etree.ElementTree as ElementTree
 
 # Texts that are put in front of a value: their last character is a blank in every language.
 ENDING_IN_BLANK = {"394s", "461s", "489s", "547s", "700s"}
+# Octaves that stand side by side on a form, as a caption, in a range, or where one range ends and
+# another begins: one octave has one name in a language.
+SAME_OCTAVE = [("671s", "681s"), ("672s", "682s", "693s"), ("673s", "683s", "694s"),
+               ("674s", "684s", "695s"), ("675s", "696s")]
 # Texts that the host and the program need although no number asks for them.
 ALWAYS = {"name"}
 
@@ -133,6 +137,10 @@ def compare(languages):
             if text.endswith(" ") != (key in ENDING_IN_BLANK):
                 fault = "has lost its last blank" if key in ENDING_IN_BLANK else "ends in a blank"
                 complaints.append(f"{suffix}: {key} {fault}")
+    for octave in SAME_OCTAVE:
+        for language in languages:
+            if len(names := {language.texts[key] for key in octave if key in language.texts}) > 1:
+                complaints.append(f"{language.suffix}: one octave, several names: {sorted(names)}")
     return complaints
 
 

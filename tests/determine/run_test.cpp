@@ -172,21 +172,6 @@ TEST(Leaving, InEveryWaitAndFadeAndWhileItSoundsLeavesNoNoteAndAnAudibleDevice) 
     }
 }
 
-TEST(Leaving, WhenAllFormsAreUnloadedInAWaitNothingGoesOn) {
-    for (const int after : {20, 70, 120, 500}) {
-        SCOPED_TRACE(after);
-        DrillFixture drill;
-        prepare(drill, ways[0]);
-        drill.later(after, [&] { drill.programm.forms.unloadAll(); });
-        drill.click("CmdNextAufg");
-        drill.wait(600);
-        EXPECT_EQ(drill.programm.forms.last(), nullptr);
-        EXPECT_TRUE(drill.midiOut.queued.empty());
-        EXPECT_TRUE(drill.host.faults.empty());
-        EXPECT_EQ(drill.midiOut.volume, std::pair(40000, 30000));
-    }
-}
-
 TEST(Leaving, ThenTheNextRunIsAFreshOne) {
     DrillFixture drill;
     prepare(drill, ways[0]);

@@ -1,5 +1,4 @@
 // The worksheets with a staff, from their set-up forms to the record: written and named scales.
-#include "core/fortsetzung.h"
 #include "notation/schreib_blatt.h"
 #include "setup/set_up.h"
 #include "sim/writer.h"
@@ -174,32 +173,6 @@ TEST_F(Worksheets, TheoryAndWritingAreSavedUnderTheirOwnKeys) {
         EXPECT_EQ(again.weights(), weights);
         EXPECT_EQ(again.shown("zaehler", 0), "3");
         host.records.clear();
-    }
-}
-
-/// Settings of the other branch have another layout: they are restored until a value does not fit.
-/// When all do by chance, no state fits them, and the continuation is offered no more.
-TEST_F(Worksheets, SettingsOfTheOtherBranchAreRestoredAsFarAsTheyFit) {
-    for (const auto& [tempo, direction] : {std::pair{0, 0}, {1, 2}, {9, 0}}) {
-        host.records["zepha9/A1"] = Value::Array{"true", "x"};
-        Value::Array settings(11, "0");
-        settings[1] = std::to_string(tempo);
-        settings[2] = std::to_string(direction);
-        host.records["zepha9/E1"] = settings;
-        Exercise run(host, theoryNaming);
-        run.mode(2);
-        const bool fits = tempo < 3 && direction < 2;
-        EXPECT_EQ(run.z.uebungsmodus, fits ? 2 : 1);
-        EXPECT_EQ(run.z.richtung, tempo < 3 ? tempo : 2) << "read as the direction";
-        EXPECT_EQ(run.group(5).enabled(), !fits);
-        EXPECT_TRUE(run.dialogs.messages.empty());
-        if (!fits) continue;
-        run.begin();
-        EXPECT_EQ(run.dialogs.messages.size(), 1U);
-        EXPECT_TRUE(run.setUp().visible());
-        EXPECT_EQ(run.setUp().pointer(), form::Pointer::Arrow);
-        EXPECT_EQ(run.offered(), core::keineFortsetzung);
-        EXPECT_EQ(run.z.uebungsmodus, 1);
     }
 }
 

@@ -44,6 +44,8 @@ class CheckWords(unittest.TestCase):
             ("another placeholder", but("817s", "%2 of 15"), "", "817s: the placeholders differ"),
             ("a lost blank", but("461s", "left:"), "", "en: 461s has lost its last blank"),
             ("a stray blank", but("354s", "modes "), "", "en: 354s ends in a blank"),
+            ("an octave of two names", SOUND | {"671s": "contra", "681s": "great"}, "",
+             "en: one octave, several names"),
             ("no name of the language", but("name", None), "", "en: name is missing"),
             ("order", dict(reversed(SOUND.items())), "", "en: the messages are not sorted"),
             ("a call", SOUND, "x = Wort(354) + Wort( 355 );", "form.cpp:1: word 355 is missing"),

@@ -75,16 +75,6 @@ TEST(PainterSurface, WhatIsTakenAwayLeavesNoTrace) {
     }
 }
 
-TEST(PainterSurface, ScalesKeepStaffLinesOnWholePixels) {
-    for (const double ratio : {1.0, 1.25, 2.0})
-        for (const double fit : {0.8, 1.0, 1.37, 2.5}) {
-            const double scale = qt::staffScale(fit, ratio);
-            EXPECT_LE(scale, fit);
-            EXPECT_GT(scale, fit - 0.126);
-            EXPECT_NEAR(scale * 8 * ratio, std::round(scale * 8 * ratio), 1e-9);
-        }
-}
-
 TEST(StaffWidget, GrowsInTheMiddleAndTellsPlaces) {
     Sheet sheet(6, 0, 60);
     qt::StaffWidget widget(sheet.staff.PicBNot);

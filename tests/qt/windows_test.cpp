@@ -81,31 +81,6 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
     }
 }
 
-TEST(Windows, TheWholeRoadByKeyboard) {
-    Stage stage("English");
-    stage.press("grd_einst", Qt::Key_F1);
-    EXPECT_EQ(stage.help.opened, std::vector<std::string>{"grd_einst/en"});
-    stage.press("grd_einst", Qt::Key_Return);
-    stage.wait(300);
-    stage.press("einstellung1", Qt::Key_Return);
-    stage.wait(10);
-    stage.press("arbeitsblatt1", Qt::Key_Enter);
-    stage.wait(13000);
-    stage.press("arbeitsblatt1", Qt::Key_Space);
-    stage.wait(13000);
-    const auto shown = [&](const char* id) {
-        return stage.widget<QLabel>("arbeitsblatt1", id).text();
-    };
-    EXPECT_EQ(shown("whlgzaehler"), "1");
-    stage.press("arbeitsblatt1", static_cast<Qt::Key>(Qt::Key_1 + stage.z.skala_nr));
-    EXPECT_EQ(shown("zaehler_0"), "1");
-    EXPECT_EQ(shown("zaehler_1"), "0");
-    stage.press("arbeitsblatt1", Qt::Key_Escape);
-    EXPECT_TRUE(stage.window("einstellung1").isVisible());
-    stage.press("einstellung1", Qt::Key_Escape);
-    EXPECT_TRUE(stage.window("grd_einst").isVisible());
-}
-
 TEST(Windows, ScalesAreChosenByKeyboard) {
     Stage stage;
     stage.openSetup();
@@ -123,6 +98,8 @@ TEST(Windows, ScalesAreChosenByKeyboard) {
     chosen.setCurrentRow(0);
     Stage::press(chosen, Qt::Key_Enter);
     EXPECT_EQ(chosen.count(), 1);
+    stage.press("einstellung1", Qt::Key_F1);
+    EXPECT_EQ(stage.help.opened, std::vector<std::string>{"einstellung1/de"});
 }
 
 TEST(Windows, WidgetsTellTheFormAndFollowIt) {
@@ -165,10 +142,6 @@ TEST(Windows, TheWaitingNoticeLiesInTheMiddleAndMovesNothing) {
     const auto& shown = stage.widget<QWidget>("arbeitsblatt1", "WaitMeldung");
     EXPECT_LE((shown.geometry().center() - window.rect().center()).manhattanLength(), 2);
     EXPECT_GE(shown.width(), shown.sizeHint().width());
-    const auto& words = stage.widget<QLabel>("arbeitsblatt1", "WaitMeld");
-    EXPECT_TRUE(words.isVisible());
-    EXPECT_GE(words.width(), words.sizeHint().width());
-    EXPECT_FALSE(words.text().isEmpty());
 }
 
 TEST(Boxes, SpeakTheLanguageOfTheProgram) {

@@ -3,9 +3,6 @@
 
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
-#include <unistd.h>
-
-#include <fstream>
 
 namespace sim::test {
 
@@ -119,18 +116,6 @@ TEST(Simulation, WhatTheFormsDoNotOfferIsAnError) {
         Simulation simulation(given);
         EXPECT_THROW(simulation.run(), UsageError);
     }
-}
-
-TEST(Simulation, TakesItsWordsFromAFile) {
-    const std::string file = ::testing::TempDir() + "words" + std::to_string(getpid()) + ".ts";
-    std::ofstream(file) << R"(<TS><context><message id="402s"><translation>mixo</translation>)"
-                           R"(</message></context></TS>)";
-    const TracedRun run("--set einzel_wahl=5,1 --set uebungsmodus=1 --words " + file);
-    const auto rows = run.lines("result").at(0)["rows"].toArray();
-    EXPECT_EQ(rows[4].toArray()[0].toString(), "mixo");
-    EXPECT_EQ(rows[0].toArray()[0].toString(), "VOID");
-    EXPECT_THROW(TracedRun("--tasks 1 --words /nowhere.ts"), UsageError);
-    std::remove(file.c_str());
 }
 
 }  // namespace
