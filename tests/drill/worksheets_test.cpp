@@ -12,7 +12,6 @@ namespace setup::test {
 
 namespace {
 
-using core::Value;
 using engine::AufgZustand;
 using sim::Writing;
 
