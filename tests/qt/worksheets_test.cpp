@@ -33,7 +33,7 @@ TEST(Worksheets, AreReadableInEveryLanguageAndSize) {
         SCOPED_TRACE(language);
         Stage stage(language);
         const auto look = [&](const std::string& form, const std::string& picture) {
-            lookAt(stage, form, language + picture + form);
+            lookAt(stage, form, std::string(language).append(picture).append(form));
         };
         for (const bool theory : {false, true}) {
             stage.openSetup(theory, 4);
