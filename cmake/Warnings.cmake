@@ -7,7 +7,7 @@ if(MELVORA_WERROR)
   target_compile_options(melvora_options INTERFACE -Werror)
 endif()
 if(MELVORA_SANITIZE)
-  target_compile_options(melvora_options INTERFACE -fsanitize=address,undefined
+  target_compile_options(melvora_options INTERFACE -fsanitize=${MELVORA_SANITIZE}
     -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
-  target_link_options(melvora_options INTERFACE -fsanitize=address,undefined)
+  target_link_options(melvora_options INTERFACE -fsanitize=${MELVORA_SANITIZE})
 endif()
