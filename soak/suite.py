@@ -79,7 +79,7 @@ class Place:
     ends with it."""
 
     def __init__(self, binaries, **environment):
-        self.binaries = pathlib.Path(binaries)
+        self.binaries = pathlib.Path(binaries).resolve()
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="soak-"))
         self.data = self.home / "data"
         self.spool = self.data / "spool"
@@ -112,6 +112,23 @@ class Place:
             stdin=subprocess.DEVNULL, stdout=output, stderr=output))
         output.close()
         return self.started[-1]
+
+    def screen(self, size="1024x768"):
+        """A screen of its own, for programs that are started from here on."""
+        told, teller = os.pipe()
+        self.started.append(subprocess.Popen(
+            ["Xvfb", "-displayfd", str(teller), "-screen", "0", f"{size}x24", "-noreset"],
+            pass_fds=[teller], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        os.close(teller)
+        with os.fdopen(told) as number:
+            display = ":" + number.readline().strip()
+        self.environment.update(DISPLAY=display, QT_QPA_PLATFORM="xcb")
+
+    def tool(self, *arguments):
+        """What xdotool says; "" when it fails."""
+        done = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment,
+                              capture_output=True, text=True, check=False)
+        return done.stdout.strip() if done.returncode == 0 else ""
 
     def host(self, *arguments, patience=30.0, **environment):
         """A host that answers."""
@@ -156,14 +173,19 @@ def descriptors(process):
     return len(os.listdir(f"/proc/{process}/fd"))
 
 
-def arguments(description):
+def parser(description):
     """The command line that every part has."""
-    parser = argparse.ArgumentParser(description=description)
-    parser.add_argument("--bin", required=True, help="folder of the programs")
-    parser.add_argument("--seconds", type=float, default=10, help="how long (default 10)")
-    parser.add_argument("--seed", type=int, default=int(time.time()),
-                        help="the same seed makes the same choices (default: the time)")
-    given = parser.parse_args()
+    options = argparse.ArgumentParser(description=description)
+    options.add_argument("--bin", required=True, help="folder of the programs")
+    options.add_argument("--seconds", type=float, default=10, help="how long (default 10)")
+    options.add_argument("--seed", type=int, default=int(time.time()),
+                         help="the same seed makes the same choices (default: the time)")
+    return options
+
+
+def arguments(description):
+    """What the command line says; chance begins with its seed."""
+    given = parser(description).parse_args()
     random.seed(given.seed)
     return given
 
