@@ -54,7 +54,36 @@ def open_window(place):
     return int(dict(line.split("=") for line in shape.splitlines())["WIDTH"])
 
 
+def press(place, *steps):
+    """Waits for each window and presses a key in it."""
+    for name, key in steps:
+        found = until(lambda n=name: place.tool("search", "--onlyvisible", "--name", n))
+        place.tool("windowactivate", "--sync", found.splitlines()[0])
+        place.tool("key", key)
+
+
 # What a user meets first.
+
+def message_of_a_training_that_was_not_kept(place):
+    place.screen()
+    file = place.home / "training.mvs"
+    file.write_text("""<?xml version="1.0" encoding="ISO-8859-1" ?>
+<test><basic><modul>VESHNA</modul><type>1</type></basic><setting>
+<control title="a"><cname>training_Combo</cname><value>1</value></control>
+</setting></test>""")
+    place.host("--language", "English", str(file))
+    press(place, ("Identify scales: Setup", "Return"), ("^Identify scales$", "Return"))
+    time.sleep(13)  # the first task sounds
+    place.tool("key", *"1234567")
+    other = sqlite3.connect(place.store, isolation_level=None)
+    other.execute("BEGIN EXCLUSIVE")
+    place.tool("key", "Escape")
+    press(place, ("Save training", "Return"))
+    shown = until(lambda: place.tool("search", "--onlyvisible", "--name", "Identify scales: Setup"))
+    time.sleep(1)
+    name = place.tool("getactivewindow", "getwindowname")
+    return shown and "Setup" not in name, f"in front: {name!r}"
+
 
 def long_notice(place):
     place.screen()
@@ -125,6 +154,21 @@ while :; do sleep 1; done
     caller = place.caller()
     ended, seconds = timed(lambda: until(lambda: caller.request("APP")[1][1] == "", 15))
     return ended, f"ended after {seconds:.1f} s" if ended else "still runs after 15 s"
+
+
+def soundfont_that_is_a_pipe(place):
+    place.screen()
+    os.mkfifo(place.home / "font.sf2")
+    place.host("--start", "zepha9", "--language", "English",
+               MELVORA_SOUNDFONT=str(place.home / "font.sf2"), MELVORA_AUDIO_DRIVER="file",
+               MELVORA_AUDIO_FILE=str(place.home / "sound.wav"))
+    start, setup, sheet = "Scales: Basic settings", "Identify scales: Setup", "^Identify scales$"
+    press(place, (start, "Return"), (setup, "Return"), (sheet, "Return"))
+    time.sleep(2)
+    press(place, (sheet, "Escape"), (setup, "Escape"), (start, "Escape"))
+    caller = place.caller()
+    ended, seconds = timed(lambda: until(lambda: caller.request("APP")[1][1] == "", 15))
+    return ended, f"the module ended after {seconds:.1f} s" if ended else "still runs after 15 s"
 
 
 def spool_that_is_a_file(place):
@@ -414,9 +458,9 @@ def simulated_runs_without_end(place):
 
 
 ATTACKS = [
-    long_notice, path_of_50_megabytes, second_host_takes_a_free_place,
+    message_of_a_training_that_was_not_kept, long_notice, path_of_50_megabytes, second_host_takes_a_free_place,
     second_host_beside_one_that_hangs, odd_files_in_the_spool, module_that_does_not_end,
-    spool_that_is_a_file,
+    soundfont_that_is_a_pipe, spool_that_is_a_file,
     link_in_the_folder_for_temporary_files, folder_that_others_write, rights_under_umask_0,
     anonymous,
     callers_that_come_and_go, callers_that_stay, end_of_descriptors, caller_that_does_not_read,

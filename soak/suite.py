@@ -114,7 +114,7 @@ class Place:
         return self.started[-1]
 
     def screen(self, size="1024x768"):
-        """A screen of its own, for programs that are started from here on."""
+        """A screen of its own with a window manager, for programs that are started from here on."""
         told, teller = os.pipe()
         self.started.append(subprocess.Popen(
             ["Xvfb", "-displayfd", str(teller), "-screen", "0", f"{size}x24", "-noreset"],
@@ -123,6 +123,9 @@ class Place:
         with os.fdopen(told) as number:
             display = ":" + number.readline().strip()
         self.environment.update(DISPLAY=display, QT_QPA_PLATFORM="xcb")
+        self.started.append(subprocess.Popen(
+            ["openbox"], env=self.environment, stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL))
 
     def tool(self, *arguments):
         """What xdotool says; "" when it fails."""
