@@ -52,6 +52,7 @@ class Caller(DBusConnectionBase):
 
     def __init__(self, socket, patience=10.0):
         super().__init__(prep_socket(str(socket), timeout=patience))
+        self.sock.settimeout(patience)  # a host that hangs takes nothing off the line
 
     def send(self, key, argument="", standard=""):
         """Asks and does not wait. @return the call's serial number"""
@@ -62,7 +63,10 @@ class Caller(DBusConnectionBase):
 
     def request(self, key, argument="", standard="", patience=10.0):
         """@return (carried out?, result)  @raise TimeoutError, ConnectionError"""
-        serial = self.send(key, argument, standard)
+        return self.answer(self.send(key, argument, standard), patience)
+
+    def answer(self, serial, patience=10.0):
+        """What was answered to a call that was sent; answers to earlier calls are passed over."""
         end = time.monotonic() + patience
         while True:
             message = self._receive(end)
@@ -156,13 +160,24 @@ def descriptors(process):
     return len(os.listdir(f"/proc/{process}/fd"))
 
 
-def arguments(description):
-    """The command line that every part has."""
+def children(process):
+    """The processes that it has started, or adopted, and that have not been waited for."""
+    try:
+        return [int(child) for thread in pathlib.Path(f"/proc/{process}/task").glob("*/children")
+                for child in thread.read_text().split()]
+    except OSError:  # it has ended meanwhile
+        return []
+
+
+def arguments(description, **more):
+    """The command line that every part has. @param more options of this part: name=dict(...)"""
     parser = argparse.ArgumentParser(description=description)
     parser.add_argument("--bin", required=True, help="folder of the programs")
     parser.add_argument("--seconds", type=float, default=10, help="how long (default 10)")
     parser.add_argument("--seed", type=int, default=int(time.time()),
                         help="the same seed makes the same choices (default: the time)")
+    for name, about in more.items():
+        parser.add_argument(f"--{name}", **about)
     given = parser.parse_args()
     random.seed(given.seed)
     return given
