@@ -144,6 +144,8 @@ class Night:
     def restart(self):
         """A host that answers, and has what it must have. Some are killed before they answer."""
         while self.chance.random() < 0.2:
+            for _ in range(self.chance.choice((0, 0, 0, 8))):
+                self.results.write(self.chance, dies=True)
             host, _ = self.begin(*self.chance.choice(((), ("--start", "zepha9"))))
             time.sleep(self.chance.random() * 0.12)
             kill(host.pid, self.chance)
@@ -268,7 +270,7 @@ class Night:
             self.fault(f"RAISE {wish}: {answer}, modules {modules}")
             return
         self.writer.beside = False
-        time.sleep(self.chance.choice((0.02, 0.4)) * self.chance.random())
+        time.sleep(self.chance.choice((0.002, 0.02, 0.4)) * self.chance.random())
         with Reader(self.place.store) as reader:
             told = "SELECT COUNT(*) FROM log WHERE kind = 'error' AND content LIKE ?"
             status = kill(modules[0], self.chance)
@@ -280,7 +282,8 @@ class Night:
             if not until(lambda: not children(self.host.pid), GONE, 0.003):
                 self.fault("the killed module is not waited for")
             if not until(lambda: reader.rows(told, like)[0][0] > before, GONE, 0.003):
-                self.fault(f"nothing tells that the module ended with {-status}")
+                self.fault(f"nothing tells that the module ended with {-status}: "
+                           + reader.log()[-300:])
         self.check(module_gone=True)
         self.gate.open()
 
@@ -319,8 +322,8 @@ class Night:
 
 
 def main():
-    given = arguments(__doc__, kills=dict(type=int, default=0,
-                                          help="so many instead of --seconds (a night: 2000)"))
+    given = arguments(__doc__, lambda parser: parser.add_argument(
+        "--kills", type=int, default=0, help="so many instead of --seconds (a night: 2000)"))
     PR_SET_CHILD_SUBREAPER = 36  # a module whose host was killed comes to this process
     ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
     night = Night(given)
