@@ -10,8 +10,8 @@ namespace hostlink {
 
 /// Deepest nesting of arrays that a call carries; a D-Bus message with more is dropped on the way.
 inline constexpr int maximumDepth = 24;
-/// Most bytes of text that one call carries.
-inline constexpr std::size_t maximumBytes = std::size_t{56} << 20;
+/// Most bytes of text that one call carries; the host takes no longer one.
+inline constexpr std::size_t maximumBytes = std::size_t{14} << 20;
 
 /// A value as D-Bus carries it: truth `b`, number `x` or `d`, text `s`, array `av`, or `as`, which
 /// is much faster, when it holds texts only. Nothing, which D-Bus does not know, travels as the

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 
+#include <utility>
+
 namespace melvora {
 
 namespace {
@@ -50,7 +52,6 @@ QString Collector::trouble() const {
 Collector::Harvest Collector::collect(When when) {
     Harvest harvest;
     const QDir spool(folder_);
-    taken_ = 0;
     // Also what is no file, or leads nowhere: it is told.
     const auto all = QDir::AllEntries | QDir::System | QDir::Hidden;
     for (const QString& name : spool.entryList({"RSX*.xml"}, all, QDir::Name)) {
@@ -63,7 +64,7 @@ Collector::Harvest Collector::collect(When when) {
     if (when == When::AfterRun)
         for (const QString& name : spool.entryList({"RSX*.xml" + unfinished}, QDir::Files))
             harvest.unreadable.append(putAside(spool, name));
-    harvest.taken = taken_;
+    harvest.taken = std::exchange(taken_, 0);
     return harvest;
 }
 

@@ -40,7 +40,7 @@ class Collector {
 
     QString folder_;
     Results& results_;
-    int taken_ = 0;
+    int taken_ = 0;  ///< not told yet
     QSet<QString> told_;
 };
 

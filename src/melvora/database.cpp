@@ -3,7 +3,6 @@
 #include "melvora/permissions.h"
 
 #include <QDir>
-#include <QSqlError>
 #include <QSqlRecord>
 #include <QUuid>
 
@@ -87,11 +86,11 @@ Database::~Database() {
 void Database::open() {
     QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", name_);
     database.setDatabaseName(path_);
-    database.setConnectOptions("QSQLITE_BUSY_TIMEOUT=2000");
-    if (!database.open()) fail(database.lastError().databaseText());
+    if (!database.open()) fail(database.lastError());
+    setPatience(std::chrono::seconds(2));
     for (const char* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL"}) {
         QSqlQuery query(database);
-        if (!query.exec(pragma)) fail(query.lastError().databaseText());
+        if (!query.exec(pragma)) fail(query.lastError());
     }
 }
 
@@ -99,7 +98,7 @@ void Database::makeTables() {
     const QSqlDatabase database = QSqlDatabase::database(name_);
     const auto execute = [&](const QString& sql) {
         QSqlQuery query(database);
-        if (!query.exec(sql)) fail(query.lastError().databaseText());
+        if (!query.exec(sql)) fail(query.lastError());
     };
     for (const char* table : tables) execute(table);
     for (const Column& column : addedColumns)
@@ -112,12 +111,12 @@ void Database::makeTables() {
 /// A database of a newer program is left alone.
 void Database::checkSchema() {
     QSqlQuery query(QSqlDatabase::database(name_));
-    if (!query.exec("PRAGMA user_version") || !query.next()) fail(query.lastError().databaseText());
+    if (!query.exec("PRAGMA user_version") || !query.next()) fail(query.lastError());
     const int found = query.value(0).toInt();
     query.finish();
     if (found > schema) fail("was written by a newer Melvora; install that one");
     if (found < schema && !query.exec(QString("PRAGMA user_version = %1").arg(schema)))
-        fail(query.lastError().databaseText());
+        fail(query.lastError());
 }
 
 int Database::run(const QString& sql, const QVariantList& values, const Row& row) {
@@ -125,23 +124,23 @@ int Database::run(const QString& sql, const QVariantList& values, const Row& row
     if (found == statements_.end()) {
         QSqlQuery fresh(QSqlDatabase::database(name_));
         fresh.setForwardOnly(true);
-        if (!fresh.prepare(sql)) fail(fresh.lastError().databaseText());
+        if (!fresh.prepare(sql)) fail(fresh.lastError());
         found = statements_.emplace(sql, std::move(fresh)).first;
     }
     QSqlQuery& query = found->second;
     for (qsizetype i = 0; i < values.size(); ++i)
         query.bindValue(static_cast<int>(i), bound(values[i]));
     if (!query.exec()) {
-        const QString cause = query.lastError().databaseText();
+        const QSqlError error = query.lastError();
         query.finish();
-        fail(cause);
+        fail(error);
     }
     while (row && query.next()) row(query);
     // A list that breaks off in the middle is no shorter list.
     const QSqlError broken = query.lastError();
     const int changed = query.numRowsAffected();
     query.finish();
-    if (broken.isValid()) fail(broken.databaseText());
+    if (broken.isValid()) fail(broken);
     if (!query.isSelect() && identity() != identity_)
         fail(
             "the file was removed or replaced while Melvora runs; quit Melvora and start it again");
@@ -154,13 +153,26 @@ Database::Identity Database::identity() const {
     return {about.st_dev, about.st_ino};
 }
 
+void Database::setPatience(std::chrono::milliseconds patience) {
+    QSqlQuery query(QSqlDatabase::database(name_));
+    if (!query.exec(QString("PRAGMA busy_timeout = %1").arg(patience.count())))
+        fail(query.lastError());
+}
+
 void Database::fail(const QString& cause) const {
     throw StoreError((path_ + ": " + cause).toStdString());
 }
 
+void Database::fail(const QSqlError& error) const {
+    // The lower eight bits of an error are its kind; the others say more about it.
+    constexpr int kind = 0xff, busy = 5;
+    if ((error.nativeErrorCode().toInt() & kind) != busy) fail(error.databaseText());
+    throw StoreBusy((path_ + ": another program holds the database").toStdString());
+}
+
 Transaction::Transaction(Database& database) : database_(database) {
     auto connection = QSqlDatabase::database(database.name_);
-    if (!connection.transaction()) database.fail(connection.lastError().databaseText());
+    if (!connection.transaction()) database.fail(connection.lastError());
 }
 
 Transaction::~Transaction() {
@@ -169,7 +181,7 @@ Transaction::~Transaction() {
 
 void Transaction::commit() {
     auto connection = QSqlDatabase::database(database_.name_);
-    if (!connection.commit()) database_.fail(connection.lastError().databaseText());
+    if (!connection.commit()) database_.fail(connection.lastError());
     open_ = false;
 }
 

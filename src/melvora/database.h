@@ -1,9 +1,11 @@
 #pragma once
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QString>
 #include <QVariantList>
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <stdexcept>
@@ -15,6 +17,12 @@ namespace melvora {
 class StoreError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
+};
+
+/// Another program holds the database; what was wanted was not done, and may be tried again.
+class StoreBusy : public StoreError {
+  public:
+    using StoreError::StoreError;
 };
 
 /// One connection to the store's database. A statement is prepared at its first use and kept.
@@ -36,6 +44,10 @@ class Database {
     /// @throws StoreError also when the file is another one by now: what was written is lost then
     int run(const QString& sql, const QVariantList& values = {}, const Row& row = {});
 
+    /// How long a statement waits while another program holds the database, before StoreBusy: two
+    /// seconds from the start.
+    void setPatience(std::chrono::milliseconds patience);
+
     const QString& path() const { return path_; }
 
   private:
@@ -45,6 +57,7 @@ class Database {
     void checkSchema();
     void makeTables();
     [[noreturn]] void fail(const QString& cause) const;
+    [[noreturn]] void fail(const QSqlError& error) const;
 
     /// Tells one file from another that bears its name.
     using Identity = std::pair<quint64, quint64>;

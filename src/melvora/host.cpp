@@ -7,6 +7,13 @@
 
 namespace melvora {
 
+namespace {
+
+/// Results that the store did not take are offered again after so long.
+constexpr std::chrono::seconds untilAgain{2};
+
+}  // namespace
+
 Host::Host(Place place, Words& words)
     : place_(std::move(place)),
       words_(words),
@@ -24,50 +31,65 @@ Host::Host(Place place, Words& words)
         emit menuWanted();
     });
     connect(&spoolWatcher_, &QFileSystemWatcher::directoryChanged, this, &Host::collect);
+    again_.setSingleShot(true);
+    again_.setInterval(untilAgain);
+    connect(&again_, &QTimer::timeout, this, &Host::collect);
+}
+
+void Host::begin() {
+    store_.database.setPatience(std::chrono::milliseconds(0));
+    inTurn([this] { store_.log.prune(); });
+    prepareSpool();
+    collect();
 }
 
 QString Host::userKey() const { return user_ ? user_->key : QString(nobody); }
 
 bool Host::logIn(const QString& key) {
     const bool out = key.isEmpty() || key == nobody;
-    bool known = out;
-    guarded([&] {
-        const auto user = out ? std::nullopt : store_.users.find(key);
-        known = out || user;
-        if (!known || user == user_) return;
-        store_.settings.set("user", user ? user->key : QString());
-        user_ = user;
-        emit usersChanged();
-    });
-    return known;
+    std::optional<User> user;
+    if (!out) guarded([&] { user = store_.users.find(key); });
+    if (!out && !user) return false;
+    if (user != user_)
+        changeUsers([this, user] {
+            store_.settings.set("user", user ? user->key : QString());
+            user_ = user;
+        });
+    return true;
 }
 
 void Host::putUser(const User& user) {
-    guarded([&] {
+    changeUsers([this, user] {
         store_.users.put(user);
         if (userKey() == user.key) user_ = user;
-        emit usersChanged();
     });
 }
 
 void Host::removeUser(const QString& key) {
-    guarded([&] {
+    changeUsers([this, key] {
         store_.users.remove(key);
         if (userKey() == key) user_.reset();
+    });
+}
+
+/// Whoever shows the users shows them as they are, also when nothing could be changed.
+void Host::changeUsers(const Turns::Operation& change) {
+    inTurn(change, [this](const std::exception* fault) {
+        if (fault) tell(*fault);
         emit usersChanged();
     });
 }
 
 bool Host::chooseLanguage(const QString& language) {
     if (!words_.languages().contains(language)) return false;
-    guarded([&] { store_.settings.set("language", language); });
+    inTurn([this, language] { store_.settings.set("language", language); });
     words_.choose(language);
     emit languageChanged();
     return true;
 }
 
 void Host::chooseMidiDevice(const QString& name) {
-    guarded([&] { store_.settings.set("midi", name); });
+    inTurn([this, name] { store_.settings.set("midi", name); });
     midiDevice_ = name;
     emit midiDeviceChanged();
 }
@@ -114,7 +136,7 @@ void Host::removeTraining(const Training& training) {
         emit noticed(words_.wort(968));
         return;
     }
-    guarded([&] {
+    inTurn([this, training] {
         store_.trainings.remove(training);
         emit recordsChanged();
     });
@@ -129,38 +151,50 @@ void Host::onModuleEnded(int status) {
 }
 
 void Host::collect() {
-    guarded([this] {
+    const auto take = [this] {
         const bool running = module_.runs() && !handedOver_;
         const auto harvest =
             collector_.collect(running ? Collector::When::DuringRun : Collector::When::AfterRun);
         for (const QString& path : harvest.unreadable) notice(words_.wort(944).arg(path));
         if (harvest.taken > 0) emit resultsChanged();
+    };
+    inTurn(take, [this](const std::exception* fault) {
+        const std::string trouble = fault ? fault->what() : "";
+        if (fault && trouble != collectTrouble_) tell(*fault);
+        if (fault) again_.start();
+        collectTrouble_ = trouble;
     });
 }
 
 void Host::log(LogKind kind, const QString& text) {
-    guarded([&] {
-        store_.log.write(kind, userKey(), text);
+    inTurn([this, kind, user = userKey(), text] {
+        store_.log.write(kind, user, text);
         emit logChanged();
     });
 }
 
-bool Host::guarded(const std::function<void()>& operation) {
+void Host::guarded(const std::function<void()>& operation) {
     try {
         operation();
-        return true;
     } catch (const StoreError& error) {
         tell(error);
-        return false;
     }
 }
 
-void Host::tell(const StoreError& error) {
-    emit noticed(words_.wort(945).arg(QString::fromUtf8(error.what())));
+void Host::inTurn(Turns::Operation operation, Turns::End end) {
+    if (!end)
+        end = [this](const std::exception* fault) {
+            if (fault) tell(*fault);
+        };
+    turns_.run(std::move(operation), std::move(end));
 }
 
 void Host::tell(const std::exception& fault) {
-    notice(words_.wort(973).arg(QString::fromUtf8(fault.what())));
+    const QString cause = QString::fromUtf8(fault.what());
+    if (dynamic_cast<const StoreError*>(&fault))
+        emit noticed(words_.wort(945).arg(cause));
+    else
+        notice(words_.wort(973).arg(cause));
 }
 
 void Host::notice(const QString& text) {

@@ -2,6 +2,7 @@
 #include "melvora/collector.h"
 #include "melvora/module_process.h"
 #include "melvora/store.h"
+#include "melvora/turns.h"
 #include "melvora/words.h"
 
 #include <QFileSystemWatcher>
@@ -14,7 +15,7 @@ namespace melvora {
 
 /// The resident host without its window: who is logged in, the choices, the module that runs, the
 /// collected results, the log. Where the store fails, an operation here tells so by noticed() and
-/// leaves things as they were.
+/// leaves things as they were; where another program holds it, the operation waits its turn.
 class Host : public QObject {
     Q_OBJECT
   public:
@@ -26,6 +27,9 @@ class Host : public QObject {
 
     /// @throws StoreError when the store cannot be opened or read.
     Host(Place place, Words& words);
+    /// From here on the event loop runs, and nothing stands still for a store that is held: takes
+    /// up what lies in the spool, and bounds the log.
+    void begin();
 
     Store& store() { return store_; }
     const Words& words() const { return words_; }
@@ -62,10 +66,12 @@ class Host : public QObject {
     void prepareSpool();
 
     void log(LogKind kind, const QString& text);
-    /// Runs what writes to the store. @return false, after telling, when the store fails.
-    bool guarded(const std::function<void()>& operation);
-    void tell(const StoreError& error);
-    /// Logs and tells what nobody caught.
+    /// Runs what reads from the store, now. What fails is told.
+    void guarded(const std::function<void()>& operation);
+    /// Runs an operation on the store in its turn (see Turns). What fails is told, unless `end` is
+    /// given and sees to it.
+    void inTurn(Turns::Operation operation, Turns::End end = {});
+    /// Logs and tells a fault; one of the store cannot be logged there.
     void tell(const std::exception& fault);
 
   signals:
@@ -85,14 +91,19 @@ class Host : public QObject {
     /// Logs what went wrong, and tells it.
     void notice(const QString& text);
     void onModuleEnded(int status);
+    void changeUsers(const Turns::Operation& change);
 
     const Place place_;
     Words& words_;
     Store store_;
+    Turns turns_;
     Collector collector_;
     ModuleProcess module_;
     QFileSystemWatcher spoolWatcher_;
     QString spoolTrouble_;  ///< told last
+    /// Told last of the results that the store did not take; they are offered again.
+    std::string collectTrouble_;
+    QTimer again_;
     std::optional<User> user_;
     QString midiDevice_;
     bool handedOver_ = false;

@@ -43,7 +43,7 @@ void LogPage::retranslate() {
 }
 
 void LogPage::fill() {
-    host_.guarded([this] {
+    host_.inTurn([this] {
         Log::Filter filter{text_->text(), {}};
         if (kind_->currentIndex() == 1) filter.kind = LogKind::Message;
         if (kind_->currentIndex() == 2) filter.kind = LogKind::Error;

@@ -107,11 +107,7 @@ int serve(const std::string& socket, const Options& options, look::Application& 
     if (!options.module ||
         !host.startModule(*options.module, options.settingsFile.value_or(QString())))
         window.show();
-    QTimer::singleShot(0, &host, [&host] {
-        host.guarded([&host] { host.store().log.prune(); });
-        host.prepareSpool();
-        host.collect();
-    });
+    QTimer::singleShot(0, &host, &Host::begin);
     const int status = QApplication::exec();
     application.uncaught = nullptr;
     return status;

@@ -20,45 +20,54 @@ bool isText(const core::Value& value) {
 
 }  // namespace
 
-Requests::Handler Requests::handlerOf(const QString& key) {
-    struct Row {
-        const char* key;
-        Handler handler;
-    };
+const Requests::Row* Requests::rowOf(const QString& key) {
     static constexpr Row rows[] = {
         {"APP", &Requests::app},
         {"MIDI", &Requests::midi},
         {"LANG", &Requests::lang},
         {"LOGIN", &Requests::login},
-        {"READ", &Requests::read},
-        {"STORE", &Requests::store},
+        {"READ", &Requests::read, true},
+        {"STORE", &Requests::store, true},
         {"LOGMESS", &Requests::logMessage},
         {"LOGERR", &Requests::logError},
         {"MENUE", &Requests::menue},
         {"RAISE", &Requests::raise},
     };
     const auto row = std::ranges::find_if(rows, [&](const Row& r) { return key == r.key; });
-    return row == std::end(rows) ? nullptr : row->handler;
+    return row == std::end(rows) ? nullptr : row;
 }
 
-bool Requests::answer(const QString& key, const std::optional<core::Value>& argument,
-                      core::Value& result) {
+void Requests::answer(const QString& key, std::optional<core::Value> argument, core::Value standard,
+                      const Reply& reply) {
+    const Row* const row = rowOf(key);
+    // A store that fails says why.
+    const auto refused = [=, this](const std::exception& fault) {
+        tell(key, fault);
+        reply(false, key == "STORE" ? core::Value(fault.what()) : standard);
+    };
+    const auto carryOut = [=, this, argument = std::move(argument)] {
+        if (!row) throw Refusal("no such key");
+        if (!argument) throw Refusal("the argument is of an unknown type");
+        core::Value result = standard;
+        (this->*row->handler)(*argument, result);
+        reply(true, result);
+    };
+    if (row && row->usesStore)
+        return host_.inTurn(carryOut, [=](const std::exception* fault) {
+            if (fault) refused(*fault);
+        });
     try {
-        const Handler handler = handlerOf(key);
-        if (!handler) throw Refusal{"no such key"};
-        if (!argument) throw Refusal{"the argument is of an unknown type"};
-        (this->*handler)(*argument, result);
-        return true;
-    } catch (const Refusal& refusal) {
-        refuse(key, refusal.cause);
-        if (key == "STORE") result = refusal.cause.toStdString();
-    } catch (const StoreError& error) {
-        host_.tell(error);
-        if (key == "STORE") result = error.what();
+        carryOut();
     } catch (const std::exception& fault) {
-        host_.tell(fault);
+        refused(fault);
     }
-    return false;
+}
+
+void Requests::tell(const QString& key, const std::exception& fault) {
+    if (dynamic_cast<const Refusal*>(&fault))
+        refuse(key, QString::fromUtf8(fault.what()));
+    else
+        host_.tell(fault);
 }
 
 /// Told the first, the tenth, the hundredth time ...: a caller that repeats itself fills no log.
@@ -95,7 +104,7 @@ void Requests::login(const core::Value&, core::Value& result) {
 Records::Address Requests::addressIn(const core::Value& argument) const {
     for (std::size_t i : {0u, 1u})
         if (!isText(argument.at(i)) || argument.at(i).text().empty())
-            throw Refusal{"executable and key must be texts"};
+            throw Refusal("executable and key must be texts");
     return {host_.userKey(), qt(argument.at(0).text()), qt(argument.at(1).text())};
 }
 
@@ -107,20 +116,20 @@ void Requests::read(const core::Value& argument, core::Value& result) {
 void Requests::store(const core::Value& argument, core::Value&) {
     const auto address = addressIn(argument);
     const core::Value& record = argument.at(2);
-    if (!record.isArray()) throw Refusal{"a record must be an array"};
+    if (!record.isArray()) throw Refusal("a record must be an array");
     if (const auto size = hostlink::byteSize(argument); size > largestRecord)
-        throw Refusal{QString("the record is too big: %1 bytes").arg(size)};
+        throw Refusal(QString("the record is too big: %1 bytes").arg(size));
     host_.store().records.store(address, record);
     emit host_.recordsChanged();
 }
 
 void Requests::logMessage(const core::Value& argument, core::Value&) {
-    if (!isText(argument)) throw Refusal{"the message must be a text"};
+    if (!isText(argument)) throw Refusal("the message must be a text");
     host_.log(LogKind::Message, qt(argument.text()));
 }
 
 void Requests::logError(const core::Value& argument, core::Value&) {
-    if (argument.items().size() != 4) throw Refusal{"an error has four elements"};
+    if (argument.items().size() != 4) throw Refusal("an error has four elements");
     host_.log(LogKind::Error, QString("%1: %2 (%3, %4)")
                                   .arg(qt(argument.at(0).text()), qt(argument.at(2).text()),
                                        qt(argument.at(1).text()), qt(argument.at(3).text())));
@@ -132,13 +141,13 @@ void Requests::raise(const core::Value& argument, core::Value&) {
     const QString module = qt(argument.isArray() ? argument.at(0).text() : argument.text());
     const QString file = qt(argument.at(1).text());
     if (!(module.isEmpty() && file.isEmpty()) && !ModuleProcess::known().contains(module))
-        throw Refusal{"no such module"};
+        throw Refusal("no such module");
     if (!file.isEmpty() && !QDir::isAbsolutePath(file))
-        throw Refusal{"the file's path must be absolute"};
-    if (file.size() >= PATH_MAX) throw Refusal{"the file's path is too long"};
+        throw Refusal("the file's path must be absolute");
+    if (file.size() >= PATH_MAX) throw Refusal("the file's path is too long");
     emit host_.raiseWanted();
     if (!module.isEmpty() && !host_.startModule(module, file))
-        throw Refusal{"the file cannot be read"};
+        throw Refusal("the file cannot be read");
 }
 
 }  // namespace melvora

@@ -5,7 +5,9 @@
 #include <QString>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <stdexcept>
 
 namespace melvora {
 
@@ -30,22 +32,32 @@ class Requests {
     /// Most bytes of one record.
     static constexpr std::size_t largestRecord = std::size_t{8} << 20;
 
+    /// Hears once whether the request was carried out, and its result.
+    using Reply = std::function<void(bool carriedOut, const core::Value& result)>;
+
     explicit Requests(Host& host) : host_(host) {}
 
+    /// Replies at once; to READ and STORE, where another program holds the store, as soon as that
+    /// is free, and after Turns::patience in any case. One that cannot be carried out is refused,
+    /// with a line in the log.
     /// @param argument nothing when it was of a type that no value has
-    /// @param result in: what stands unless the request gives a result; out: the result
-    /// @return true when the request was carried out. One that cannot be is refused: false, with a
-    /// line in the log.
-    bool answer(const QString& key, const std::optional<core::Value>& argument,
-                core::Value& result);
+    /// @param standard the result unless the request gives one
+    void answer(const QString& key, std::optional<core::Value> argument, core::Value standard,
+                const Reply& reply);
 
   private:
-    struct Refusal {
-        QString cause;
+    class Refusal : public std::runtime_error {
+      public:
+        explicit Refusal(const QString& cause) : std::runtime_error(cause.toStdString()) {}
     };
     using Handler = void (Requests::*)(const core::Value& argument, core::Value& result);
+    struct Row {
+        const char* key;
+        Handler handler;
+        bool usesStore = false;
+    };
 
-    static Handler handlerOf(const QString& key);
+    static const Row* rowOf(const QString& key);
 
     void app(const core::Value&, core::Value& result);
     void midi(const core::Value&, core::Value& result);
@@ -58,6 +70,7 @@ class Requests {
     void menue(const core::Value&, core::Value&);
     void raise(const core::Value& argument, core::Value&);
 
+    void tell(const QString& key, const std::exception& fault);
     void refuse(const QString& key, const QString& cause);
 
     Records::Address addressIn(const core::Value& argument) const;

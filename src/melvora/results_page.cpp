@@ -34,7 +34,7 @@ void ResultsPage::retranslate() {
 }
 
 void ResultsPage::fill() {
-    host_.guarded([this] {
+    host_.inTurn([this] {
         const Words& words = host_.words();
         results_ = host_.store().results.all();
         QList<QStringList> rows;

@@ -5,7 +5,12 @@
 
 #include <QDBusConnection>
 #include <QDBusError>
+#include <QDBusMessage>
 
+#include <dbus/dbus.h>
+#include <sys/resource.h>
+
+#include <algorithm>
 #include <filesystem>
 #include <stdexcept>
 
@@ -17,10 +22,29 @@ namespace {
 /// it listens under this name and takes the known one when it is ready.
 std::string provisional(const std::string& socketPath) { return socketPath + ".new"; }
 
+/// The largest record, with what a call adds to it.
+constexpr long longestCall = long{16} << 20;
+/// A caller that fetches none of so many bytes of answers is let go.
+constexpr long mostUnread = long{16} << 20;
+
+DBusConnection* handle(const QDBusConnection& connection) {
+    return static_cast<DBusConnection*>(connection.internalPointer());
+}
+
+/// The one module, and hosts that hand something over, are a few. Never so many that descriptors
+/// run out: then the server could not even turn a caller away, and would try without end.
+qsizetype mostCallersHere() {
+    constexpr rlim_t most = 64;
+    rlimit descriptors{};
+    if (getrlimit(RLIMIT_NOFILE, &descriptors) != 0) return most;
+    return static_cast<qsizetype>(std::clamp<rlim_t>(descriptors.rlim_cur / 4, 2, most));
+}
+
 }  // namespace
 
 Server::Server(const std::string& socketPath, Requests& requests)
     : socketPath_(socketPath),
+      mostCallers_(mostCallersHere()),
       server_(QString::fromStdString(hostlink::addressOf(provisional(socketPath)))),
       requests_(requests) {
     if (!server_.isConnected())
@@ -44,18 +68,37 @@ void Server::takeIn(QDBusConnection caller) {
         QDBusConnection::disconnectFromPeer(name);
         return true;
     });
-    if (callers_.size() >= mostCallers) return QDBusConnection::disconnectFromPeer(caller.name());
+    if (callers_.size() >= mostCallers_) return letGo(caller);
+    if (DBusConnection* open = handle(caller))
+        dbus_connection_set_max_message_size(open, longestCall);
     callers_.append(caller.name());
     caller.registerObject(hostlink::objectPath, this, QDBusConnection::ExportAllSlots);
 }
 
+/// Closed at once: the library would wait until its last call has been answered.
+void Server::letGo(const QDBusConnection& caller) {
+    if (DBusConnection* open = handle(caller)) dbus_connection_close(open);
+    callers_.removeOne(caller.name());
+    QDBusConnection::disconnectFromPeer(caller.name());
+}
+
 bool Server::Request(const QString& key, const QDBusVariant& argument, const QDBusVariant& standard,
-                     QDBusVariant& result) {
-    core::Value value;
-    if (auto given = hostlink::fromVariant(standard.variant())) value = std::move(*given);
-    const bool answer = requests_.answer(key, hostlink::fromVariant(argument.variant()), value);
-    result = QDBusVariant(hostlink::toVariant(value));
-    return answer;
+                     QDBusVariant& /*result*/) {
+    setDelayedReply(true);
+    if (!callers_.contains(connection().name())) return {};
+    if (DBusConnection* open = handle(connection());
+        open && dbus_connection_get_outgoing_size(open) > mostUnread) {
+        letGo(connection());
+        return {};
+    }
+    requests_.answer(
+        key, hostlink::fromVariant(argument.variant()),
+        hostlink::fromVariant(standard.variant()).value_or(core::Value()),
+        [caller = connection(), call = message()](bool carriedOut, const core::Value& value) {
+            const QDBusVariant result(hostlink::toVariant(value));
+            caller.send(call.createReply({carriedOut, QVariant::fromValue(result)}));
+        });
+    return {};
 }
 
 }  // namespace melvora

@@ -1,6 +1,7 @@
 #pragma once
 #include "melvora/requests.h"
 
+#include <QDBusContext>
 #include <QDBusServer>
 #include <QDBusVariant>
 #include <QObject>
@@ -10,8 +11,9 @@
 
 namespace melvora {
 
-/// Offers the host's operation on its socket, to programs of the same user only.
-class Server : public QObject {
+/// Offers the host's operation on its socket, to programs of the same user only. What a caller can
+/// make the host keep is bounded: callers, the size of a call, answers that nobody fetches.
+class Server : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.melvora.Host1")
   public:
@@ -23,15 +25,16 @@ class Server : public QObject {
     Server& operator=(const Server&) = delete;
 
   public slots:
+    /// The answer follows, at once or when the store is free.
     bool Request(const QString& key, const QDBusVariant& argument, const QDBusVariant& standard,
                  QDBusVariant& result);
 
   private:
-    /// Most callers at a time: the one module, and hosts that hand something over.
-    static constexpr qsizetype mostCallers = 64;
     void takeIn(QDBusConnection caller);
+    void letGo(const QDBusConnection& caller);
 
     const std::string socketPath_;
+    const qsizetype mostCallers_;
     QStringList callers_;  ///< names of their connections
     QDBusServer server_;
     Requests& requests_;

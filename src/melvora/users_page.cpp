@@ -122,7 +122,9 @@ void UsersPage::add() {
     if (dialog.exec() != QDialog::Accepted) return;
     const User user = dialog.user();
     host_.putUser(user);
-    if (!host_.user()) host_.logIn(user.key);
+    host_.inTurn([this, key = user.key] {
+        if (!host_.user()) host_.logIn(key);
+    });
     choose(user.key);
 }
 

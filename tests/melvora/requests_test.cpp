@@ -1,9 +1,15 @@
 #include "melvora/requests.h"
 
 #include <QDir>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <memory>
 
 namespace melvora {
 namespace {
@@ -12,10 +18,28 @@ using core::Value;
 
 class RequestsTest : public testing::Test {
   protected:
+    struct Answer {
+        bool carriedOut;
+        Value result;
+    };
+    /// Nothing as long as there is no reply.
+    std::shared_ptr<std::optional<Answer>> send(const QString& key,
+                                                const std::optional<Value>& argument,
+                                                const Value& standard = {}) {
+        auto answer = std::make_shared<std::optional<Answer>>();
+        requests_.answer(key, argument, standard, [answer](bool carriedOut, const Value& result) {
+            EXPECT_FALSE(*answer) << "one reply";
+            *answer = Answer{carriedOut, result};
+        });
+        return answer;
+    }
     Value ask(const char* key, const Value& argument, const Value& standard = {}) {
-        Value result = standard;
-        EXPECT_TRUE(requests_.answer(key, argument, result)) << key;
-        return result;
+        const auto answer = send(key, argument, standard);
+        EXPECT_TRUE(*answer && (*answer)->carriedOut) << key;
+        return *answer ? (*answer)->result : Value();
+    }
+    std::shared_ptr<std::optional<Answer>> store(const std::string& text) {
+        return send("STORE", Value(Value::Array{"zepha9", "E1", Value::Array{text, 1}}));
     }
 
     QTemporaryDir folder_;
@@ -50,9 +74,10 @@ TEST_F(RequestsTest, WhatCannotBeCarriedOutIsRefusedAndLogged) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         const auto before = host_.store().log.lines({}).size();
-        Value result("default");
-        EXPECT_FALSE(requests_.answer(row.key, row.argument, result));
-        EXPECT_EQ(result == Value("default"), row.key != "STORE") << "a store says why";
+        const auto answer = send(row.key, row.argument, "default");
+        ASSERT_TRUE(*answer);
+        EXPECT_FALSE((*answer)->carriedOut);
+        EXPECT_EQ((*answer)->result == Value("default"), row.key != "STORE") << "a store says why";
         const auto lines = host_.store().log.lines({});
         ASSERT_GT(lines.size(), before);
         EXPECT_EQ(lines.first().kind, LogKind::Error);
@@ -94,22 +119,53 @@ TEST_F(RequestsTest, TellsLanguageAndDeviceAndTakesMessagesAndErrors) {
 TEST_F(RequestsTest, AFullDiskIsToldOfWithItsPathAndLosesNothing) {
     QStringList notices;
     QObject::connect(&host_, &Host::noticed, [&](const QString& text) { notices.append(text); });
-    const auto store = [&](const std::string& text) {
-        Value result;
-        return requests_.answer("STORE", Value(Value::Array{"zepha9", "E1", Value::Array{text, 1}}),
-                                result);
-    };
-    EXPECT_TRUE(store("kept"));
+    const auto kept = [&](const std::string& text) { return (*store(text))->carriedOut; };
+    EXPECT_TRUE(kept("kept"));
     Database& database = host_.store().database;
     QString pages;
     database.run("PRAGMA page_count", {},
                  [&](const QSqlQuery& row) { pages = row.value(0).toString(); });
     database.run("PRAGMA max_page_count = " + pages, {}, [](const auto&) {});
-    EXPECT_FALSE(store(std::string(1 << 20, 'x')));
+    EXPECT_FALSE(kept(std::string(1 << 20, 'x')));
     ASSERT_EQ(notices.size(), 1);
     EXPECT_TRUE(notices[0].contains(database.path()));
     EXPECT_EQ(ask("READ", Value::Array{"zepha9", "E1"}).at(0), Value("kept"));
-    EXPECT_TRUE(store("small"));
+    EXPECT_TRUE(kept("small"));
+}
+
+/// While another program holds the database, everything else is answered, and what waits is done in
+/// its order as soon as it can be.
+TEST_F(RequestsTest, AStoreThatIsHeldMakesOnlyThoseWaitWhoNeedIt) {
+    host_.begin();
+    auto other = QSqlDatabase::addDatabase("QSQLITE", "other");
+    other.setDatabaseName(host_.store().database.path());
+    ASSERT_TRUE(other.open());
+    const auto hold = [&](bool held) {
+        EXPECT_TRUE(QSqlQuery(other).exec(held ? "BEGIN EXCLUSIVE" : "ROLLBACK"));
+    };
+    hold(true);
+    const auto first = store("first"), second = store("second");
+    host_.putUser({"jörg", "Doe", "Jörg", "4711"});
+    EXPECT_EQ(ask("LANG", ""), Value("Deutsch"));
+    EXPECT_FALSE(*first || *second);
+    hold(false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return host_.store().users.find("jörg").has_value(); }));
+    EXPECT_TRUE((*first)->carriedOut && (*second)->carriedOut);
+    EXPECT_EQ(ask("READ", Value::Array{"zepha9", "E1"}).at(0), Value("second"));
+
+    hold(true);
+    QFile record(folder_.filePath("spool/RSX261121120000.xml"));
+    ASSERT_TRUE(record.open(QIODevice::WriteOnly));
+    record.write("<exercise><properties programm='ZEPHA9'/><lessons/></exercise>");
+    record.close();
+    const auto third = store("third");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return third->has_value(); }));
+    EXPECT_FALSE((*third)->carriedOut);
+    EXPECT_TRUE(QString::fromStdString((*third)->result.text()).contains("melvora.sqlite"));
+    hold(false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return host_.store().results.all().size() == 1; }));
+    EXPECT_FALSE(record.exists());
+    other.close();
 }
 
 }  // namespace
