@@ -154,8 +154,13 @@ void Host::collect() {
     const auto take = [this] {
         const bool running = module_.runs() && !handedOver_;
         const auto harvest =
-            collector_.collect(running ? Collector::When::DuringRun : Collector::When::AfterRun);
-        for (const QString& path : harvest.unreadable) notice(words_.wort(944).arg(path));
+            collector_.collect(running ? Collector::When::DuringRun : Collector::When::AfterRun,
+                               [this](const QString& path) {
+                                   const QString text = words_.wort(944).arg(path);
+                                   store_.log.write(LogKind::Error, userKey(), text);
+                                   emit logChanged();
+                                   emit noticed(text);
+                               });
         if (harvest.taken > 0) emit resultsChanged();
     };
     inTurn(take, [this](const std::exception* fault) {
