@@ -272,16 +272,15 @@ class Night:
         self.writer.beside = False
         time.sleep(self.chance.choice((0.002, 0.02, 0.4)) * self.chance.random())
         with Reader(self.place.store) as reader:
-            told = "SELECT COUNT(*) FROM log WHERE kind = 'error' AND content LIKE ?"
+            last = reader.rows("SELECT COALESCE(MAX(id), 0) FROM log")[0][0]
             status = kill(modules[0], self.chance)
-            like = f"%zepha9%-{status}%"
-            before = reader.rows(told, like)[0][0]
+            told = "SELECT 1 FROM log WHERE kind = 'error' AND content LIKE ? AND id > ?"
             self.module_kills += 1
             self.gate.close()
             self.writer.beside = True
             if not until(lambda: not children(self.host.pid), GONE, 0.003):
                 self.fault("the killed module is not waited for")
-            if not until(lambda: reader.rows(told, like)[0][0] > before, GONE, 0.003):
+            if not until(lambda: reader.rows(told, f"%zepha9%-{status}%", last), GONE, 0.003):
                 self.fault(f"nothing tells that the module ended with {-status}: "
                            + reader.log()[-300:])
         self.check(module_gone=True)

@@ -171,10 +171,11 @@ class Results:
 
     def write(self, chance, beside=False, dies=False):
         """Writes one as the module does, and gives it its name when it is whole; with `beside` it
-        is written elsewhere; its writer `dies` in the middle. @raise OSError: it was not written"""
+        is written in a folder that the host does not look into; its writer `dies` in the middle.
+        @raise OSError: it was not written"""
         name = f"RSX26{next(self.numbers):010d}.xml"
         text = record_text(name, self.largest)
-        folder = self.place.home / "beside" if beside else self.place.spool
+        folder = self.place.spool / "beside" if beside else self.place.spool
         folder.mkdir(parents=True, exist_ok=True)
         part = folder / (name + ".part")
         try:
@@ -189,9 +190,10 @@ class Results:
                 os.fsync(file.fileno())
             os.rename(part, self.place.spool / name)
             self.arrived.append((name, text))
-        except FileNotFoundError:
-            self.begun.append((name, text, True))
-        except OSError:
+        except OSError as error:
+            if isinstance(error, FileNotFoundError) and not beside:
+                self.begun.append((name, text, True))
+                return
             part.unlink(missing_ok=True)
             raise
 
@@ -204,7 +206,10 @@ class Results:
 
     def check(self, rows, log):
         """@param rows query of the store  @param log the store's log as one text
-        Nothing may be waiting any more; what was found right is forgotten."""
+        What waits in the spool is looked at the next time; what was found right is forgotten."""
+        waiting = set(self.waiting())
+        waits = [pair for pair in self.arrived if pair[0] in waiting]
+        self.arrived = [pair for pair in self.arrived if pair[0] not in waiting]
         kept = dict(((name, text.encode()) for name, text in
                      rows("SELECT file_name, content FROM results")))
         for name, text in self.arrived:
@@ -215,8 +220,8 @@ class Results:
         for name, times in rows("SELECT file_name, COUNT(*) FROM results GROUP BY 1 HAVING COUNT(*) > 1"):
             self.faults.append(f"{name}: {times} times")
         self.collected += len(self.arrived)
-        self.arrived.clear()
-        if (count := rows("SELECT COUNT(*) FROM results")[0][0]) != self.collected:
+        self.arrived = waits
+        if (count := len(kept.keys() - waiting)) != self.collected:
             self.faults.append(f"{count} results are kept, {self.collected} have come")
         for name, text, whole in self.begun:
             aside = [path for path in self.place.spool.glob("unfinished-*") if path.name.endswith(name)]

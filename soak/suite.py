@@ -82,6 +82,8 @@ class Place:
     """A home, a socket and a data folder that nobody else uses. A context: what was started in it
     ends with it."""
 
+    prefix = ()  # command that starts a program, for example with fewer rights
+
     def __init__(self, binaries, **environment):
         self.binaries = pathlib.Path(binaries)
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="soak-"))
@@ -112,8 +114,9 @@ class Place:
         """Starts one of the project's programs; its output goes to the file `output`."""
         output = open(self.home / "output", "ab")
         self.started.append(subprocess.Popen(
-            [str(self.binaries / program), *arguments], env={**self.environment, **environment},
-            stdin=subprocess.DEVNULL, stdout=output, stderr=output))
+            [*self.prefix, str(self.binaries / program), *arguments],
+            env={**self.environment, **environment}, stdin=subprocess.DEVNULL, stdout=output,
+            stderr=output))
         output.close()
         return self.started[-1]
 
