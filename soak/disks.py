@@ -122,7 +122,7 @@ class Episode:
         refused, waited = self.stores.refused, 0
         self.gate.open()
         time.sleep(self.chance.random() * 0.3)
-        self.can_start, self.started_bad = True, False
+        self.can_start, self.started_bad, self.spool_bad = True, False, False
         trouble()
         if self.can_start and self.chance.random() < 0.25:
             self.start_in_trouble()
@@ -131,10 +131,12 @@ class Episode:
             time.sleep(0.05)
             waited = max(waited, len(self.results.waiting()))
         self.lives()
-        output = len(self.place.output())
         self.gate.close()
+        # Callers were given the reason; whoever looks after the machine finds it, too.
+        if self.stores.refused > refused and f"melvora: {self.place.store}: " not in self.place.output():
+            self.fault("stores are refused, and no line says so")
         self.give_back()
-        self.all_is_well(output)
+        self.all_is_well()
         self.night.refused[self.trouble] += self.stores.refused - refused
         self.night.waited[self.trouble] += waited
 
@@ -159,6 +161,8 @@ class Episode:
         if not until(lambda: self.host.poll() is not None or self.place.answers(), RESTART, 0.01):
             self.fault(f"a host that was started neither answers nor ends within {RESTART} s")
         if self.host.poll() is None:
+            if self.spool_bad and not until(lambda: str(self.place.spool) in self.log(), 2):
+                self.fault("the spool cannot be used, and the log does not say so")
             return
         self.night.refused_starts += 1
         told = self.place.output()[output:]
@@ -168,7 +172,7 @@ class Episode:
         self.give_back()
         self.host = self.place.host()
 
-    def all_is_well(self, output):
+    def all_is_well(self):
         """Everything has been given back: it stores, it takes what waited, nothing is missing."""
         if not self.lives():
             self.host = self.place.host()
@@ -211,6 +215,10 @@ class Episode:
             ledger.faults.clear()
         for disk in self.disks:
             disk.shrink()
+
+    def log(self):
+        with Reader(self.place.store) as reader:
+            return reader.log()
 
     def ask(self, key, argument=""):
         try:
@@ -289,6 +297,7 @@ class Episode:
             self.place.spool.write_text("in the way")
         elif how == "nowhere":
             self.place.spool.symlink_to(self.place.home / "nowhere")
+        self.spool_bad = how != "folder"
         return None
 
     def rights_gone(self):

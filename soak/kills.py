@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Kills the host and the module at random moments, and looks at what they have left. Every kill is
 followed by a start, which must find everything that was acknowledged."""
+import collections
 import ctypes
 import os
 import pathlib
@@ -54,7 +55,8 @@ class Night:
         self.chance = random.Random(given.seed)
         self.place = None
         self.host = None
-        self.restarts, self.faults = [], []
+        self.restarts = []
+        self.trial, self.faults = "host", collections.Counter()
         self.host_kills = self.early = self.module_kills = self.crowds = self.handed_over = 0
         self.takeovers = self.left_modules = 0
         self.acknowledged = self.collected = self.put_aside = 0
@@ -100,10 +102,13 @@ class Night:
             if not self.goes_on(end):
                 break
             self.restart()
+            self.trial = "module"
             for _ in range(self.chance.choice((0, 0, 1, 2))):
                 self.kill_module()
+            self.trial = "crowd"
             if self.chance.random() < 0.04:
                 self.crowd()
+            self.trial = "host"
             self.kill_host()
         self.restart()
         self.gate.end()
@@ -125,7 +130,7 @@ class Night:
         self.slowest = max([self.slowest, *(storer.slowest for storer in self.storers)])
 
     def fault(self, text):
-        self.faults.append(text)
+        self.faults[self.trial] += 1
         print(f"kills: seed {self.given.seed}, host kill {self.host_kills}, module kill "
               f"{self.module_kills}: {text}", file=sys.stderr, flush=True)
 
@@ -329,19 +334,21 @@ def main():
     begun = time.monotonic()
     night.run()
     report = Report()
-    held = not night.faults
-    times = night.restarts or [0]
-    report.row("host killed at random moments, and started again", f"{night.host_kills} kills", held,
+    times, faults = night.restarts or [0], night.faults
+    report.row("host killed at random moments, and started again", f"{night.host_kills} kills",
+               not faults["host"],
                f"{night.early} before it answered; {night.acknowledged} stores acknowledged, "
                f"{night.collected} records collected, {night.put_aside} unfinished ones put aside and "
-               f"told, {len(night.faults)} lost, doubled, damaged or other faults; answers again after "
+               f"told, {faults['host']} lost, doubled, damaged or other faults; answers again after "
                f"{statistics.median(times) * 1000:.0f} ms (median), {max(times) * 1000:.0f} ms (most); "
                f"slowest store {night.slowest:.2f} s")
-    report.row("module killed at random moments", f"{night.module_kills} kills", held,
-               f"{night.left_modules} left by killed hosts, all ended when told")
-    report.row("six hosts at once", f"{night.crowds} times", held,
+    report.row("module killed at random moments", f"{night.module_kills} kills",
+               not faults["module"],
+               f"{night.left_modules} left by killed hosts, all ended when told; "
+               f"{faults['module']} faults")
+    report.row("six hosts at once", f"{night.crowds} times", not faults["crowd"],
                f"{night.handed_over} handed over, {night.takeovers} took the place of a dead one; "
-               f"{time.monotonic() - begun:.0f} s in all")
+               f"{faults['crowd']} faults; {time.monotonic() - begun:.0f} s in all")
     report.end()
 
 

@@ -213,13 +213,13 @@ class Results:
         kept = dict(((name, text.encode()) for name, text in
                      rows("SELECT file_name, content FROM results")))
         for name, text in self.arrived:
+            self.collected += name in kept
             if name not in kept:
                 self.faults.append(f"{name}: lost")
             elif kept[name] != text:
                 self.faults.append(f"{name}: damaged")
         for name, times in rows("SELECT file_name, COUNT(*) FROM results GROUP BY 1 HAVING COUNT(*) > 1"):
             self.faults.append(f"{name}: {times} times")
-        self.collected += len(self.arrived)
         self.arrived = waits
         if (count := len(kept.keys() - waiting)) != self.collected:
             self.faults.append(f"{count} results are kept, {self.collected} have come")
