@@ -85,7 +85,7 @@ class Place:
     prefix = ()  # command that starts a program, for example with fewer rights
 
     def __init__(self, binaries, **environment):
-        self.binaries = pathlib.Path(binaries)
+        self.binaries = pathlib.Path(binaries).resolve()
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="soak-"))
         self.data = self.home / "data"
         self.spool = self.data / "spool"
@@ -119,6 +119,26 @@ class Place:
             stderr=output))
         output.close()
         return self.started[-1]
+
+    def screen(self, size="1024x768"):
+        """A screen of its own with a window manager, for programs that are started from here on."""
+        told, teller = os.pipe()
+        self.started.append(subprocess.Popen(
+            ["Xvfb", "-displayfd", str(teller), "-screen", "0", f"{size}x24", "-noreset"],
+            pass_fds=[teller], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        os.close(teller)
+        with os.fdopen(told) as number:
+            display = ":" + number.readline().strip()
+        self.environment.update(DISPLAY=display, QT_QPA_PLATFORM="xcb")
+        self.started.append(subprocess.Popen(
+            ["openbox"], env=self.environment, stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL))
+
+    def tool(self, *arguments):
+        """What xdotool says; "" when it fails."""
+        done = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment,
+                              capture_output=True, text=True, check=False)
+        return done.stdout.strip() if done.returncode == 0 else ""
 
     def host(self, *arguments, patience=30.0, **environment):
         """A host that answers."""
@@ -172,15 +192,22 @@ def children(process):
         return []
 
 
-def arguments(description, extend=lambda parser: None):
-    """The command line that every part has. @param extend adds what only one part has"""
-    parser = argparse.ArgumentParser(description=description)
-    parser.add_argument("--bin", required=True, help="folder of the programs")
-    parser.add_argument("--seconds", type=float, default=10, help="how long (default 10)")
-    parser.add_argument("--seed", type=int, default=int(time.time()),
-                        help="the same seed makes the same choices (default: the time)")
-    extend(parser)
-    given = parser.parse_args()
+def parser(description):
+    """The command line that every part has."""
+    options = argparse.ArgumentParser(description=description)
+    options.add_argument("--bin", required=True, help="folder of the programs")
+    options.add_argument("--seconds", type=float, default=10, help="how long (default 10)")
+    options.add_argument("--seed", type=int, default=int(time.time()),
+                         help="the same seed makes the same choices (default: the time)")
+    return options
+
+
+def arguments(description, extend=lambda options: None):
+    """What the command line says; chance begins with its seed. @param extend adds what only one part
+    has"""
+    options = parser(description)
+    extend(options)
+    given = options.parse_args()
     random.seed(given.seed)
     return given
 

@@ -21,8 +21,9 @@ struct LogLine {
 /// The suite's log. All operations throw StoreError.
 class Log {
   public:
-    /// A longer text is cut to this many characters, with its full length behind it.
-    static constexpr int longestText = 2000;
+    /// A longer text is cut to this many characters, with its full length behind it. Any path has
+    /// room.
+    static constexpr int longestText = 5000;
     /// The oldest lines beyond so many, or beyond so many characters in all, are dropped.
     static constexpr int mostLines = 100'000;
     static constexpr int mostText = 20'000'000;

@@ -9,6 +9,7 @@
 
 #include <dbus/dbus.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -75,9 +76,12 @@ void Server::takeIn(QDBusConnection caller) {
     caller.registerObject(hostlink::objectPath, this, QDBusConnection::ExportAllSlots);
 }
 
-/// Closed at once: the library would wait until its last call has been answered.
+/// The library would wait until the last call has been answered; so the socket ends at once, and
+/// the library's own thread finds it ended.
 void Server::letGo(const QDBusConnection& caller) {
-    if (DBusConnection* open = handle(caller)) dbus_connection_close(open);
+    int file = -1;
+    if (DBusConnection* open = handle(caller); open && dbus_connection_get_socket(open, &file) != 0)
+        shutdown(file, SHUT_RDWR);
     callers_.removeOne(caller.name());
     QDBusConnection::disconnectFromPeer(caller.name());
 }

@@ -46,6 +46,21 @@ TEST_F(StoreTest, ADatabaseThatIsNotTheOneItWasIsToldBeforeItCounts) {
     EXPECT_THROW(Store(folder_.path()), StoreError) << "of a newer program";
 }
 
+TEST_F(StoreTest, AListThatBreaksOffInTheMiddleIsNoShorterList) {
+    {
+        Store store(folder_.path());
+        Transaction all(store.database);
+        for (int i = 0; i < 500; ++i) store.log.write(LogKind::Message, nobody, QString(500, 'x'));
+        all.commit();
+    }
+    QFile file(folder_.filePath("melvora.sqlite"));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(file.size() / 2 / 4096 * 4096));
+    file.write(QByteArray(4096, '\xff'));
+    file.close();
+    Store store(folder_.path());
+    EXPECT_THROW(store.log.lines({}), StoreError);
+}
+
 TEST_F(StoreTest, SettingsOutliveTheProgram) {
     Store(folder_.path()).settings.set("midi", "Klavier „Ä“");
     EXPECT_EQ(Store(folder_.path()).settings.get("midi"), QString("Klavier „Ä“"));

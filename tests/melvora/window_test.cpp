@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QTextDocument>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -144,6 +145,21 @@ TEST_F(WindowTest, ChoosingAUserOnTheStartPageLogsThemIn) {
     host_.removeUser("anna");
     EXPECT_EQ(host_.userKey(), nobody);
     EXPECT_EQ((*found)->findData("anna"), -1);
+}
+
+TEST_F(WindowTest, WhatCameFromElsewhereIsPlainTextAndKeepsTheWindowsWidth) {
+    const QString text = "<img src='/etc/passwd'><b>bold</b>";
+    host_.log(LogKind::Message, text);
+    window_.open(MainWindow::LogLines);
+    emit host_.noticed('/' + QString(5000, 'x'));
+    settle();
+    EXPECT_LE(window_.minimumSizeHint().width(), 900);
+    EXPECT_LE(window_.minimumSizeHint().height(), 700);
+    const auto cell = window_.findChildren<QTableView*>().first()->model()->index(0, 3);
+    EXPECT_EQ(cell.data().toString(), text);
+    QTextDocument tip;
+    tip.setHtml(cell.data(Qt::ToolTipRole).toString());
+    EXPECT_EQ(tip.toPlainText(), text);
 }
 
 TEST_F(WindowTest, AUserIsSavedOnlyWithANameAndAFreeKey) {
