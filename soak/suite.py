@@ -52,6 +52,7 @@ class Caller(DBusConnectionBase):
 
     def __init__(self, socket, patience=10.0):
         super().__init__(prep_socket(str(socket), timeout=patience))
+        self.sock.settimeout(patience)  # a host that hangs takes nothing off the line
 
     def send(self, key, argument="", standard=""):
         """Asks and does not wait. @return the call's serial number"""
@@ -62,7 +63,10 @@ class Caller(DBusConnectionBase):
 
     def request(self, key, argument="", standard="", patience=10.0):
         """@return (carried out?, result)  @raise TimeoutError, ConnectionError"""
-        serial = self.send(key, argument, standard)
+        return self.answer(self.send(key, argument, standard), patience)
+
+    def answer(self, serial, patience=10.0):
+        """What was answered to a call that was sent; answers to earlier calls are passed over."""
         end = time.monotonic() + patience
         while True:
             message = self._receive(end)
@@ -77,6 +81,8 @@ class Caller(DBusConnectionBase):
 class Place:
     """A home, a socket and a data folder that nobody else uses. A context: what was started in it
     ends with it."""
+
+    prefix = ()  # command that starts a program, for example with fewer rights
 
     def __init__(self, binaries, **environment):
         self.binaries = pathlib.Path(binaries).resolve()
@@ -108,8 +114,9 @@ class Place:
         """Starts one of the project's programs; its output goes to the file `output`."""
         output = open(self.home / "output", "ab")
         self.started.append(subprocess.Popen(
-            [str(self.binaries / program), *arguments], env={**self.environment, **environment},
-            stdin=subprocess.DEVNULL, stdout=output, stderr=output))
+            [*self.prefix, str(self.binaries / program), *arguments],
+            env={**self.environment, **environment}, stdin=subprocess.DEVNULL, stdout=output,
+            stderr=output))
         output.close()
         return self.started[-1]
 
@@ -176,6 +183,15 @@ def descriptors(process):
     return len(os.listdir(f"/proc/{process}/fd"))
 
 
+def children(process):
+    """The processes that it has started, or adopted, and that have not been waited for."""
+    try:
+        return [int(child) for thread in pathlib.Path(f"/proc/{process}/task").glob("*/children")
+                for child in thread.read_text().split()]
+    except OSError:  # it has ended meanwhile
+        return []
+
+
 def parser(description):
     """The command line that every part has."""
     options = argparse.ArgumentParser(description=description)
@@ -186,9 +202,12 @@ def parser(description):
     return options
 
 
-def arguments(description):
-    """What the command line says; chance begins with its seed."""
-    given = parser(description).parse_args()
+def arguments(description, extend=lambda options: None):
+    """What the command line says; chance begins with its seed. @param extend adds what only one part
+    has"""
+    options = parser(description)
+    extend(options)
+    given = options.parse_args()
     random.seed(given.seed)
     return given
 

@@ -35,6 +35,15 @@ QString fingerprint(const QString& path) {
         .arg(file.lastModified().toMSecsSinceEpoch());
 }
 
+/// Where a file is to lie that a module was writing when it died.
+QString placeAside(const QDir& spool, const QString& name) {
+    const QString kept = name.chopped(unfinished.size());
+    QString path = spool.absoluteFilePath("unfinished-" + kept);
+    for (int i = 2; QFileInfo::exists(path); ++i)
+        path = spool.absoluteFilePath(QString("unfinished-%1-%2").arg(i).arg(kept));
+    return path;
+}
+
 }  // namespace
 
 Collector::Collector(QString folder, Results& results)
@@ -49,8 +58,12 @@ QString Collector::trouble() const {
     return QDir(folder_).isReadable() ? QString() : folder_ + ": cannot be read";
 }
 
-Collector::Harvest Collector::collect(When when) {
+Collector::Harvest Collector::collect(When when, const std::function<void(const QString&)>& tell) {
     Harvest harvest;
+    const auto unreadable = [&](const QString& path) {
+        if (tell) tell(path);
+        harvest.unreadable.append(path);
+    };
     const QDir spool(folder_);
     // Also what is no file, or leads nowhere: it is told.
     const auto all = QDir::AllEntries | QDir::System | QDir::Hidden;
@@ -58,24 +71,20 @@ Collector::Harvest Collector::collect(When when) {
         const QString path = spool.absoluteFilePath(name);
         const QString state = fingerprint(path);
         if (told_.contains(state) || take(path) || when == When::DuringRun) continue;
+        unreadable(path);
         told_.insert(state);
-        harvest.unreadable.append(path);
     }
     if (when == When::AfterRun)
-        for (const QString& name : spool.entryList({"RSX*.xml" + unfinished}, QDir::Files))
-            harvest.unreadable.append(putAside(spool, name));
+        for (const QString& name : spool.entryList({"RSX*.xml" + unfinished}, QDir::Files)) {
+            const QString path = spool.absoluteFilePath(name), aside = placeAside(spool, name);
+            const QString state = fingerprint(path);
+            // First, so that nothing lies there untold.
+            if (!told_.contains(state)) unreadable(aside);
+            told_.insert(state);
+            QFile::rename(path, aside);
+        }
     harvest.taken = std::exchange(taken_, 0);
     return harvest;
-}
-
-/// What a module was writing when it died will not go on. @return where it lies from now on.
-QString Collector::putAside(const QDir& spool, const QString& name) {
-    const QString kept = name.chopped(unfinished.size());
-    QString path = spool.absoluteFilePath("unfinished-" + kept);
-    for (int i = 2; QFileInfo::exists(path); ++i)
-        path = spool.absoluteFilePath(QString("unfinished-%1-%2").arg(i).arg(kept));
-    QFile::rename(spool.absoluteFilePath(name), path);
-    return path;
 }
 
 bool Collector::take(const QString& path) {

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace melvora {
 
 /// Takes the result records that a module has left in the spool folder into the store.
@@ -25,8 +27,10 @@ class Collector {
 
     /// Reads all `RSX*.xml` of the folder that are plain files of up to 64 MB; links are not
     /// followed. A file goes only when its content is safely in the store.
+    /// @param tell is given each unreadable path, also where a file will lie that is put aside;
+    /// what it throws leaves the file as it was, to be told of the next time
     /// @throws StoreError when the store cannot be written; the file is still there then.
-    Harvest collect(When when);
+    Harvest collect(When when, const std::function<void(const QString&)>& tell = {});
 
     /// Makes the folder anew when it is missing. @return why no result can be taken from there,
     /// with its path; "" when all is well.
@@ -36,7 +40,6 @@ class Collector {
 
   private:
     bool take(const QString& path);
-    static QString putAside(const QDir& spool, const QString& name);
 
     QString folder_;
     Results& results_;

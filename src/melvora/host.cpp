@@ -5,6 +5,8 @@
 
 #include <QDir>
 
+#include <cstdio>
+
 namespace melvora {
 
 namespace {
@@ -154,8 +156,13 @@ void Host::collect() {
     const auto take = [this] {
         const bool running = module_.runs() && !handedOver_;
         const auto harvest =
-            collector_.collect(running ? Collector::When::DuringRun : Collector::When::AfterRun);
-        for (const QString& path : harvest.unreadable) notice(words_.wort(944).arg(path));
+            collector_.collect(running ? Collector::When::DuringRun : Collector::When::AfterRun,
+                               [this](const QString& path) {
+                                   const QString text = words_.wort(944).arg(path);
+                                   store_.log.write(LogKind::Error, userKey(), text);
+                                   emit logChanged();
+                                   emit noticed(text);
+                               });
         if (harvest.taken > 0) emit resultsChanged();
     };
     inTurn(take, [this](const std::exception* fault) {
@@ -191,10 +198,11 @@ void Host::inTurn(Turns::Operation operation, Turns::End end) {
 
 void Host::tell(const std::exception& fault) {
     const QString cause = QString::fromUtf8(fault.what());
-    if (dynamic_cast<const StoreError*>(&fault))
-        emit noticed(words_.wort(945).arg(cause));
-    else
-        notice(words_.wort(973).arg(cause));
+    if (!dynamic_cast<const StoreError*>(&fault)) return notice(words_.wort(973).arg(cause));
+    emit noticed(words_.wort(945).arg(cause));
+    // What the store cannot take, its log cannot either.
+    if (cause != storeTrouble_) std::fprintf(stderr, "melvora: %s\n", fault.what());
+    storeTrouble_ = cause;
 }
 
 void Host::notice(const QString& text) {

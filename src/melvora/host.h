@@ -101,6 +101,7 @@ class Host : public QObject {
     ModuleProcess module_;
     QFileSystemWatcher spoolWatcher_;
     QString spoolTrouble_;  ///< told last
+    QString storeTrouble_;  ///< told last on the standard error
     /// Told last of the results that the store did not take; they are offered again.
     std::string collectTrouble_;
     QTimer again_;
