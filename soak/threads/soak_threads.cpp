@@ -1,5 +1,6 @@
 #include "threads/lane.h"
 
+#include <malloc.h>
 #include <stdlib.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
@@ -7,7 +8,6 @@
 
 #include <cstdlib>
 #include <ctime>
-#include <fstream>
 #include <iomanip>
 #include <iostream>
 #include <new>
@@ -18,6 +18,9 @@ using namespace std::chrono_literals;
 using namespace soak;
 namespace fs = std::filesystem;
 
+/// Of a sanitizer, when there is one.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
+
 namespace {
 
 /// So many drills play beside each other, each in a process of its own: one sleeps most of its
@@ -25,8 +28,8 @@ namespace {
 constexpr int drills = 4;
 /// Nothing may take longer than this; what waits in vain gives up before.
 constexpr auto hangs = 60s;
-/// What a process may grow by, in MB, from a quarter of its time to its end.
-constexpr std::int64_t growth = 100;
+/// What a process may hold more, in MB, at its end than after a quarter of its time.
+constexpr std::int64_t growth = 8;
 
 /// The laws of all processes.
 Laws* laws = nullptr;
@@ -48,18 +51,21 @@ struct Scratch {
     fs::path path;
 };
 
-/// What the process holds of the system. Each of its parts must have gone at the end.
+/// Bytes of memory that are not free. The sanitizers keep what is freed for a while, so what the
+/// process takes of the machine says less.
+std::size_t bytesInUse() {
+    if (__sanitizer_get_current_allocated_bytes) return __sanitizer_get_current_allocated_bytes();
+    return mallinfo2().uordblks;
+}
+
+/// What the process holds.
 struct Held {
-    std::int64_t megabytes = 0;
+    std::int64_t megabytes = static_cast<std::int64_t>(bytesInUse() >> 20U);
     std::ptrdiff_t threads = 0;
     std::multiset<std::string> files;
 
     static Held now() {
         Held held;
-        long all = 0;
-        long resident = 0;
-        std::ifstream("/proc/self/statm") >> all >> resident;
-        held.megabytes = resident * sysconf(_SC_PAGESIZE) / (1024 * 1024);
         held.threads = std::distance(fs::directory_iterator("/proc/self/task"), {});
         for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
             std::error_code gone;
@@ -144,8 +150,9 @@ bool report(double seconds) {
         {Law::Outputs, "threads: outputs come and go", text(l.outputs, " outputs"),
          text(l.outputs / seconds, " outputs, ", l.openings / seconds, " openings, ",
               l.queues / seconds, " queues, ", l.stops / seconds, " stops, ", l.losses / seconds,
-              " losses a second; the longest end took ", l.slowestEnd.value(), " ms; memory ",
-              l.memoryBefore.value(), " to ", l.memoryAfter.value(), " MB")}};
+              " losses a second; the longest end took ", l.slowestEnd.value(),
+              " ms; memory in use ", l.memoryBefore.value(), " to ", l.memoryAfter.value(),
+              " MB")}};
 #ifdef __SANITIZE_THREAD__
     rows.push_back({Law::Races, "threads: no races", text(seconds, " s"),
                     text(l.races, " reports of the sanitizer")});
