@@ -43,7 +43,7 @@ class Laws {
     Count problems{0}, connections{0}, messages{0}, checks{0}, heard{0}, files{0};
     Count cards{0}, cardsOpen{0}, races{0};
     Most late, slowestStop, slowestEnd;  ///< milliseconds
-    Most memoryBefore, memoryAfter;      ///< megabytes of one process
+    Most memoryBefore, memoryAfter;      ///< kilobytes of one process
 
   private:
     std::array<Count, 6> faults_{};

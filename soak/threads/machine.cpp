@@ -70,10 +70,10 @@ void Machine::pullOnce(const synth::Pull& pull) {
     left.fill(unwritten);
     right.fill(unwritten);
     const bool over = over_;
-    const auto number = pulls_++;
     const auto quietFrom = quietFrom_.load();
     pull(left.data(), right.data(), frames);
     if (left.front() == unwritten) return;
+    const auto number = filled_++;
     if (over) laws_.broken(Law::Outputs, who_, "an output that is no more filled a buffer");
     float peak = 0;
     for (const auto* side : {&left, &right})

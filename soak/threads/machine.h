@@ -24,8 +24,9 @@ class Machine : public std::enable_shared_from_this<Machine> {
     /// The `index`-th of the ports that are there; null when that has gone.
     ports::SendBytes connect(int index);
 
-    /// From the drill's thread: all is stopped, so soon nothing may be heard from the card.
-    void hush() { quietFrom_ = pulls_ + 1; }
+    /// From the drill's thread: all is stopped. The card may be filling a buffer, and fades in the
+    /// next one; then nothing may be heard of it.
+    void hush() { quietFrom_ = filled_ + 2; }
     /// Notes are about to sound.
     void expectSound() { quietFrom_ = never; }
     /// The output is no more and may fill no card's buffer.
@@ -50,8 +51,8 @@ class Machine : public std::enable_shared_from_this<Machine> {
 
     Laws& laws_;
     std::string who_;
-    std::atomic<std::int64_t> pulls_{0};
-    std::atomic<std::int64_t> quietFrom_{never};  ///< the first pull that must be silent
+    std::atomic<std::int64_t> filled_{0};         ///< buffers
+    std::atomic<std::int64_t> quietFrom_{never};  ///< the first buffer that must be silent
     std::atomic<bool> over_{false};
     std::atomic<int> mark_{-1};
 };

@@ -28,8 +28,8 @@ namespace {
 constexpr int drills = 4;
 /// Nothing may take longer than this; what waits in vain gives up before.
 constexpr auto hangs = 60s;
-/// What a process may hold more, in MB, at its end than after a quarter of its time.
-constexpr std::int64_t growth = 8;
+/// What a process may hold more, in KB, at its end than after a quarter of its time.
+constexpr std::int64_t growth = 4096;
 
 /// The laws of all processes.
 Laws* laws = nullptr;
@@ -60,7 +60,7 @@ std::size_t bytesInUse() {
 
 /// What the process holds.
 struct Held {
-    std::int64_t megabytes = static_cast<std::int64_t>(bytesInUse() >> 20U);
+    std::int64_t kilobytes = static_cast<std::int64_t>(bytesInUse() >> 10U);
     std::ptrdiff_t threads = 0;
     std::multiset<std::string> files;
 
@@ -98,7 +98,7 @@ void play(const std::string& name, std::int64_t seed, double seconds) {
         while (static_cast<double>(since(begin)) < end * 1000) lane.life();
     };
     playUntil(seconds / 4);
-    const auto grown = Held::now().megabytes;  // the first ones load what stays loaded
+    const auto grown = Held::now().kilobytes;  // the first ones load what stays loaded
     playUntil(seconds);
 
     // Cards and servers that hang were left behind; each must end by itself.
@@ -114,9 +114,9 @@ void play(const std::string& name, std::int64_t seed, double seconds) {
     std::vector<std::string> files;
     std::ranges::set_difference(after.files, before.files, std::back_inserter(files));
     for (const auto& file : files) broken("still open: " + file);
-    if (after.megabytes > grown + growth) broken("memory has grown");
+    if (after.kilobytes > grown + growth) broken("memory has grown");
     laws->memoryBefore.see(grown);
-    laws->memoryAfter.see(after.megabytes);
+    laws->memoryAfter.see(after.kilobytes);
     lane.progress().doing("end");
 }
 
@@ -152,7 +152,7 @@ bool report(double seconds) {
               l.queues / seconds, " queues, ", l.stops / seconds, " stops, ", l.losses / seconds,
               " losses a second; the longest end took ", l.slowestEnd.value(),
               " ms; memory in use ", l.memoryBefore.value(), " to ", l.memoryAfter.value(),
-              " MB")}};
+              " KB")}};
 #ifdef __SANITIZE_THREAD__
     rows.push_back({Law::Races, "threads: no races", text(seconds, " s"),
                     text(l.races, " reports of the sanitizer")});
