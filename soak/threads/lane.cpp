@@ -76,7 +76,7 @@ const std::vector<Lane::Action> Lane::actions{
     {3, "lose the device", &Lane::loseDevice, false},
     {1, "unplug", &Lane::unplug, true},
     {3, "plug", &Lane::plug, true},
-    {1, "change the card", &Lane::changeCard, false},
+    {3, "change the card", &Lane::changeCard, false},
     {2, "change the ports", &Lane::changePorts, true},
     {1, "change the sound server", &Lane::changeServer, false},
     {4, "press a button", &Lane::press, true},
@@ -277,7 +277,7 @@ void Lane::plug() { machine_->plugged = true; }
 void Lane::changeCard() {
     machine_->refuses = oneIn(4);
     machine_->opening = oneIn(8) ? 2500 : rnd_.below(20);
-    machine_->closing = oneIn(6) ? rnd_.below(1000) : 0;
+    machine_->closing = oneIn(4) ? rnd_.below(1500) : 0;
 }
 
 void Lane::changePorts() {

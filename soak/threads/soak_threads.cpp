@@ -195,7 +195,7 @@ int main(int count, char** words) {
         return 0;
     }
     for (int status = 0; wait(&status) > 0;)
-        if (status != 0 && laws->races == 0)
+        if (WIFSIGNALED(status) || (status != 0 && laws->races == 0))
             laws->broken(Law::Outputs, "seed " + std::to_string(seed),
                          "a drill ended with status " + std::to_string(status));
     if (laws->cardsOpen != 0)
