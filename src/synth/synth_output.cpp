@@ -34,12 +34,10 @@ class SynthOutput : public sound::MidiOutput {
     }
 
     void open(int id) override {
-        const SoundProblem before = problem();
-        if (isOpen()) close();
+        close();
         if (ports_.empty() && id != mapper) deviceCount();
-        player_ = &builtIn_;
-        if (isPort(id) && connect(id)) player_ = port_.get();
-        if (problem() != before) raiseProblem();
+        use(&builtIn_);
+        if (isPort(id) && connect(id)) use(port_.get());
         setVolume(maxVolume, maxVolume);
         player_->put({.kind = Command::Kind::Reset});
     }
@@ -47,7 +45,7 @@ class SynthOutput : public sound::MidiOutput {
     void close() override {
         if (!isOpen()) return;
         stop();
-        player_ = nullptr;
+        use(nullptr);
     }
 
     bool isOpen() const override { return player_ != nullptr; }
@@ -95,6 +93,13 @@ class SynthOutput : public sound::MidiOutput {
   private:
     bool isPort(int id) const { return id >= 0 && id < static_cast<int>(ports_.size()); }
     bool hasVolume() const { return isOpen() && player_->hasVolume(); }
+
+    /// A port has no problem; without a player it is the built-in synthesiser's that counts.
+    void use(Player* player) {
+        const SoundProblem before = problem();
+        player_ = player;
+        if (problem() != before) raiseProblem();
+    }
 
     /// Keeps the connection that stands, unless the ports were listed since: then a port of the
     /// same name may be another one.
