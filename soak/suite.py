@@ -156,13 +156,14 @@ def descriptors(process):
     return len(os.listdir(f"/proc/{process}/fd"))
 
 
-def arguments(description):
-    """The command line that every part has."""
+def arguments(description, extend=lambda parser: None):
+    """The command line that every part has. @param extend adds what only one part has"""
     parser = argparse.ArgumentParser(description=description)
     parser.add_argument("--bin", required=True, help="folder of the programs")
     parser.add_argument("--seconds", type=float, default=10, help="how long (default 10)")
     parser.add_argument("--seed", type=int, default=int(time.time()),
                         help="the same seed makes the same choices (default: the time)")
+    extend(parser)
     given = parser.parse_args()
     random.seed(given.seed)
     return given
