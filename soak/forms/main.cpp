@@ -19,6 +19,7 @@
 /// What was freed is kept for a while, and would look like growth.
 extern "C" const char* __asan_default_options();
 extern "C" const char* __asan_default_options() { return "quarantine_size_mb=8"; }
+extern "C" void __sanitizer_set_death_callback(void (*)());
 #endif
 
 namespace {
@@ -48,6 +49,15 @@ Options optionsOf(int argc, char** argv) {
             throw sim::UsageError("no option " + name + ": --seconds, --seed and --user");
     }
     return options;
+}
+
+/// Who is at the program, and what came to pass: also told when a sanitizer ends it.
+std::int64_t seat = 0;
+Tally tally;
+
+void tellLast() {
+    std::cerr << "soak_forms --user " << seat << ": " << tally.broken << "\nlast of all:\n";
+    for (const std::string& doing : tally.last) std::cerr << "  " << doing << '\n';
 }
 
 /// Megabytes of memory in use.
@@ -85,11 +95,12 @@ soak::Weather weatherOf(base::Rnd& chance) {
 /// From a start of the program to its end, on a host that was there before.
 class Episode {
   public:
-    Episode(soak::UnsteadyHost& host, sim::Words& words, const std::filesystem::path& folder,
-            base::Rnd& chance, Tally& tally)
+    /// @param foreign what is saved may be of another language.
+    Episode(soak::UnsteadyHost& host, sim::Words& words, bool foreign,
+            const std::filesystem::path& folder, base::Rnd& chance)
         : host_(host),
+          foreign_(foreign),
           chance_(chance),
-          tally_(tally),
           dialogs_(loop_, chance, tally, folder),
           printer_(chance),
           output_(loop_, tally),
@@ -111,12 +122,12 @@ class Episode {
         try {
             drill_.programm.forms.load("grd_einst");
         } catch (const core::ProgrammEnde&) {
-            tally_.law(!host_.present || host_.weather.lostCalls > 0,
-                       "the program ends at its start");
-            ++tally_.reached["starts without a host"];
+            tally.law(!host_.present || host_.weather.lostCalls > 0,
+                      "the program ends at its start");
+            ++tally.reached["starts without a host"];
             return;
         }
-        soak::User user(drill_, loop_, dialogs_, watch_, chance_, tally_);
+        soak::User user(drill_, loop_, dialogs_, watch_, chance_, tally);
         const int actions = oncePer(chance_, 3) ? chance_.upTo(60) : 200 + chance_.below(3000);
         const int goes = chance_.below(actions);
         while (goesOn() && user.done() < actions) {
@@ -124,7 +135,7 @@ class Episode {
             host_.gone = host_.gone || (host_.weather.goneFor && user.done() >= goes);
             if (oncePer(chance_, 3000) && output_.problemChanged) output_.problemChanged();
         }
-        ++tally_.reached["episodes"];
+        ++tally.reached["episodes"];
         if (oncePer(chance_, 20)) return;  // the process is killed
         wayOut(user);
     }
@@ -145,7 +156,7 @@ class Episode {
         return call;
     }
 
-    bool goesOn() const { return tally_.broken.empty() && !watch_.ended(); }
+    bool goesOn() const { return tally.broken.empty() && !watch_.ended(); }
 
     void step() {
         loop_.advance(chance_.upTo(300));
@@ -160,18 +171,18 @@ class Episode {
         const std::int64_t begin = loop_.elapsed();
         while (goesOn()) {
             step();
-            tally_.law(user.left() < mostActions && loop_.elapsed() - begin < longest,
-                       "no way out: " + forms());
+            tally.law(user.left() < mostActions && loop_.elapsed() - begin < longest,
+                      "no way out: " + forms());
         }
-        if (!tally_.broken.empty()) return;
-        ++tally_.reached["ways out"];
+        if (!tally.broken.empty()) return;
+        ++tally.reached["ways out"];
         loop_.advance(20000);
         watch_.lookClosely();
     }
 
     std::string forms() const {
         std::string all;
-        for (const auto& [name, times] : tally_.forms)
+        for (const auto& [name, times] : tally.forms)
             if (const form::Form* form = drill_.programm.forms.loaded(name))
                 all += name + (form->visible() ? " " : " (hidden) ");
         return all;
@@ -179,10 +190,16 @@ class Episode {
 
     /// What the program tells as an error must come from what it was given.
     void error(int number, const std::string& where) {
-        tally_.note("error " + std::to_string(number) + " " + where);
+        tally.note("error " + std::to_string(number) + " " + where);
         const auto in = [&](const char* text) { return where.find(text) != std::string::npos; };
         constexpr int path = static_cast<int>(base::ErrorNumber::PathAccess);
         if (number == path) return;
+        // A saved training that is offered may be another branch's, or its scales have other
+        // names, or the host that had it is gone.
+        constexpr int call = static_cast<int>(base::ErrorNumber::InvalidCall);
+        const bool elsewhere = drill_.programm.zustand.theoriewahl == 1 || foreign_ || host_.gone ||
+                               host_.weather.lostCalls > 0;
+        if (number == call && in("start_timer") && in("saved training") && elsewhere) return;
         if (host_.weather.damaged > 0) return;
         if (dialogs_.damages && (in("cmdSave") || in("cmdOption") || in("Startdatei"))) return;
         // More scales are chosen than there is room for.
@@ -191,15 +208,15 @@ class Episode {
         const auto* chosen =
             form ? dynamic_cast<const form::ListBox*>(form->find("lst_ska", 1)) : nullptr;
         if (number == 9 && in("cmdOK_click") && chosen && chosen->count() > 15) {
-            ++tally_.reached["too many scales"];
+            ++tally.reached["too many scales"];
             return;
         }
-        tally_.law(false, "error " + std::to_string(number) + " in " + where);
+        tally.law(false, "error " + std::to_string(number) + " in " + where);
     }
 
     soak::UnsteadyHost& host_;
+    bool foreign_;
     base::Rnd& chance_;
-    Tally& tally_;
     form::VirtualTime loop_;
     soak::Answers dialogs_;
     soak::NoPrinter printer_;
@@ -209,17 +226,25 @@ class Episode {
     soak::Watch watch_;
 };
 
-/// One user: some episodes on one host, in one language.
-void useIt(std::int64_t seed, std::vector<sim::Words>& languages, Tally& tally) {
-    base::Rnd chance(seed);
+/// One user: some episodes on one host.
+void useIt(std::vector<sim::Words>& languages) {
+    base::Rnd chance(seat);
     soak::UnsteadyHost host(chance, tally);
     const sim::TempFolder folder;
+    // A training is known only in the language in which it was kept.
+    const bool oneLanguage = oncePer(chance, 2);
+    const auto anyLanguage = [&] { return int(chance.below(int(languages.size()))); };
+    const int mother = anyLanguage();
     for (int i = chance.upTo(6); i > 0 && tally.broken.empty(); --i) {
         host.weather = weatherOf(chance);
-        auto& words = languages[static_cast<std::size_t>(int(chance.below(int(languages.size()))))];
-        tally.note("the program starts");
+        auto& words = languages[static_cast<std::size_t>(oneLanguage ? mother : anyLanguage())];
+        const soak::Weather& weather = host.weather;
+        tally.note("the program starts; lost calls " + std::to_string(weather.lostCalls) +
+                   ", refusals " + std::to_string(weather.refusals) + ", damaged " +
+                   std::to_string(weather.damaged) + (weather.goneFor ? ", gone" : "") +
+                   (weather.badFolder ? ", bad folder" : ""));
         try {
-            Episode(host, words, folder.path(), chance, tally).run();
+            Episode(host, words, !oneLanguage, folder.path(), chance).run();
         } catch (const std::exception& fault) {
             tally.law(false, std::string("uncaught: ") + fault.what());
         }
@@ -238,24 +263,20 @@ int soakFor(const Options& options) {
     std::vector<sim::Words> languages(1);
     for (const char* suffix : {"de", "en", "es", "fr"})
         languages.emplace_back(SOAK_WORDS "/melvoralang." + std::string(suffix) + ".ts");
-    Tally tally;
     const auto begin = Clock::now();
     const auto passed = [&] { return std::chrono::duration<double>(Clock::now() - begin).count(); };
     double first = 0;  // memory after the first tenth, when everything was used once
-    std::int64_t user = options.user.value_or(options.seed * 1'000'000);
+    seat = options.user.value_or(options.seed * 1'000'000);
     do {
-        useIt(user, languages, tally);
+        useIt(languages);
         if (!tally.broken.empty()) break;
-        ++user;
+        ++seat;
         if (first == 0 && passed() > options.seconds / 10) first = memory();
     } while (!options.user && passed() < options.seconds);
 
     const double seconds = passed(), last = memory();
     const bool held = tally.broken.empty();
-    if (!held) {
-        std::cerr << "--user " << user << ": " << tally.broken << "\nlast of all:\n";
-        for (const std::string& doing : tally.last) std::cerr << "  " << doing << '\n';
-    }
+    if (!held) tellLast();
     const auto row = [](const std::string& what, const std::string& tried, bool well,
                         const std::string& told) {
         std::cout << what << '\t' << tried << '\t' << (well ? "held" : "FAILED") << '\t' << told
@@ -280,6 +301,9 @@ int soakFor(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+#if defined(__SANITIZE_ADDRESS__)
+    __sanitizer_set_death_callback(tellLast);
+#endif
     try {
         return soakFor(optionsOf(argc, argv));
     } catch (const std::exception& error) {
