@@ -48,6 +48,9 @@ TRY, TRAINING, CONTINUED, TEST, EXAM = range(5)
 AUTOMATIC = 1800  # milliseconds between two tasks that follow by themselves
 GLANCE = 500  # milliseconds after which the learner goes on
 BREATH = 50  # milliseconds of silence between what is said to the device
+PATIENCE = 300  # seconds for the runs of one set-up
+RUNS = (5, 40)  # of one set-up
+MEAN_RUNS = sum(RUNS) // 2
 PATCHES = "".join(
     f'{{"e":"midi","t":@,"status":{192 + i},"data1":0,"data2":0,"time":-1}}\n' for i in range(9))
 
@@ -196,7 +199,7 @@ class SetUp:
         else:
             self.tasks = chance.randint(1, 30) if chance.random() < 0.1 else 0
         self.keep = self.mode == TRAINING and self.tasks > 0 and chance.random() < 0.5
-        self.runs = chance.randint(5, 40)
+        self.runs = chance.randint(*RUNS)
 
     def arguments(self):
         """What a user of the simulator would write."""
@@ -292,7 +295,7 @@ class Exercise:
 class Run:
     """One run, followed line by line."""
 
-    def __init__(self, exercise, law, number, before):
+    def __init__(self, exercise, law, before):
         self.x = exercise
         self.law = law
         self.setup = exercise.setup
@@ -321,7 +324,6 @@ class Run:
         self.reason = None
         self.drawn_codes = []
         self.at = 0
-        self.number = number
         self.heavy = []
 
     # A training's box.
@@ -593,7 +595,7 @@ class Run:
         law("place on the staff", e["y"] == height(*note, bass)
             and e["x"] == self.left_edge + 40 * c, e)
         if self.setup.writes:
-            # Of the notes before, the nearest on the same line decides whether the sign still holds.
+            # The nearest note before on the same line decides whether the sign still holds.
             same = next((q for q in (self.staff[j][1] for j in range(c - 1, -1, -1))
                          if q % 7 == e["qz"] % 7), None) if c == self.x.tones - 1 else None
             glyphs = (e["qz"] // 7 + 5,) if same is None else (e["qz"] // 7 + 5, 10)
@@ -654,7 +656,6 @@ class Run:
         self.answers.append((e["AntwDau"], self.repeats, right, e["index"]))
         if not finished:
             law("points of an answer", (e["punkte"], e["aufgZustand"]) == (points, 3), e, points)
-            self.repeats_before = self.repeats
             return
         self.close(e, points)
 
@@ -899,7 +900,7 @@ def follow(law, exercise, lines):
         else:
             law("every line is known", kind == "run", kind)
             kept = run if exercise.setup.keep and run and run.reason == "left" else None
-            run = Run(exercise, law, len(runs), kept)
+            run = Run(exercise, law, kept)
             runs.append(run)
             run.begin(e)
     law("nothing is left over", not block and run is not None and run.reason is not None)
@@ -945,11 +946,14 @@ def check_summary(law, setup, exercise, text, runs):
 Tried = collections.namedtuple("Tried", "runs tasks traced looked fault endings learned heavy")
 
 
-def batch(binary, seed, number, most):
+def simulate(line):
+    return subprocess.run(line, capture_output=True, text=True, check=False, timeout=PATIENCE)
+
+
+def batch(binary, seed, number):
     """One set-up, some runs. @return Tried"""
     chance = random.Random(f"{seed}:{number}")
     setup = SetUp(chance)
-    setup.runs = max(2, min(setup.runs, most))
     traced = chance.random() < 0.4
     law = Laws()
     with tempfile.TemporaryDirectory(prefix="laws-") as folder:
@@ -958,10 +962,10 @@ def batch(binary, seed, number, most):
                 str(chance.randrange(1 << 40)), "--record", str(record)]
         if traced:
             line += ["--trace", "-"]
-        done = subprocess.run(line, capture_output=True, text=True, check=False)
         runs, tasks, fault = None, 0, ""
         learned = heavy = endings = None
         try:
+            done = simulate(line)
             law("the simulator's own word", done.returncode == 0, done.returncode, done.stderr)
             exercise = Exercise(setup)
             if traced:
@@ -979,14 +983,18 @@ def batch(binary, seed, number, most):
                 endings = collections.Counter(run.reason for run in runs)
             tasks, least, most = check_summary(
                 law, setup, exercise, done.stderr if traced else done.stdout, runs)
-            root = check_record(law, setup, record.read_text(encoding="utf-8"))
+            written = record.read_text(encoding="utf-8")
+            root = check_record(law, setup, written)
+            if not traced and chance.random() < 0.1:
+                law("the same twice", simulate(line).stdout == done.stdout
+                    and record.read_text(encoding="utf-8") == written)
             if traced:
                 runs[-1].record(root)
             else:
                 law("record: as many lessons as tasks",
                     least <= len(root.find("lessons")) <= most)
         except (Broken, ElementTree.ParseError, OSError, LookupError, ValueError, TypeError,
-                AttributeError) as broken:
+                AttributeError, subprocess.SubprocessError) as broken:
             where = broken.__traceback__
             while where.tb_next:
                 where = where.tb_next
@@ -1045,19 +1053,19 @@ def main():
     numbers = itertools.count() if given.batch is None else iter([given.batch])
 
     def more():
-        return (runs + pending_runs < given.runs if given.runs
-                else time.monotonic() - begin < given.seconds)
+        if given.runs:
+            # How many are under way shows only when they are done.
+            return runs + MEAN_RUNS * len(pending) < given.runs
+        return time.monotonic() - begin < given.seconds
 
     with concurrent.futures.ProcessPoolExecutor(given.jobs) as pool:
-        pending, pending_runs = {}, 0
+        pending = {}
         while True:
             while len(pending) < 4 * given.jobs and more():
                 number = next(numbers, None)
                 if number is None:
                     break
-                pending[pool.submit(batch, binary, given.seed, number, 40)] = number
-                # How many it makes shows only when it is done; 22 is the mean.
-                pending_runs = 22 * len(pending) if given.runs else 0
+                pending[pool.submit(batch, binary, given.seed, number)] = number
             if not pending:
                 break
             finished, _ = concurrent.futures.wait(
@@ -1076,7 +1084,6 @@ def main():
                     if faults <= 20:
                         print(f"--seed {given.seed} --batch {number}: {tried.fault}",
                               file=suite.sys.stderr, flush=True)
-            pending_runs = 22 * len(pending) if given.runs else 0
     together = list(sums.faults())
     for fault in together:
         print(f"--seed {given.seed}: {fault}", file=suite.sys.stderr)

@@ -49,7 +49,6 @@ class User {
     bool leaving_ = false;
 
     engine::Arbeitsblatt* sheet_ = nullptr;
-    sim::Learner learner_;
     /// Who has the worksheet now, and all that had one: they may be in the middle of a click.
     sim::Pupil* pupil_ = nullptr;
     std::vector<std::unique_ptr<sim::Learner>> learners_;

@@ -139,14 +139,14 @@ std::string Answers::damagedFile() {
 
 std::string Answers::askOpenFile(const FileQuestion&) {
     pass();
-    const std::string chosen = path();
+    std::string chosen = path();
     tally_.note("opens " + chosen);
     return chosen;
 }
 
 std::string Answers::askSaveFile(const FileQuestion& question) {
     pass();
-    const std::string chosen = oncePer(chance_, 6) ? question.proposal : path();
+    std::string chosen = oncePer(chance_, 6) ? question.proposal : path();
     tally_.note("saves as " + chosen);
     return chosen;
 }
