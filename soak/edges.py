@@ -472,10 +472,9 @@ ATTACKS = [
 
 
 def main():
-    parser = suite.parser(__doc__)
-    parser.add_argument("attacks", nargs="*", help="only these, of: " +
-                        ", ".join(attack.__name__ for attack in ATTACKS))
-    given = parser.parse_args()
+    names = ", ".join(attack.__name__ for attack in ATTACKS)
+    given = suite.arguments(__doc__, lambda options: options.add_argument(
+        "attacks", nargs="*", help="only these, of: " + names))
     report = suite.Report()
     for attack in ATTACKS:
         if given.attacks and attack.__name__ not in given.attacks:

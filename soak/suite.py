@@ -192,20 +192,14 @@ def children(process):
         return []
 
 
-def parser(description):
-    """The command line that every part has."""
+def arguments(description, extend=lambda options: None):
+    """What the command line says; chance begins with its seed. @param extend adds what only one part
+    has"""
     options = argparse.ArgumentParser(description=description)
     options.add_argument("--bin", required=True, help="folder of the programs")
     options.add_argument("--seconds", type=float, default=10, help="how long (default 10)")
     options.add_argument("--seed", type=int, default=int(time.time()),
                          help="the same seed makes the same choices (default: the time)")
-    return options
-
-
-def arguments(description, extend=lambda options: None):
-    """What the command line says; chance begins with its seed. @param extend adds what only one part
-    has"""
-    options = parser(description)
     extend(options)
     given = options.parse_args()
     random.seed(given.seed)

@@ -1,6 +1,8 @@
 #pragma once
 #include "notation/tonhoehe.h"
 
+#include <algorithm>
+
 namespace notation {
 
 /// What the limits of a task follow from.
@@ -17,6 +19,12 @@ struct Grenze {
     i16 oben, unten;
     constexpr i16 hoechste() const { return oben + 7; }  ///< y of the highest note allowed
     constexpr i16 tiefste() const { return unten - 7; }  ///< and of the lowest
+    /// The place between them that is nearest to y. There the height of a drop does not matter, on
+    /// a limit it does.
+    constexpr int dazwischen(int y) const {
+        constexpr int platz = 4;  // pixels from one place of the staff to the next
+        return std::max<int>(hoechste() + platz, std::min<int>(tiefste() - platz, y));
+    }
 };
 
 /// The limits on a staff: the exercise's range to the octave, and on the side of the other staff

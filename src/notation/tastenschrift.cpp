@@ -1,14 +1,6 @@
 #include "notation/tastenschrift.h"
 
-#include <algorithm>
-
 namespace notation {
-
-namespace {
-
-constexpr int platz = 4;  // pixels from one place of the staff to the next
-
-}  // namespace
 
 Tastenschrift::Tastenschrift(Notenzeile& zeile, Noteneingabe& eingabe, Palette& palette)
     : zeile_(zeile), eingabe_(eingabe), palette_(palette) {
@@ -64,11 +56,7 @@ void Tastenschrift::nehmen(int index) {
 void Tastenschrift::ablegen(int index) {
     if (index < 0 || index >= quelle::anzahl || !palette_.pbNoten.enabled()) return;
     const i16 s = zeile_.SchlZ();
-    const Grenze& grenze = zeile_.grenze(s);
-    // Where the hand lets go does not matter between the limits; on one of them it does.
-    const int y =
-        std::max<int>(grenze.hoechste() + platz,
-                      std::min<int>(grenze.tiefste() - platz, zeile_.NotSelb(spalte_).y()));
+    const int y = zeile_.grenze(s).dazwischen(zeile_.NotSelb(spalte_).y());
     eingabe_.DragDrop(s, static_cast<i16>(index), static_cast<float>(zeile_.lage().x(spalte_)),
                       static_cast<float>(y));
 }

@@ -21,6 +21,8 @@ class Pupil {
     void begin(engine::Arbeitsblatt& sheet, int limit);
     /// Hears of a turn of the run.
     void notice(engine::Arbeitsblatt::Ereignis turn);
+    /// Lays the pen down: nothing that it had in mind is done any more.
+    void rest() { hand_.cancel(); }
     /// The result form has come: presses its button as soon as it can be seen.
     /// @param read called before that.
     void readResult(form::Form& result, std::function<void()> read);

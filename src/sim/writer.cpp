@@ -35,9 +35,9 @@ void drop(notation::SchreibBlatt& sheet, int column, int accidental) {
     const notation::Spalte& note = staff.NotSelb(column);
     if (note.vorzeichen == accidental) return;
     const form::Control* field = sheet.find(quelle::feld, quelle::mit(accidental));
+    const int y = staff.grenze(staff.SchlZ()).dazwischen(note.y());
     staff.PicB(staff.SchlZ())
-        .ablegen(
-            {*field, static_cast<float>(staff.lage().x(column)), static_cast<float>(note.y())});
+        .ablegen({*field, static_cast<float>(staff.lage().x(column)), static_cast<float>(y)});
 }
 
 }  // namespace
