@@ -1,5 +1,7 @@
 #include "soak/fuzz/practice.h"
 
+#include "notation/schreib_blatt.h"
+#include "sim/writer.h"
 #include "soak/fuzz/law.h"
 
 #include <cstdlib>
@@ -33,25 +35,33 @@ void Practice::expectInRange() const {
     law(within(z.abfrage, 1) && within(z.abfolge, 1) && within(z.ska_ausw, 1), "course");
     law(within(z.uebungsmodus, 4) && within(z.frequenz, 1) && within(z.an_zeig, 1), "mode");
     law(z.FrquMinAkt >= 36 && z.FrquMaxAkt <= 96 && z.FrquMinAkt < z.FrquMaxAkt, "range");
-    law(z.skal_typ < 2 || (z.abfolge == 0 && z.stimmung == 0), "what the category forbids");
 }
 
-/// Until a task has sounded and can be answered, or is closed.
+/// Until a task can be answered.
 void Practice::await() {
-    const auto closed = z.schalter_frei;
-    for (int second = 0; second < 60 && !ready() && z.schalter_frei == closed; ++second)
-        loop.advance(1000);
+    loop.advance(100);
+    for (int second = 0; second < 60 && !ready(); ++second) loop.advance(1000);
 }
 
-/// What is written is left as it is until its mistakes are too many.
+/// Once wrong, if wanted, then right; what is written stays wrong until the task is closed.
 void Practice::answer(bool right) {
+    bool closed = false;
+    const form::Connection turns =
+        sheet().ereignis.connect([&](engine::Arbeitsblatt::Ereignis turn) {
+            closed = closed || turn == engine::Arbeitsblatt::Ereignis::Geschlossen;
+        });
+    const bool open = ready();
     if (!writes_ && !right) answerWrong();
     if (!writes_) answerRight();
-    for (int tries = 0; writes_ && tries < 10 && ready(); ++tries) {
-        on<form::Button>("cmdOK").click();
-        await();
+    for (int tries = 0; writes_ && open && !closed && tries < 10; ++tries) {
+        sim::writeScale(sheet<notation::SchreibBlatt>(),
+                        right ? sim::Writing::Right : sim::Writing::Wrong, chance_);
+        // The same once more cannot be handed in.
+        if (on<form::Button>("cmdOK").usable()) on<form::Button>("cmdOK").click();
+        loop.advance(10);
     }
     loop.advance(100);
+    law(closed == open, "a task that is answered is closed");
 }
 
 bool Practice::run(bool keep) {
@@ -67,7 +77,6 @@ bool Practice::run(bool keep) {
     }
     for (const bool right : {false, true}) {
         if (z.abfrage == 0) on<form::Button>("CmdNextAufg").click();
-        loop.advance(100);
         await();
         answer(right);
         law(z.matbox_zahl >= 0, "weights");

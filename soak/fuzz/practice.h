@@ -21,6 +21,7 @@ struct Practice : support::WholeDrill {
     void answer(bool right);
 
     bool writes_;
+    base::Rnd chance_{3};
 };
 
 }  // namespace soak

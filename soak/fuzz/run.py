@@ -52,7 +52,7 @@ def fuzz(target, given, report):
     corpus.mkdir()
     environment = {**os.environ, "TMPDIR": str(place), "HOME": str(place),
                    "XDG_RUNTIME_DIR": str(place), "LC_ALL": "C.UTF-8",
-                   "ASAN_OPTIONS": "malloc_context_size=8"}
+                   "ASAN_OPTIONS": "malloc_context_size=2"}
     seeds = seeded(target, binary, corpus, environment)
     words = FOLDER / f"{target}.dict"
     command = [binary, f"-max_total_time={given.seconds:.0f}", f"-seed={given.seed}",

@@ -23,7 +23,11 @@ struct Says {
     bool operator()(std::int64_t number) const {
         return json.isDouble() && json.toDouble() == static_cast<double>(number);
     }
-    bool operator()(double) const { return json.isObject() && json["real"].isString(); }
+    bool operator()(double number) const {
+        bool isNumber = false;
+        const double said = json["real"].toString().toDouble(&isNumber);
+        return json.isObject() && isNumber && same(said, number);
+    }
     bool operator()(const std::string& text) const {
         return json.isString() && json.toString().toUtf8() == QByteArray::fromStdString(text);
     }
