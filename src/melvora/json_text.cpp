@@ -30,6 +30,8 @@ std::optional<core::Value> valueOf(const QJsonValue& json) {
         case QJsonValue::Bool:
             return std::make_optional<core::Value>(json.toBool());
         case QJsonValue::Double:
+            // A fraction that stands alone was not written by toJson.
+            if (json.toVariant().typeId() != QMetaType::LongLong) return {};
             return std::make_optional<core::Value>(static_cast<std::int64_t>(json.toInteger()));
         case QJsonValue::String:
             return std::make_optional<core::Value>(json.toString().toStdString());
@@ -59,7 +61,9 @@ std::optional<core::Value> valueOf(const QJsonValue& json) {
 QString toJson(const core::Value& value) {
     const QJsonArray wrapped{value.visit(AsJson{})};
     const QByteArray text = QJsonDocument(wrapped).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(text.mid(1, text.size() - 2));
+    QString json = QString::fromUtf8(text.mid(1, text.size() - 2));
+    // The database gives these two back as U+FFFD; outside of texts they cannot stand.
+    return json.replace(QChar(0xFFFE), "\\ufffe").replace(QChar(0xFFFF), "\\uffff");
 }
 
 std::optional<core::Value> fromJson(const QString& text) {

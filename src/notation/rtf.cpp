@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstdint>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 namespace notation {
@@ -50,7 +51,12 @@ void utf8(std::string& ziel, std::uint32_t zeichen) {
         byte(0xC0 | zeichen >> 6);
         byte(0x80 | (zeichen & 0x3F));
     } else {
-        byte(0xE0 | zeichen >> 12);
+        if (zeichen < 0x10000) {
+            byte(0xE0 | zeichen >> 12);
+        } else {
+            byte(0xF0 | zeichen >> 18);
+            byte(0x80 | (zeichen >> 12 & 0x3F));
+        }
         byte(0x80 | (zeichen >> 6 & 0x3F));
         byte(0x80 | (zeichen & 0x3F));
     }
@@ -153,12 +159,23 @@ class Leser {
         if (gemeint != satzzeichen.end()) schreiben(gemeint->zeichen);
     }
 
+    /// A letter beyond 16 bits comes in two halves, and is whole with the second; a half without
+    /// the other is none.
+    bool ganz(std::uint32_t& c) {
+        const std::uint32_t hoch = std::exchange(hoch_, 0);
+        if (c >= 0xD800 && c < 0xDC00) hoch_ = c;
+        if (c < 0xD800 || c >= 0xE000) return true;
+        if (hoch == 0 || hoch_ != 0) return false;
+        c = 0x10000 + ((hoch & 0x3FF) << 10 | (c & 0x3FF));
+        return true;
+    }
+
     void schreiben(std::uint32_t c) {
         if (ueberspringen_ > 0) {
             --ueberspringen_;
             return;
         }
-        if (schrift_.unsichtbar) return;
+        if (schrift_.unsichtbar || !ganz(c)) return;
         lauf();
         if (c == '<')
             html_ += "&lt;";
@@ -206,6 +223,7 @@ class Leser {
     std::string ausrichtung_ = "left";
     std::string html_;
     int ueberspringen_ = 0;
+    std::uint32_t hoch_ = 0;  ///< first half of a letter, 0 for none
     bool absatzOffen_ = false, laufOffen_ = false;
 };
 

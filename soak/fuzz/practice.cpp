@@ -1,0 +1,90 @@
+#include "soak/fuzz/practice.h"
+
+#include "notation/schreib_blatt.h"
+#include "sim/writer.h"
+#include "soak/fuzz/law.h"
+
+#include <cstdlib>
+
+namespace soak {
+
+namespace {
+
+/// Where result records go.
+std::string folder() {
+    const char* given = std::getenv("TMPDIR");
+    return given ? given : "/tmp";
+}
+
+}  // namespace
+
+Practice::Practice(support::FakeHost& host, const std::string& exercise)
+    : WholeDrill(host, {.tempOrdner = folder(), .rechnername = "desk", .pruefEdit = true}),
+      writes_(exercise.starts_with('4')) {
+    drill.programm.forms.load("grd_einst");
+    loop.advance(5);
+    toSetUp(exercise.ends_with('b'), writes_ ? 4 : 1);
+    loop.advance(250);
+    law(setUp().visible(), "the set-up form is open");
+}
+
+void Practice::expectInRange() const {
+    const auto within = [](int v, int most) { return v >= 0 && v <= most; };
+    law(within(z.skal_typ, 6) && within(z.richtung, 2) && within(z.final, 2), "scales");
+    law(within(z.tempoIdx, 9) && within(z.stimmung, 2) && within(z.oktAnz, 3), "sound");
+    law(within(z.abfrage, 1) && within(z.abfolge, 1) && within(z.ska_ausw, 1), "course");
+    law(within(z.uebungsmodus, 4) && within(z.frequenz, 1) && within(z.an_zeig, 1), "mode");
+    law(z.FrquMinAkt >= 36 && z.FrquMaxAkt <= 96 && z.FrquMinAkt < z.FrquMaxAkt, "range");
+}
+
+/// Until a task can be answered.
+void Practice::await() {
+    loop.advance(100);
+    for (int second = 0; second < 60 && !ready(); ++second) loop.advance(1000);
+}
+
+/// Once wrong, if wanted, then right; what is written stays wrong until the task is closed.
+void Practice::answer(bool right) {
+    bool closed = false;
+    const form::Connection turns =
+        sheet().ereignis.connect([&](engine::Arbeitsblatt::Ereignis turn) {
+            closed = closed || turn == engine::Arbeitsblatt::Ereignis::Geschlossen;
+        });
+    const bool open = ready();
+    if (!writes_ && !right) answerWrong();
+    if (!writes_) answerRight();
+    for (int tries = 0; writes_ && open && !closed && tries < 10; ++tries) {
+        sim::writeScale(sheet<notation::SchreibBlatt>(),
+                        right ? sim::Writing::Right : sim::Writing::Wrong, chance_);
+        // The same once more cannot be handed in.
+        if (on<form::Button>("cmdOK").usable()) on<form::Button>("cmdOK").click();
+        loop.advance(10);
+    }
+    loop.advance(100);
+    law(closed == open, "a task that is answered is closed");
+}
+
+bool Practice::run(bool keep) {
+    if (!button("cmdOK").usable()) return false;
+    begin();
+    loop.advance(1000);
+    const auto shown = [this](const std::string& name) {
+        return loaded(name) && form(name).visible();
+    };
+    if (!running()) {
+        law(shown(setup_) || shown("grd_einst"), "after a failure there is a way on");
+        return false;
+    }
+    for (const bool right : {false, true}) {
+        if (z.abfrage == 0) on<form::Button>("CmdNextAufg").click();
+        await();
+        answer(right);
+        law(z.matbox_zahl >= 0, "weights");
+    }
+    const bool closed = z.schalter_frei > 0;
+    leave(keep);
+    law(!running() && shown(setup_), "the worksheet can be left");
+    return closed;
+}
+
+}  // namespace soak
