@@ -5,6 +5,7 @@
 #include "setup/regeln.h"
 #include "sound/midi.h"
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -54,6 +55,11 @@ class Einstellung final : public core::Formular {
     Richtungen richtungen() const { return {z.abfolge, z.richtung}; }
     void ska_ausw_click();
     void AuswahlOeffnen();
+    void AuswahlWiederaufnehmen();
+    void AuswahlZeigen();
+    /// Which scales are to be had: category, note order, direction.
+    using Skalen = std::array<int, 3>;
+    Skalen ZurWahl() const { return {z.skal_typ, z.abfolge, z.richtung}; }
     void lst_ska_click(form::ListBox& quelle, form::ListBox& ziel);
     void selectionCheck();
     void writeHint(int flag);
@@ -113,6 +119,7 @@ class Einstellung final : public core::Formular {
     Zweig zweig_;
     bool bereit_ = false;
     bool abbruch_ = false;
+    Skalen zurWahl_{};                  ///< those that the lists were filled with
     bool verklungen_ = false;           ///< a sound check has ended and was not closed yet
     form::Group* popGruppe_ = nullptr;  ///< of the last right-click
     form::Connection listeGeaendert_, formularFort_;

@@ -8,10 +8,21 @@ void Einstellung::final_click() {
     if (z.ska_ausw == 1) selectionCheck();
 }
 
-/// While scales are being picked, their category and the direction cannot change.
 void Einstellung::ska_ausw_click() {
+    if (z.ska_ausw == 1) AuswahlOeffnen();
+    AuswahlZeigen();
+}
+
+/// What was picked stays, unless meanwhile other scales are to be had.
+void Einstellung::AuswahlWiederaufnehmen() {
+    if (zurWahl_ != ZurWahl()) return ska_ausw_click();
+    AuswahlZeigen();
+    selectionCheck();
+}
+
+/// While scales are being picked, their category and the direction cannot change.
+void Einstellung::AuswahlZeigen() {
     const bool alle = z.ska_ausw == 0;
-    if (!alle) AuswahlOeffnen();
     grdeinst(10).visible = !alle;
     for (form::Control* control : std::initializer_list<form::Control*>{
              &grdeinst(4), &lb4, &grdeinst(1), &geinst_lb(1), &geinst_lb(4)})
@@ -22,6 +33,7 @@ void Einstellung::ska_ausw_click() {
 }
 
 void Einstellung::AuswahlOeffnen() {
+    zurWahl_ = ZurWahl();
     cmdOK.enabled = false;
     lb10(0).visible = true;
     lst_ska0.setItems(skalenZurWahl(p.katalog, z.skal_typ, richtungen()));

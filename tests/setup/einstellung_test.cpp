@@ -32,6 +32,11 @@ TEST_F(SetUp, AChoiceIsStoredEveryTimeAndHasConsequencesOnce) {
     option("ska_ausw", 1).click();
     EXPECT_EQ(z.ska_ausw, 1);
     EXPECT_EQ(list(1).count(), 2) << "what was picked stays";
+    EXPECT_FALSE(usable("skal_typ_cmb")) << "the category is tied to it again";
+    z.ska_ausw = 0;
+    combo("skal_typ_cmb").setListIndex(1);
+    option("ska_ausw", 1).click();
+    EXPECT_EQ(list(1).count(), 0) << "scales of another category";
 }
 
 TEST_F(OnHost, TheRangeOffersWhatItsSizeLeaves) {
