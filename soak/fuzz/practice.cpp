@@ -75,6 +75,9 @@ bool Practice::run(bool keep) {
         law(shown(setup_) || shown("grd_einst"), "after a failure there is a way on");
         return false;
     }
+    const bool training = z.uebungsmodus == 1 || z.uebungsmodus == 2;
+    law(!training || weights().size() == static_cast<std::size_t>(int(z.potSkala)),
+        "each scale has one weight");
     for (const bool right : {false, true}) {
         if (z.abfrage == 0) on<form::Button>("CmdNextAufg").click();
         await();

@@ -10,6 +10,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <cstring>
 
 namespace soak {
 
@@ -49,13 +51,22 @@ void tryJson(const QString& text) {
     law(again && same(*again, *value), "a value that was read can be kept");
 }
 
+/// setenv() would keep every text that it was ever given.
+void setVariable(const std::string& text) {
+    static char variable[8192] = "MELVORA_HOST_ADDRESS=";
+    static char* const value = variable + std::strlen(variable);
+    static const bool known = putenv(variable) == 0;
+    law(known && text.size() < 8000, "the variable can be set");
+    std::memcpy(value, text.c_str(), text.size() + 1);
+}
+
 void tryAddress(const std::string& text) {
     hostlink::socketPath(text);
     const std::string path = text.substr(0, text.find('\0'));
     const std::string address = hostlink::addressOf(path);
     law(address.find_first_of(",;") == address.npos, "one address");
     law(hostlink::socketPath(address) == path, "the socket it was made of");
-    qputenv("MELVORA_HOST_ADDRESS", QByteArray::fromStdString(path));
+    setVariable(path);
     law(hostlink::addressIsNamed() == !path.empty(), "named when it is there");
     law(!hostlink::hostAddress().empty(), "there is always an address");
 }
