@@ -71,6 +71,8 @@ class Night:
                 self.prepare()
                 try:
                     self.live(end)
+                except (AssertionError, OSError, EOFError, sqlite3.Error) as error:
+                    self.fault(f"this place is given up: {error!r}")
                 finally:
                     self.wind_up()
 
@@ -168,9 +170,8 @@ class Night:
         if language:
             self.language = {language}
         if not until(lambda: self.host.poll() is None and self.place.answers(), RESTART, 0.002):
-            self.fault(f"no answer within {RESTART} s (status {self.host.poll()}): "
-                       + self.place.output()[-500:])
-            return
+            raise AssertionError(f"no answer within {RESTART} s (status {self.host.poll()}): "
+                                 + self.place.output()[-500:])
         self.restarts.append(time.monotonic() - begun)
         self.check()
         self.writer.beside = not module
