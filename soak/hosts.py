@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Hosts that hang, dawdle, lie and die, each towards a real module. Whatever they do, the module ends
-with a told reason or goes on, soon, and without spinning or growing. Half of the modules have a screen
-(Xvfb) and are driven by keys (xdotool)."""
+"""Hosts that hang, dawdle, lie and die, each towards a real module. Whatever they do, the module
+ends with a told reason or goes on, soon, and without spinning or growing. Half of the modules have a
+screen (Xvfb) and are driven by keys (xdotool)."""
 import collections
 import os
 import pathlib
@@ -30,7 +30,8 @@ IDLE = 0.25           # seconds of processor time in a second of waiting
 WORK = 6.0            # seconds of processor time in all, and a tenth of the time that it ran
 BULK = 8 << 20        # bytes of the biggest answer
 MEMORY = 260          # megabytes at most, beside 16 times the biggest answer
-USERS = [["anna", "Muster", "Anna", "1"], ["unbekannt"], ["bea", "%1 %2 <&\"", "", ""], ["ä" * 200]]
+USERS = [["anna", "Muster", "Anna", "1"], ["unbekannt"], ["bea", "%1 %2 <&\"", "", ""],
+         ["ä" * 200]]
 SCREEN = ("Xvfb", "openbox", "xdotool")
 MESSAGES = ("Melvora 2000", "Achtung", "Warnung")
 MODULE = DBusAddress("/Host", bus_name="org.melvora.Module", interface="org.melvora.Host1")
@@ -140,8 +141,9 @@ class Liar:
 
     def wrong_signature(self, line, call, answer):
         signature, body = self.chance.choice((
-            (None, ()), ("b", (True,)), ("v", (answer[1],)), ("vb", answer[::-1]), ("ss", ("a", "b")),
-            ("bvv", (True, answer[1], answer[1])), ("bs", (True, "a")), ("iv", (1, answer[1])),
+            (None, ()), ("b", (True,)), ("v", (answer[1],)), ("vb", answer[::-1]),
+            ("ss", ("a", "b")), ("bvv", (True, answer[1], answer[1])),
+            ("bs", (True, "a")), ("iv", (1, answer[1])),
             ("av", ([answer[1]] * 3,)), ("(bv)", (answer,)), ("h" * 2, None)))
         if body is None:
             data = bytearray(line.reply_bytes(call, "uu", (0, 1)))
@@ -186,7 +188,8 @@ class Liar:
             at = self.chance.randrange(first, len(data))
             how = self.chance.random()
             if how < 0.8:
-                data[at] = self.chance.choice((0, 1, 0x7f, 0xff, data[at] ^ 1 << self.chance.randrange(8)))
+                flipped = data[at] ^ 1 << self.chance.randrange(8)
+                data[at] = self.chance.choice((0, 1, 0x7f, 0xff, flipped))
             elif how < 0.9:
                 del data[at]
             else:
@@ -212,8 +215,9 @@ class Liar:
 KINDS = {
     "hangs": ["silent"],
     "is slow": ["slow", "slow", "drips"],
-    "lies": ["refuses", "error", "wrong_type", "wrong_type", "wrong_type", "wrong_type", "wrong_signature",
-             "twice", "unasked", "half", "garbage", "giant", "mutated", "mutated", "mutated",
+    "lies": ["refuses", "error", "wrong_type", "wrong_type", "wrong_type", "wrong_type",
+             "wrong_signature", "twice", "unasked", "half", "garbage", "giant",
+             "mutated", "mutated", "mutated",
              "another_user", "drips", "hangs_up"],
     "dies": ["dies", "dies", "hangs_up"],
 }
@@ -463,7 +467,8 @@ class Run:
         try:
             if not until(self.turns, 3 * CALL):
                 self.fault("hangs")
-            until(lambda: time.monotonic() - self.host.last > (CALL + 0.5 if self.kind else 0.5), 30)
+            quiet = CALL + 0.5 if self.kind else 0.5
+            until(lambda: time.monotonic() - self.host.last > quiet, 30)
             before = processor_seconds(self.module.pid)
             time.sleep(1)
             self.processor = processor_seconds(self.module.pid)
@@ -494,7 +499,8 @@ class Run:
         self.status = self.module.wait()
         if self.status not in ((-15, 143) if asked else (0, 1, 3, 9)):
             self.fault(f"ended with {self.status}")
-        if self.kind is None and self.driven and (self.status != 0 or self.host.asked.count("STORE") < 3):
+        stored = self.host.asked.count("STORE")
+        if self.kind is None and self.driven and (self.status != 0 or stored < 3):
             self.fault(f"an honest host was not served: status {self.status}, {self.host.asked}")
 
     def look_at_results(self, place):
@@ -511,7 +517,8 @@ class Worker(threading.Thread):
 
     def __init__(self, given, numbers, records, runs, end):
         super().__init__(daemon=True)
-        self.given, self.numbers, self.records, self.runs, self.end = given, numbers, records, runs, end
+        self.given, self.numbers, self.records = given, numbers, records
+        self.runs, self.end = runs, end
         self.screen = None
 
     def run(self):
@@ -536,8 +543,8 @@ class Worker(threading.Thread):
             if run.module.poll() is None:
                 run.module.kill()
         for fault in run.faults:
-            print(f"hosts: --seed {self.given.seed} --only {number} ({run.kind}, {run.host.deaf}, driven "
-                  f"{run.driven}, {run.seconds:.0f} s, asked {run.host.asked[-12:]}, "
+            print(f"hosts: --seed {self.given.seed} --only {number} ({run.kind}, {run.host.deaf}, "
+                  f"driven {run.driven}, {run.seconds:.0f} s, asked {run.host.asked[-12:]}, "
                   f"lies {run.host.lies[-12:]}): {fault}", file=sys.stderr, flush=True)
         self.runs.append(run)
 
@@ -557,7 +564,8 @@ def main():
         worker.join()
     report = Report()
     if not all(map(shutil.which, SCREEN)):
-        report.row("not tried: modules on a screen", "0 modules", True, f"needs {', '.join(SCREEN)}")
+        report.row("not tried: modules on a screen", "0 modules", True,
+                   f"needs {', '.join(SCREEN)}")
     for kind in [None, *KINDS]:
         mine = [run for run in runs if run.kind == kind]
         if not mine:
@@ -567,10 +575,12 @@ def main():
                    not any(run.faults for run in mine),
                    f"{sum(run.driven for run in mine)} on a screen, "
                    f"{sum(len(run.host.asked) for run in mine)} calls, "
-                   f"{sum(len(run.host.lies) for run in mine)} of them ill answered; ended by themselves "
-                   f"with {dict(sorted(ends.items()))}; at most {max(r.seconds for r in mine):.0f} s, "
+                   f"{sum(len(run.host.lies) for run in mine)} of them ill answered; ended by "
+                   f"themselves with {dict(sorted(ends.items()))}; at most "
+                   f"{max(r.seconds for r in mine):.0f} s, "
                    f"{max(r.processor for r in mine):.1f} s of processor time, "
-                   f"{max(r.peak for r in mine):.0f} MB, {max(r.idle for r in mine):.2f} s while waiting; "
+                   f"{max(r.peak for r in mine):.0f} MB, "
+                   f"{max(r.idle for r in mine):.2f} s while waiting; "
                    f"{sum(len(r.faults) for r in mine)} faults")
     report.end()
 

@@ -219,14 +219,15 @@ class Results:
                 self.faults.append(f"{name}: lost")
             elif kept[name] != text:
                 self.faults.append(f"{name}: damaged")
-        for name, times in rows("SELECT file_name, COUNT(*) FROM results GROUP BY 1 HAVING COUNT(*) > 1"):
+        for name, times in rows(
+                "SELECT file_name, COUNT(*) FROM results GROUP BY 1 HAVING COUNT(*) > 1"):
             self.faults.append(f"{name}: {times} times")
         self.arrived = waits
         if (count := len(kept.keys() - waiting)) != self.collected:
             self.faults.append(f"{count} results are kept, {self.collected} have come")
             self.collected = count
         for name, text, whole in self.begun:
-            aside = [path for path in self.place.spool.glob("unfinished-*") if path.name.endswith(name)]
+            aside = list(self.place.spool.glob(f"unfinished-*{name}"))
             if len(aside) != 1:
                 self.faults.append(f"{name}: put aside as {aside}")
                 continue
