@@ -3,6 +3,7 @@
 the right to write, the store's file, the spool. Afterwards everything is given back, and nothing
 that was acknowledged, and no result, may be missing."""
 import collections
+import ctypes
 import errno
 import os
 import random
@@ -32,6 +33,8 @@ def run(*command):
 
 def go_inside():
     """Becomes a process that may mount where nobody sees it. @return why that is not possible"""
+    if not shutil.which("unshare"):
+        return "there is no unshare"
     for way in ("-m", "-rm"):
         command = ["unshare", way, "--propagation", "private"]
         probe = run(*command, "mount", "-t", "tmpfs", "none", "/mnt")
@@ -61,11 +64,17 @@ class Disk:
 
     def empty(self):
         (self.folder / "filler").unlink(missing_ok=True)
-        run("mount", "-o", f"remount,size={self.kilobytes + 20_000}k", str(self.folder))
+        self.resize(self.kilobytes + 20_000)
 
     def shrink(self):
-        """To its old size, or as near as what lies on it lets it."""
-        run("mount", "-o", f"remount,size={self.kilobytes}k", str(self.folder))
+        """To its old size; it keeps its size when what lies on it needs that."""
+        self.resize(self.kilobytes)
+
+    def resize(self, kilobytes):
+        """The program mount would hand on the owner, which has another number in here."""
+        MS_REMOUNT = 32
+        ctypes.CDLL(None).mount(b"soak", bytes(self.folder), b"tmpfs", MS_REMOUNT,
+                                f"size={kilobytes}k".encode())
 
 
 class Episode:
