@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Takes from the host what it stands on, while callers store and results come: room on the disk, the
-right to write, the store's file, the spool. Afterwards everything is given back, and nothing that was
-acknowledged, and no result, may be missing."""
+"""Takes from the host what it stands on, while callers store and results come: room on the disk,
+the right to write, the store's file, the spool. Afterwards everything is given back, and nothing
+that was acknowledged, and no result, may be missing."""
 import collections
+import ctypes
 import errno
 import os
 import random
@@ -19,8 +20,8 @@ ANSWER = 10.0       # seconds within which a host answers, whatever is the matte
 RESTART = 10.0      # seconds within which a host that was started answers or has ended
 ACCEPTED = 3.0      # seconds within which it stores again when all is well again
 TAKEN = 3.0         # seconds within which it takes then what waited, without being asked to
-#: Troubles of the spool that the host is not told of, nor of their end: it looks again when the next
-#: record comes, or when a module ends. So it does when the spool has been another folder.
+#: Troubles of the spool that the host is not told of, nor of their end: it looks again when the
+#: next record comes, or when a module ends. So it does when the spool has been another folder.
 AT_NEXT_TURN = ("rights gone", "read only")
 INSIDE = "SOAK_MOUNTS"  # set for the process that may mount
 DROP = ["setpriv", "--bounding-set=-all", "--inh-caps=-all"]  # root without root's rights
@@ -32,11 +33,14 @@ def run(*command):
 
 def go_inside():
     """Becomes a process that may mount where nobody sees it. @return why that is not possible"""
+    if not shutil.which("unshare"):
+        return "there is no unshare"
     for way in ("-m", "-rm"):
-        probe = run("unshare", way, "--propagation", "private", "mount", "-t", "tmpfs", "none", "/mnt")
+        command = ["unshare", way, "--propagation", "private"]
+        probe = run(*command, "mount", "-t", "tmpfs", "none", "/mnt")
         if probe.returncode == 0:
             os.environ[INSIDE] = way
-            os.execvp("unshare", ["unshare", way, "--propagation", "private", sys.executable, *sys.argv])
+            os.execvp("unshare", [*command, sys.executable, *sys.argv])
     return probe.stderr.strip().replace("\n", " ")
 
 
@@ -60,11 +64,17 @@ class Disk:
 
     def empty(self):
         (self.folder / "filler").unlink(missing_ok=True)
-        run("mount", "-o", f"remount,size={self.kilobytes + 20_000}k", str(self.folder))
+        self.resize(self.kilobytes + 20_000)
 
     def shrink(self):
-        """To its old size, or as near as what lies on it lets it."""
-        run("mount", "-o", f"remount,size={self.kilobytes}k", str(self.folder))
+        """To its old size; it keeps its size when what lies on it needs that."""
+        self.resize(self.kilobytes)
+
+    def resize(self, kilobytes):
+        """The program mount would hand on the owner, which has another number in here."""
+        MS_REMOUNT = 32
+        ctypes.CDLL(None).mount(b"soak", bytes(self.folder), b"tmpfs", MS_REMOUNT,
+                                f"size={kilobytes}k".encode())
 
 
 class Episode:
@@ -92,7 +102,8 @@ class Episode:
             self.results = Results(self.place, 20_000)
             self.gate, seed = Gate(), self.chance.random()
             self.workers = [ResultWriter(self.results, self.gate, seed),
-                            *(Storer(i, self.place, self.stores, self.gate, seed) for i in range(2))]
+                            *(Storer(i, self.place, self.stores, self.gate, seed)
+                              for i in range(2))]
             for worker in self.workers:
                 worker.start()
             try:
@@ -145,7 +156,8 @@ class Episode:
         self.lives()
         self.gate.close()
         # Callers were given the reason; whoever looks after the machine finds it, too.
-        if self.stores.refused > refused and f"melvora: {self.place.store}: " not in self.place.output():
+        line = f"melvora: {self.place.store}: "
+        if self.stores.refused > refused and line not in self.place.output():
             self.fault("stores are refused, and no line says so")
         self.give_back()
         self.all_is_well()
@@ -154,7 +166,8 @@ class Episode:
 
     def lives(self):
         if self.host.poll() is not None:
-            self.fault(f"the host has ended with {self.host.returncode}: {self.place.output()[-400:]}")
+            self.fault(f"the host has ended with {self.host.returncode}: "
+                       + self.place.output()[-400:])
             return False
         begun = time.monotonic()
         if not until(self.place.answers, ANSWER, 0.02):
@@ -319,7 +332,7 @@ class Episode:
     def rights_gone(self):
         path = self.chance.choice((self.place.data, self.place.spool, self.place.store))
         mode = path.stat().st_mode & 0o777
-        path.chmod(self.chance.choice((0, 0o500)) if path.is_dir() else self.chance.choice((0, 0o400)))
+        path.chmod(self.chance.choice((0, 0o500 if path.is_dir() else 0o400)))
         self.undo.append(lambda: path.chmod(mode))
 
 
@@ -341,8 +354,10 @@ class Night:
     def __init__(self, given, prefix):
         self.given, self.prefix = given, prefix
         self.chance = random.Random(given.seed)
-        self.tried, self.refused, self.waited, self.faults = (collections.Counter() for _ in range(4))
-        self.episodes = self.starts = self.refused_starts = self.opened_to_read = self.at_next_turn = 0
+        self.tried, self.refused, self.waited, self.faults = (
+            collections.Counter() for _ in range(4))
+        self.episodes = self.starts = self.refused_starts = 0
+        self.opened_to_read = self.at_next_turn = 0
         self.acknowledged = self.collected = self.not_written = 0
         self.slowest = self.slowest_return = self.slowest_store = 0.0
 
@@ -378,15 +393,17 @@ def main():
         report.row("not tried: rights taken away", "0 times", True, "root keeps its rights here")
     for trouble, times in sorted(night.tried.items()):
         report.row(trouble, f"{times} times", not night.faults[trouble],
-                   f"{night.refused[trouble]} stores refused with a reason, {night.waited[trouble]} "
-                   f"results waited, {night.faults[trouble]} faults")
+                   f"{night.refused[trouble]} stores refused with a reason, "
+                   f"{night.waited[trouble]} results waited, {night.faults[trouble]} faults")
     report.row("everything given back", f"{sum(night.tried.values())} times", not night.faults,
                f"{night.acknowledged} stores acknowledged, {night.collected} results collected, "
-               f"{sum(night.faults.values())} lost or other faults; {night.starts} starts in trouble, "
-               f"{night.refused_starts} refused with a line, {night.opened_to_read} could only "
+               f"{sum(night.faults.values())} lost or other faults; "
+               f"{night.starts} starts in trouble, {night.refused_starts} refused with a "
+               f"line, {night.opened_to_read} could only "
                f"read; answers after {night.slowest:.2f} s, stores "
-               f"after {night.slowest_store:.2f} s, takes what waited after {night.slowest_return:.2f} s "
-               f"(most), {night.at_next_turn} times only when a module hands over")
+               f"after {night.slowest_store:.2f} s, takes what waited after "
+               f"{night.slowest_return:.2f} s (most), "
+               f"{night.at_next_turn} times only when a module hands over")
     report.end()
 
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Hosts that hang, dawdle, lie and die, each towards a real module. Whatever they do, the module ends
-with a told reason or goes on, soon, and without spinning or growing. Half of the modules have a screen
-(Xvfb) and are driven by keys (xdotool)."""
+"""Hosts that hang, dawdle, lie and die, each towards a real module. Whatever they do, the module
+ends with a told reason or goes on, soon, and without spinning or growing. Half of the modules have a
+screen (Xvfb) and are driven by keys (xdotool)."""
 import collections
 import os
 import pathlib
@@ -10,7 +10,6 @@ import random
 import shutil
 import socket
 import struct
-import subprocess
 import sys
 import threading
 import time
@@ -22,7 +21,7 @@ from jeepney.low_level import Parser
 
 from suite import Place, Report, arguments, carried, memory, plain, processor_seconds, until
 
-WORKERS = 8           # modules at a time
+WORKERS = 12          # modules at a time
 CALL = 5.0            # seconds after which the module gives a call up
 FIRST = 8 * CALL      # until a module shows something or ends: it makes six calls before
 QUIET = CALL + 1.5    # seconds without a call after which it waits for nobody
@@ -31,7 +30,9 @@ IDLE = 0.25           # seconds of processor time in a second of waiting
 WORK = 6.0            # seconds of processor time in all, and a tenth of the time that it ran
 BULK = 8 << 20        # bytes of the biggest answer
 MEMORY = 260          # megabytes at most, beside 16 times the biggest answer
-USERS = [["anna", "Muster", "Anna", "1"], ["unbekannt"], ["bea", "%1 %2 <&\"", "", ""], ["ä" * 200]]
+USERS = [["anna", "Muster", "Anna", "1"], ["unbekannt"], ["bea", "%1 %2 <&\"", "", ""],
+         ["ä" * 200]]
+SCREEN = ("Xvfb", "openbox", "xdotool")
 MESSAGES = ("Melvora 2000", "Achtung", "Warnung")
 MODULE = DBusAddress("/Host", bus_name="org.melvora.Module", interface="org.melvora.Host1")
 EXAM = b"""<?xml version="1.0" encoding="ISO-8859-1" ?>
@@ -140,8 +141,9 @@ class Liar:
 
     def wrong_signature(self, line, call, answer):
         signature, body = self.chance.choice((
-            (None, ()), ("b", (True,)), ("v", (answer[1],)), ("vb", answer[::-1]), ("ss", ("a", "b")),
-            ("bvv", (True, answer[1], answer[1])), ("bs", (True, "a")), ("iv", (1, answer[1])),
+            (None, ()), ("b", (True,)), ("v", (answer[1],)), ("vb", answer[::-1]),
+            ("ss", ("a", "b")), ("bvv", (True, answer[1], answer[1])),
+            ("bs", (True, "a")), ("iv", (1, answer[1])),
             ("av", ([answer[1]] * 3,)), ("(bv)", (answer,)), ("h" * 2, None)))
         if body is None:
             data = bytearray(line.reply_bytes(call, "uu", (0, 1)))
@@ -186,7 +188,8 @@ class Liar:
             at = self.chance.randrange(first, len(data))
             how = self.chance.random()
             if how < 0.8:
-                data[at] = self.chance.choice((0, 1, 0x7f, 0xff, data[at] ^ 1 << self.chance.randrange(8)))
+                flipped = data[at] ^ 1 << self.chance.randrange(8)
+                data[at] = self.chance.choice((0, 1, 0x7f, 0xff, flipped))
             elif how < 0.9:
                 del data[at]
             else:
@@ -212,8 +215,9 @@ class Liar:
 KINDS = {
     "hangs": ["silent"],
     "is slow": ["slow", "slow", "drips"],
-    "lies": ["refuses", "error", "wrong_type", "wrong_type", "wrong_type", "wrong_type", "wrong_signature",
-             "twice", "unasked", "half", "garbage", "giant", "mutated", "mutated", "mutated",
+    "lies": ["refuses", "error", "wrong_type", "wrong_type", "wrong_type", "wrong_type",
+             "wrong_signature", "twice", "unasked", "half", "garbage", "giant",
+             "mutated", "mutated", "mutated",
              "another_user", "drips", "hangs_up"],
     "dies": ["dies", "dies", "hangs_up"],
 }
@@ -290,12 +294,12 @@ class Line:
 class PretendedHost:
     """Serves one module from its start to its end. A context."""
 
-    def __init__(self, path, kind, chance, records):
+    def __init__(self, path, kind, chance, records, calls):
         self.path, self.kind, self.records = str(path), kind, records
         self.liar = Liar(chance)
         self.chance = chance
-        # Most are honest for some calls, so that the module comes beyond its start.
-        self.honest = chance.choice((0, chance.randrange(7), chance.randrange(7, 14), chance.randrange(30)))
+        # Most are honest for some of the `calls` that the module may make.
+        self.honest = chance.choice((0, chance.randrange(7), chance.randrange(calls)))
         self.share = chance.choice((0.2, 0.6, 1.0))
         self.deaf = chance.choice(DEAF) if kind == "hangs" and chance.random() < 0.4 else None
         if kind is None:
@@ -351,37 +355,30 @@ class PretendedHost:
 
 
 class Screen:
-    """A display without a window manager, and the keys and clicks of a user on it."""
+    """What a user sees and does on the screen of a place."""
 
-    def __init__(self, number):
-        self.environment = {**os.environ, "DISPLAY": f":{number}"}
-        self.server = subprocess.Popen(["Xvfb", f":{number}", "-screen", "0", "1024x768x24", "-noreset"],
-                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        self.display = f":{number}"
-        until(lambda: self.tool("getmouselocation"), 20)
-
-    def tool(self, *arguments):
-        done = subprocess.run(["xdotool", *arguments], env=self.environment, capture_output=True,
-                              text=True, check=False)
-        return done.stdout if done.returncode == 0 else ""
-
-    def windows(self):
-        return self.tool("search", "--onlyvisible", "--name", ".").split()
+    def __init__(self, place):
+        place.screen()
+        self.tool = place.tool
+        until(lambda: self.tool("get_num_desktops"), 20)
 
     def top(self):
-        """The window that takes keys: a message, which a window manager would keep on top, or the
-        one that came last."""
-        shown = [(window, self.tool("getwindowname", window).strip()) for window in self.windows()]
-        messages = [(window, title) for window, title in shown if title in MESSAGES]
-        return (messages or shown or [("", "")])[-1]
+        """The window that takes keys and its title: a message, or the one that came last."""
+        shown = [(window, self.tool("getwindowname", window))
+                 for window in self.tool("search", "--onlyvisible", "--name", ".").split()]
+        titled = [(window, title) for window, title in shown if title and title not in ("openbox",)]
+        return ([pair for pair in titled if pair[1] in MESSAGES] or titled or [("", "")])[-1]
 
     def keys(self, *keys):
-        if window := self.top()[0]:
-            self.tool("windowfocus", window, "key", "--delay", "30", *keys)
+        window, title = self.top()
+        if title in MESSAGES:
+            self.tool("windowactivate", window)
+        if window:
+            self.tool("key", "--delay", "30", *keys)
 
     def click(self, x, y):
         if window := self.top()[0]:
-            self.tool("mousemove", "--window", window, str(x), str(y), "click", "1")
+            self.tool("mousemove", "--window", window, x, y, "click", "1")
 
 
 #: From the start form through a training of music theory, which is saved, and back. A pause in
@@ -406,7 +403,7 @@ class Run:
         self.chance = random.Random(f"{given.seed}/{number}")
         kinds = list(KINDS)
         self.kind = None if number == 0 else self.chance.choice(kinds + ["lies"] * 3)
-        self.driven = number == 0 or worker.screen is not None and self.chance.random() < 0.5
+        self.driven = worker.screen is not None and (number == 0 or self.chance.random() < 0.5)
         self.worker = worker
         self.faults = []
         self.status = self.title = None
@@ -421,10 +418,11 @@ class Run:
         for left in place.spool.iterdir():
             left.unlink()
         environment = dict(MELVORA_HOST_ADDRESS=str(place.socket), temp=str(place.spool))
-        if self.driven:
-            environment.update(QT_QPA_PLATFORM="xcb", DISPLAY=self.worker.screen.display)
+        if not self.driven:
+            environment["QT_QPA_PLATFORM"] = "offscreen"
         file = ["--settings", str(place.home / "exam.mvs")] if self.chance.random() < 0.25 else []
-        with PretendedHost(place.socket, self.kind, self.chance, self.worker.records) as self.host:
+        with PretendedHost(place.socket, self.kind, self.chance, self.worker.records,
+                           calls=25 if self.driven else 7) as self.host:
             begun = time.monotonic()
             self.module = place.start("zepha9", *file, **environment)
             (self.drive if self.driven else self.watch)()
@@ -469,7 +467,8 @@ class Run:
         try:
             if not until(self.turns, 3 * CALL):
                 self.fault("hangs")
-            until(lambda: time.monotonic() - self.host.last > (CALL + 0.5 if self.kind else 0.5), 30)
+            quiet = CALL + 0.5 if self.kind else 0.5
+            until(lambda: time.monotonic() - self.host.last > quiet, 30)
             before = processor_seconds(self.module.pid)
             time.sleep(1)
             self.processor = processor_seconds(self.module.pid)
@@ -500,7 +499,8 @@ class Run:
         self.status = self.module.wait()
         if self.status not in ((-15, 143) if asked else (0, 1, 3, 9)):
             self.fault(f"ended with {self.status}")
-        if self.kind is None and (self.status != 0 or self.host.asked.count("STORE") < 3):
+        stored = self.host.asked.count("STORE")
+        if self.kind is None and self.driven and (self.status != 0 or stored < 3):
             self.fault(f"an honest host was not served: status {self.status}, {self.host.asked}")
 
     def look_at_results(self, place):
@@ -515,29 +515,24 @@ class Run:
 class Worker(threading.Thread):
     """Runs one module after the other on a screen and in a place of its own."""
 
-    def __init__(self, number, given, numbers, records, runs, end):
+    def __init__(self, given, numbers, records, runs, end):
         super().__init__(daemon=True)
-        self.given, self.numbers, self.records, self.runs, self.end = given, numbers, records, runs, end
-        self.number = number
+        self.given, self.numbers, self.records = given, numbers, records
+        self.runs, self.end = runs, end
         self.screen = None
 
     def run(self):
         with Place(self.given.bin) as self.place:
             self.place.socket.parent.mkdir()
             (self.place.home / "exam.mvs").write_bytes(EXAM)
-            if shutil.which("Xvfb") and shutil.which("xdotool"):
-                self.screen = Screen(600 + os.getpid() * WORKERS % 9000 + self.number)
-            try:
-                while time.monotonic() < self.end or self.given.only is not None:
-                    try:
-                        number = self.numbers.get_nowait()
-                    except queue.Empty:
-                        return
-                    self.run_one(number)
-            finally:
-                if self.screen:
-                    self.screen.server.terminate()
-                    self.screen.server.wait()
+            if all(map(shutil.which, SCREEN)):
+                self.screen = Screen(self.place)
+            while time.monotonic() < self.end or self.given.only is not None:
+                try:
+                    number = self.numbers.get_nowait()
+                except queue.Empty:
+                    return
+                self.run_one(number)
 
     def run_one(self, number):
         run = Run(number, self.given, self)
@@ -548,8 +543,8 @@ class Worker(threading.Thread):
             if run.module.poll() is None:
                 run.module.kill()
         for fault in run.faults:
-            print(f"hosts: --seed {self.given.seed} --only {number} ({run.kind}, {run.host.deaf}, driven "
-                  f"{run.driven}, {run.seconds:.0f} s, asked {run.host.asked[-12:]}, "
+            print(f"hosts: --seed {self.given.seed} --only {number} ({run.kind}, {run.host.deaf}, "
+                  f"driven {run.driven}, {run.seconds:.0f} s, asked {run.host.asked[-12:]}, "
                   f"lies {run.host.lies[-12:]}): {fault}", file=sys.stderr, flush=True)
         self.runs.append(run)
 
@@ -562,12 +557,15 @@ def main():
         numbers.put(number)
     end = time.monotonic() + given.seconds
     runs, records = [], {}
-    workers = [Worker(i, given, numbers, records, runs, end) for i in range(WORKERS)]
+    workers = [Worker(given, numbers, records, runs, end) for _ in range(WORKERS)]
     for worker in workers:
         worker.start()
     for worker in workers:
         worker.join()
     report = Report()
+    if not all(map(shutil.which, SCREEN)):
+        report.row("not tried: modules on a screen", "0 modules", True,
+                   f"needs {', '.join(SCREEN)}")
     for kind in [None, *KINDS]:
         mine = [run for run in runs if run.kind == kind]
         if not mine:
@@ -577,10 +575,12 @@ def main():
                    not any(run.faults for run in mine),
                    f"{sum(run.driven for run in mine)} on a screen, "
                    f"{sum(len(run.host.asked) for run in mine)} calls, "
-                   f"{sum(len(run.host.lies) for run in mine)} of them ill answered; ended by themselves "
-                   f"with {dict(sorted(ends.items()))}; at most {max(r.seconds for r in mine):.0f} s, "
+                   f"{sum(len(run.host.lies) for run in mine)} of them ill answered; ended by "
+                   f"themselves with {dict(sorted(ends.items()))}; at most "
+                   f"{max(r.seconds for r in mine):.0f} s, "
                    f"{max(r.processor for r in mine):.1f} s of processor time, "
-                   f"{max(r.peak for r in mine):.0f} MB, {max(r.idle for r in mine):.2f} s while waiting; "
+                   f"{max(r.peak for r in mine):.0f} MB, "
+                   f"{max(r.idle for r in mine):.2f} s while waiting; "
                    f"{sum(len(r.faults) for r in mine)} faults")
     report.end()
 

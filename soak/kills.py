@@ -31,7 +31,8 @@ EXAM = b"""<?xml version="1.0" encoding="ISO-8859-1" ?>
 def lives(process):
     """Whether it runs still: a process that has ended waits as a zombie."""
     try:
-        return pathlib.Path(f"/proc/{process}/stat").read_text().rpartition(")")[2].split()[0] != "Z"
+        about = pathlib.Path(f"/proc/{process}/stat").read_text()
+        return about.rpartition(")")[2].split()[0] != "Z"
     except OSError:
         return False
 
@@ -71,6 +72,8 @@ class Night:
                 self.prepare()
                 try:
                     self.live(end)
+                except (AssertionError, OSError, EOFError, sqlite3.Error) as error:
+                    self.fault(f"this place is given up: {error!r}")
                 finally:
                     self.wind_up()
 
@@ -168,9 +171,8 @@ class Night:
         if language:
             self.language = {language}
         if not until(lambda: self.host.poll() is None and self.place.answers(), RESTART, 0.002):
-            self.fault(f"no answer within {RESTART} s (status {self.host.poll()}): "
-                       + self.place.output()[-500:])
-            return
+            raise AssertionError(f"no answer within {RESTART} s (status {self.host.poll()}): "
+                                 + self.place.output()[-500:])
         self.restarts.append(time.monotonic() - begun)
         self.check()
         self.writer.beside = not module
@@ -338,9 +340,10 @@ def main():
     report.row("host killed at random moments, and started again", f"{night.host_kills} kills",
                not faults["host"],
                f"{night.early} before it answered; {night.acknowledged} stores acknowledged, "
-               f"{night.collected} records collected, {night.put_aside} unfinished ones put aside and "
-               f"told, {faults['host']} lost, doubled, damaged or other faults; answers again after "
-               f"{statistics.median(times) * 1000:.0f} ms (median), {max(times) * 1000:.0f} ms (most); "
+               f"{night.collected} records collected, {night.put_aside} unfinished ones put aside "
+               f"and told, {faults['host']} lost, doubled, damaged or other faults; answers again "
+               f"after {statistics.median(times) * 1000:.0f} ms (median), "
+               f"{max(times) * 1000:.0f} ms (most); "
                f"slowest store {night.slowest:.2f} s")
     report.row("module killed at random moments", f"{night.module_kills} kills",
                not faults["module"],

@@ -58,6 +58,7 @@ class Stores:
             number = 0 if found == ["", "NIL"] else found[0] if found else None
             if not answer or not isinstance(number, int) or not known[0] <= number <= known[1]:
                 self.faults.append(f"{key}: {number} for {known}")
+                known[0] = number if isinstance(number, int) else known[1]
             elif number and found != value(key, number, self.largest):
                 self.faults.append(f"{key}/{number}: damaged: {str(found)[:200]}")
             else:
@@ -218,13 +219,15 @@ class Results:
                 self.faults.append(f"{name}: lost")
             elif kept[name] != text:
                 self.faults.append(f"{name}: damaged")
-        for name, times in rows("SELECT file_name, COUNT(*) FROM results GROUP BY 1 HAVING COUNT(*) > 1"):
+        for name, times in rows(
+                "SELECT file_name, COUNT(*) FROM results GROUP BY 1 HAVING COUNT(*) > 1"):
             self.faults.append(f"{name}: {times} times")
         self.arrived = waits
         if (count := len(kept.keys() - waiting)) != self.collected:
             self.faults.append(f"{count} results are kept, {self.collected} have come")
+            self.collected = count
         for name, text, whole in self.begun:
-            aside = [path for path in self.place.spool.glob("unfinished-*") if path.name.endswith(name)]
+            aside = list(self.place.spool.glob(f"unfinished-*{name}"))
             if len(aside) != 1:
                 self.faults.append(f"{name}: put aside as {aside}")
                 continue
@@ -270,6 +273,7 @@ class Reader:
 
     def __init__(self, store):
         self.connection = sqlite3.connect(f"file:{store}?mode=ro", uri=True, timeout=10)
+        self.connection.text_factory = lambda text: text.decode(errors="replace")
 
     def __enter__(self):
         return self
