@@ -78,7 +78,7 @@ const std::vector<Lane::Action> Lane::actions{
     {2, "change the ports", &Lane::changePorts, true},
     {1, "change the sound server", &Lane::changeServer, false},
     {4, "press a button", &Lane::press, true},
-    {2, "see which problem is told", &Lane::settle, false},
+    {6, "see which problem is told", &Lane::settle, false},
 };
 
 Lane::Lane(Laws& laws, SoundServer& server, const std::filesystem::path& folder, std::string name,
