@@ -34,20 +34,18 @@ const auto& drawn(base::Rnd& rnd, const Rows& rows) {
     return *row;
 }
 
-/// Kinds of output, and how soon an end may be told.
+/// What an output plays on.
 struct Kind {
-    int weight;
     const char* driver;
-    bool card;    ///< a sound card of the machine in place of the driver
-    int period;   ///< of the card, in milliseconds
+    int weight;
+    int period;   ///< of a sound card in place of the driver, in milliseconds; 0 for none
     bool paced;   ///< at the clock's pace
     bool broken;  ///< a file that takes nothing
 };
 constexpr Kind kinds[] = {
-    {40, "", true, 11, true, false},     {10, "", true, 1, true, false},
-    {10, "none", false, 0, true, false}, {10, "none", false, 0, false, false},
-    {6, "file", false, 0, true, false},  {8, "file", false, 0, false, false},
-    {4, "file", false, 0, true, true},   {8, "", false, 0, true, false},
+    {"", 40, 11, true, false},     {"", 10, 1, true, false},    {"none", 10, 0, true, false},
+    {"none", 10, 0, false, false}, {"file", 6, 0, true, false}, {"file", 8, 0, false, false},
+    {"file", 4, 0, true, true},    {"", 8, 0, true, false},
 };
 
 struct Font {
@@ -80,14 +78,14 @@ const std::vector<Lane::Action> Lane::actions{
     {2, "change the ports", &Lane::changePorts, true},
     {1, "change the sound server", &Lane::changeServer, false},
     {4, "press a button", &Lane::press, true},
-    {2, "see which problem is told", &Lane::settle, false},
+    {6, "see which problem is told", &Lane::settle, false},
 };
 
-Lane::Lane(Laws& laws, SoundServer& server, std::filesystem::path folder, std::string name,
+Lane::Lane(Laws& laws, SoundServer& server, const std::filesystem::path& folder, std::string name,
            std::int64_t seed)
     : laws_(laws),
       server_(server),
-      file_(std::move(folder) / (name + ".wav")),
+      file_(folder / (name + ".wav")),
       name_(std::move(name)),
       rnd_(seed) {}
 
@@ -95,7 +93,7 @@ void Lane::life() {
     who_ = name_ + ", output " + std::to_string(++lives_);
     const synth::SynthOptions options = machineAndOptions();
     WatchedOutput::Pace pace;
-    if (!options.paced || machine_->period < 11) pace.builtIn = 1h;
+    if (!options.paced || machine_->period == 1) pace.builtIn = 1h;
     progress_.doing("make an output");
     output_ = std::make_unique<WatchedOutput>(synth::makeSynthOutput(options, loop_.mail.post()),
                                               *machine_, who_, pace);
@@ -135,7 +133,7 @@ synth::SynthOptions Lane::machineAndOptions() {
         kind.broken ? (oneIn(2) ? "/dev/full" : "/no/such/folder/sound.wav") : file_.string();
     options.soundfont = drawn(rnd_, fonts).file;
     options.paced = kind.paced;
-    if (kind.card) options.openDevice = machine_->card();
+    if (kind.period > 0) options.openDevice = machine_->card();
     return options;
 }
 

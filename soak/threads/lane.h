@@ -35,7 +35,7 @@ class MailLoop final : public form::MessageLoop {
 class Lane {
   public:
     /// @param folder its own, for what sounds.
-    Lane(Laws& laws, SoundServer& server, std::filesystem::path folder, std::string name,
+    Lane(Laws& laws, SoundServer& server, const std::filesystem::path& folder, std::string name,
          std::int64_t seed);
 
     /// One output, from its making to its end.

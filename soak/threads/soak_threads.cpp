@@ -1,7 +1,6 @@
 #include "threads/lane.h"
 
 #include <malloc.h>
-#include <stdlib.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -19,6 +18,7 @@ using namespace soak;
 namespace fs = std::filesystem;
 
 /// Of a sanitizer, when there is one.
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
 
 namespace {
@@ -34,20 +34,20 @@ constexpr std::int64_t growth = 4096;
 /// The laws of all processes.
 Laws* laws = nullptr;
 
-/// A folder that is also the home of what looks for one; gone at the end.
+/// A folder for all drills, which is gone when the process that made it ends.
 struct Scratch {
     Scratch() {
         std::string name = "/tmp/soak-threads-XXXXXX";
         if (fs::exists("/dev/shm")) name.replace(0, 4, "/dev/shm");
         path = mkdtemp(name.data());
-        for (const char* variable : {"HOME", "XDG_RUNTIME_DIR"}) setenv(variable, path.c_str(), 1);
-        setenv("PULSE_SERVER", ("unix:" + server()).c_str(), 1);
     }
-    ~Scratch() { fs::remove_all(path); }
+    ~Scratch() {
+        if (getpid() == owner) fs::remove_all(path);
+    }
     Scratch(const Scratch&) = delete;
     Scratch& operator=(const Scratch&) = delete;
-    std::string server() const { return path / "server"; }
 
+    pid_t owner = getpid();
     fs::path path;
 };
 
@@ -87,10 +87,14 @@ std::jthread watchdog(Lane& lane) {
 }
 
 /// One drill; it leaves nothing behind.
-void play(const std::string& name, std::int64_t seed, double seconds) {
-    const Scratch scratch;
-    SoundServer server(scratch.server());
-    Lane lane(*laws, server, scratch.path, name, seed);
+/// @param home of what looks for one
+void play(const std::string& name, const fs::path& home, std::int64_t seed, double seconds) {
+    const std::string socket = home / "server";
+    fs::create_directory(home);
+    for (const char* variable : {"HOME", "XDG_RUNTIME_DIR"}) setenv(variable, home.c_str(), 1);
+    setenv("PULSE_SERVER", ("unix:" + socket).c_str(), 1);
+    SoundServer server(socket);
+    Lane lane(*laws, server, home, name, seed);
     const std::jthread dog = watchdog(lane);
     const Held before = Held::now();
     const auto begin = Clock::now();
@@ -137,6 +141,7 @@ bool report(double seconds) {
         std::string figures;
     };
     const Laws& l = *laws;
+    const auto often = [&](std::int64_t times) { return static_cast<double>(times) / seconds; };
     std::vector<Row> rows{
         {Law::Ends, "threads: a queue's end is told once", text(l.queues, " queues"),
          text(l.told, " told, at most ", l.late.value(), " ms late; ", l.cut, " cut")},
@@ -148,8 +153,8 @@ bool report(double seconds) {
          text(l.losses, " devices lost while they were open")},
         {Law::Files, "threads: a sound file is whole", text(l.files, " files"), "head and length"},
         {Law::Outputs, "threads: outputs come and go", text(l.outputs, " outputs"),
-         text(l.outputs / seconds, " outputs, ", l.openings / seconds, " openings, ",
-              l.queues / seconds, " queues, ", l.stops / seconds, " stops, ", l.losses / seconds,
+         text(often(l.outputs), " outputs, ", often(l.openings), " openings, ", often(l.queues),
+              " queues, ", often(l.stops), " stops, ", often(l.losses),
               " losses a second; the longest end took ", l.slowestEnd.value(),
               " ms; memory in use ", l.memoryBefore.value(), " to ", l.memoryAfter.value(),
               " KB")}};
@@ -175,6 +180,7 @@ double given(int count, char** words, const char* name, double standard) {
 }  // namespace
 
 /// The thread sanitizer calls it at each of its reports, when it is there.
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" void __tsan_on_report(void*) {
     ++laws->races;
     laws->broken(Law::Races, "the thread sanitizer", "has a report");
@@ -187,10 +193,12 @@ int main(int count, char** words) {
     laws =
         new (mmap(nullptr, sizeof(Laws), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))
             Laws;
+    const Scratch scratch;
     const auto begin = Clock::now();
     for (int i = 1; i <= drills; ++i) {
         if (fork() != 0) continue;
-        play("seed " + std::to_string(seed) + ", drill " + std::to_string(i),
+        const std::string number = std::to_string(i);
+        play("seed " + std::to_string(seed) + ", drill " + number, scratch.path / number,
              seed * (drills + 1) + i, seconds);
         return 0;
     }
