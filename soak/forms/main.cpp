@@ -288,14 +288,16 @@ int soakFor(const Options& options) {
           << figures(tally.reached);
     row("forms: a user who does anything", std::to_string(tally.actions) + " actions", held,
         speed.str());
-    row("forms: each was there", std::to_string(tally.forms.size()) + " forms", held,
+    constexpr std::size_t allForms = 11;
+    const bool everywhere = options.user || tally.forms.size() == allForms;
+    row("forms: each was there", std::to_string(tally.forms.size()) + " forms", everywhere,
         figures(tally.forms));
     constexpr double growth = 64;  // megabytes
     const bool steady = options.user || last - first < growth;
     memories.precision(0);
     memories << std::fixed << first << " MB after a tenth, " << last << " MB at the end";
     row("forms: memory", std::to_string(static_cast<int>(seconds)) + " s", steady, memories.str());
-    return held && steady ? 0 : 1;
+    return held && everywhere && steady ? 0 : 1;
 }
 
 }  // namespace

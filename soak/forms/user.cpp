@@ -17,16 +17,22 @@ struct Liking {
 };
 constexpr int usual = 4;
 constexpr std::array likings{
-    Liking{"cmdOK", 24},      Liking{"CmdNextAufg", 40}, Liking{"zurueck", 1},
-    Liking{"cmdZurueck", 1},  Liking{"cmdEnde", 1},      Liking{"cmdHilfe", 1},
-    Liking{"ska_ausw", 6},    Liking{"lst_ska", 30},     Liking{"training_Combo", 12},
-    Liking{"cmdPrint", 2},    Liking{"tonart", 12},      Liking{"ton_art", 12},
-    Liking{"klang_contr", 8},
+    Liking{"cmdOK", 24},          Liking{"CmdNextAufg", 40}, Liking{"zurueck", 1},
+    Liking{"cmdZurueck", 1},      Liking{"ueb_typ", 16},     Liking{"cmdEnde", 1},
+    Liking{"cmdHilfe", 1},        Liking{"ska_ausw", 6},     Liking{"lst_ska", 30},
+    Liking{"training_Combo", 12}, Liking{"cmdPrint", 2},     Liking{"tonart", 12},
+    Liking{"ton_art", 12},        Liking{"klang_contr", 8},
 };
 
 int weight(const form::Control& control) {
     const auto liking = std::ranges::find(likings, control.name(), &Liking::name);
     return liking == likings.end() ? usual : liking->weight;
+}
+
+/// It leads away from a form, which would happen too often where little else can be used.
+bool leads(const form::Control& control) {
+    constexpr std::array names{"zurueck", "cmdZurueck", "cmdEnde"};
+    return std::ranges::find(names, control.name()) != names.end();
 }
 
 /// A user can do something with it.
@@ -188,6 +194,7 @@ void User::use(form::Form& form) {
 
 void User::control(form::Form& form, form::Control& control) {
     const auto any = [&](int count) { return int(chance_.below(count)); };
+    if (leads(control) && !oncePer(chance_, 20)) return;
     std::string doing = form.name() + "." + control.id();
     switch (control.kind()) {
         case form::Kind::Button:
