@@ -3,6 +3,7 @@
 #include "form/controls.h"
 
 #include <array>
+#include <utility>
 
 namespace soak {
 
@@ -125,7 +126,7 @@ void User::plan() {
                       : kind < 38 ? chance_.below(3000)
                       : kind < 39 ? chance_.below(20000)
                                   : chance_.below(120000);
-    hand_.in(pause, [this] { act(); });
+    hand_.in(impatient_.empty() ? pause : chance_.upTo(200), [this] { act(); });
 }
 
 /// The form that the user has in front: one that is modal, or any that can be seen.
@@ -166,6 +167,8 @@ void User::act() {
 }
 
 void User::use(form::Form& form) {
+    // The close box is pressed once more, while the form is still on its way out.
+    if (std::exchange(impatient_, "") == form.name()) return close(form);
     if (oncePer(chance_, 400)) return close(form);
     if (pupil_) {
         // One worksheet cannot be written on by two.
@@ -302,6 +305,8 @@ void User::key(form::Form& form) {
 
 void User::close(form::Form& form) {
     tally_.note(form.name() + " is closed");
+    impatient_ = oncePer(chance_, 2) ? form.name() : std::string();
+    if (!impatient_.empty()) plan();
     form.handle({"closeBox.", [&form] { form.closeBox(); }});
 }
 
