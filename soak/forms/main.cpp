@@ -190,6 +190,7 @@ class Episode {
 
     /// What the program tells as an error must come from what it was given.
     void error(int number, const std::string& where) {
+        watch_.excuse();
         tally.note("error " + std::to_string(number) + " " + where);
         const auto in = [&](const char* text) { return where.find(text) != std::string::npos; };
         constexpr int path = static_cast<int>(base::ErrorNumber::PathAccess);
