@@ -8,7 +8,11 @@
 #include "sim/usage_error.h"
 #include "sim/words.h"
 
+#include <unistd.h>
+
 #include <chrono>
+#include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <limits>
@@ -58,6 +62,15 @@ Tally tally;
 void tellLast() {
     std::cerr << "soak_forms --user " << seat << ": " << tally.broken << "\nlast of all:\n";
     for (const std::string& doing : tally.last) std::cerr << "  " << doing << '\n';
+}
+
+/// A user who comes to no end is one whom the program does not let go.
+constexpr unsigned patience = 120;  // seconds
+
+[[noreturn]] void standsStill(int) {
+    tally.law(false, "the program stands still");
+    tellLast();
+    std::_Exit(1);
 }
 
 /// Megabytes of memory in use.
@@ -269,6 +282,7 @@ int soakFor(const Options& options) {
     double first = 0;  // memory after the first tenth, when everything was used once
     seat = options.user.value_or(options.seed * 1'000'000);
     do {
+        alarm(patience);
         useIt(languages);
         if (!tally.broken.empty()) break;
         ++seat;
@@ -304,6 +318,7 @@ int soakFor(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    std::signal(SIGALRM, standsStill);
 #if defined(__SANITIZE_ADDRESS__)
     __sanitizer_set_death_callback(tellLast);
 #endif
