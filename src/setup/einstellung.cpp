@@ -118,11 +118,11 @@ void Einstellung::Verbinden() {
             option.onClick.procedure = wahl.prozedur;
             if (wahl.folge) option.onClick.run = [this, folge = wahl.folge] { (this->*folge)(); };
         }
-    // An exam stores "all" over lists that stay open: chosen once more, they begin anew.
+    // An exam stores "all" over lists that stay open.
     ska_ausw(1).store = [this] {
         const bool nochOffen = z.ska_ausw == 0 && grdeinst(10).visible();
         z.ska_ausw = 1;
-        if (nochOffen) ska_ausw_click();
+        if (nochOffen) AuswahlWiederaufnehmen();
     };
 
     temp_Combo.onSelect = {"temp_Combo_click.", [this] { z.tempoIdx = temp_Combo.listIndex(); }};

@@ -54,6 +54,9 @@ class Einstellung final : public core::Formular {
     Richtungen richtungen() const { return {z.abfolge, z.richtung}; }
     void ska_ausw_click();
     void AuswahlOeffnen();
+    void AuswahlWiederaufnehmen();
+    /// They cannot change while scales of them are picked.
+    void TypUndRichtungErlauben(bool erlaubt);
     void lst_ska_click(form::ListBox& quelle, form::ListBox& ziel);
     void selectionCheck();
     void writeHint(int flag);

@@ -1,6 +1,8 @@
 // Picking single scales: two lists, and whether what was picked is enough.
 #include "setup/einstellung.h"
 
+#include <algorithm>
+
 namespace setup {
 
 void Einstellung::final_click() {
@@ -13,12 +15,33 @@ void Einstellung::ska_ausw_click() {
     const bool alle = z.ska_ausw == 0;
     if (!alle) AuswahlOeffnen();
     grdeinst(10).visible = !alle;
-    for (form::Control* control : std::initializer_list<form::Control*>{
-             &grdeinst(4), &lb4, &grdeinst(1), &geinst_lb(1), &geinst_lb(4)})
-        control->enabled = alle;
+    TypUndRichtungErlauben(alle);
     if (!alle) return;
     cmdOK.enabled = true;
     Combo_richtung.enabled = true;
+}
+
+void Einstellung::TypUndRichtungErlauben(bool erlaubt) {
+    for (form::Control* control : std::initializer_list<form::Control*>{
+             &grdeinst(4), &lb4, &grdeinst(1), &geinst_lb(1), &geinst_lb(4)})
+        control->enabled = erlaubt;
+}
+
+/// What was picked stays when it is of the type and direction in force; otherwise the lists begin
+/// anew.
+void Einstellung::AuswahlWiederaufnehmen() {
+    const auto angebot = skalenZurWahl(p.katalog, z.skal_typ, richtungen());
+    const auto angeboten = [&](const form::ItemList::Item& skala) {
+        return std::ranges::any_of(angebot, [&](const form::ItemList::Item& item) {
+            return item.data == skala.data && item.text == skala.text;
+        });
+    };
+    const bool passt = lst_ska0.count() + lst_ska1.count() == static_cast<int>(angebot.size()) &&
+                       std::ranges::all_of(lst_ska0.items(), angeboten) &&
+                       std::ranges::all_of(lst_ska1.items(), angeboten);
+    if (!passt) return ska_ausw_click();
+    TypUndRichtungErlauben(false);
+    selectionCheck();
 }
 
 void Einstellung::AuswahlOeffnen() {
