@@ -3,6 +3,7 @@
 #include "form/controls.h"
 
 #include <array>
+#include <utility>
 
 namespace soak {
 
@@ -17,16 +18,22 @@ struct Liking {
 };
 constexpr int usual = 4;
 constexpr std::array likings{
-    Liking{"cmdOK", 24},      Liking{"CmdNextAufg", 40}, Liking{"zurueck", 1},
-    Liking{"cmdZurueck", 1},  Liking{"cmdEnde", 1},      Liking{"cmdHilfe", 1},
-    Liking{"ska_ausw", 6},    Liking{"lst_ska", 30},     Liking{"training_Combo", 12},
-    Liking{"cmdPrint", 2},    Liking{"tonart", 12},      Liking{"ton_art", 12},
-    Liking{"klang_contr", 8},
+    Liking{"cmdOK", 24},          Liking{"CmdNextAufg", 40}, Liking{"zurueck", 1},
+    Liking{"cmdZurueck", 1},      Liking{"ueb_typ", 16},     Liking{"cmdEnde", 1},
+    Liking{"cmdHilfe", 1},        Liking{"ska_ausw", 6},     Liking{"lst_ska", 30},
+    Liking{"training_Combo", 12}, Liking{"cmdPrint", 2},     Liking{"tonart", 12},
+    Liking{"ton_art", 12},        Liking{"klang_contr", 8},
 };
 
 int weight(const form::Control& control) {
     const auto liking = std::ranges::find(likings, control.name(), &Liking::name);
     return liking == likings.end() ? usual : liking->weight;
+}
+
+/// It leads away from a form, which would happen too often where little else can be used.
+bool leads(const form::Control& control) {
+    constexpr std::array names{"zurueck", "cmdZurueck", "cmdEnde"};
+    return std::ranges::find(names, control.name()) != names.end();
 }
 
 /// A user can do something with it.
@@ -119,7 +126,7 @@ void User::plan() {
                       : kind < 38 ? chance_.below(3000)
                       : kind < 39 ? chance_.below(20000)
                                   : chance_.below(120000);
-    hand_.in(pause, [this] { act(); });
+    hand_.in(impatient_.empty() ? pause : chance_.upTo(200), [this] { act(); });
 }
 
 /// The form that the user has in front: one that is modal, or any that can be seen.
@@ -160,6 +167,8 @@ void User::act() {
 }
 
 void User::use(form::Form& form) {
+    // The close box is pressed once more, while the form is still on its way out.
+    if (std::exchange(impatient_, "") == form.name()) return close(form);
     if (oncePer(chance_, 400)) return close(form);
     if (pupil_) {
         // One worksheet cannot be written on by two.
@@ -188,6 +197,7 @@ void User::use(form::Form& form) {
 
 void User::control(form::Form& form, form::Control& control) {
     const auto any = [&](int count) { return int(chance_.below(count)); };
+    if (leads(control) && !oncePer(chance_, 20)) return;
     std::string doing = form.name() + "." + control.id();
     switch (control.kind()) {
         case form::Kind::Button:
@@ -295,6 +305,8 @@ void User::key(form::Form& form) {
 
 void User::close(form::Form& form) {
     tally_.note(form.name() + " is closed");
+    impatient_ = oncePer(chance_, 2) ? form.name() : std::string();
+    if (!impatient_.empty()) plan();
     form.handle({"closeBox.", [&form] { form.closeBox(); }});
 }
 

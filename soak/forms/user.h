@@ -47,6 +47,7 @@ class User {
     int depth_ = 0;  ///< actions inside each other: one within what another waits for
     int done_ = 0, left_ = 0;
     bool leaving_ = false;
+    std::string impatient_;  ///< the form that is closed once more
 
     engine::Arbeitsblatt* sheet_ = nullptr;
     /// Who has the worksheet now, and all that had one: they may be in the middle of a click.

@@ -31,11 +31,14 @@ Watch::Watch(drill::Drill& drill, const form::VirtualTime& loop, Tally& tally, b
 void Watch::made(form::Form& form) {
     ++tally_.forms[form.name()];
     tally_.law(!ended_, form.name() + " comes after the end");
+    if (form.name() == "testergebnis")
+        tally_.law(sheet_ && ++results_ == 1, "one result to a run, and none without");
     auto* sheet = dynamic_cast<engine::Arbeitsblatt*>(&form);
     if (!sheet) return;
     tally_.law(sheet_ == nullptr, "two worksheets at a time");
     sheet_ = sheet;
-    ready_ = false;
+    ready_ = excused_ = false;
+    results_ = 0;
     turns_ = sheet->ereignis.connect([this](Turn now) { turn(now); });
 }
 
@@ -100,7 +103,7 @@ void Watch::look() {
 void Watch::lookClosely() {
     look();
     if (ended_) tally_.law(drill_.programm.forms.last() == nullptr, "a form after the end");
-    if (!sheet_ || !ready_ || !tally_.broken.empty()) return;
+    if (!sheet_ || !ready_ || excused_ || !tally_.broken.empty()) return;
     const auto counts = [&](int index, int count) {
         const std::string shown = caption(*sheet_, "zaehler", index);
         tally_.law(shown == std::to_string(count), "counter " + std::to_string(index) + " shows " +
@@ -151,7 +154,7 @@ void Watch::record() {
         for (const auto answer : lesson.child("answers"))
             if (answer.find_child_by_attribute("key", "Antwort")) ++answers;
     }
-    tally_.law(lessons == tasks_ && answers == answers_,
+    tally_.law(excused_ || (lessons == tasks_ && answers == answers_),
                "a record of " + std::to_string(lessons) + " lessons and " +
                    std::to_string(answers) + " answers after " + std::to_string(tasks_) +
                    " tasks and " + std::to_string(answers_) + " answers");

@@ -20,6 +20,8 @@ class Watch {
     void look();
     /// What holds while no handler is running.
     void lookClosely();
+    /// An error was told: what this run has left need not be whole.
+    void excuse() { excused_ = true; }
     /// The last form has gone.
     bool ended() const { return ended_; }
     /// The worksheet that is loaded, nullptr for none.
@@ -40,6 +42,8 @@ class Watch {
     Tally& tally_;
     bool records_;
     bool ended_ = false;
+    bool excused_ = false;
+    int results_ = 0;        ///< result forms of the run
     std::int64_t seen_ = 0;  ///< when a form was last to be seen
     engine::Arbeitsblatt* sheet_ = nullptr;
     bool ready_ = false;         ///< the run of the worksheet has begun

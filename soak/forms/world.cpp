@@ -106,7 +106,7 @@ bool Answers::askYesNo(const std::string&, const std::string&) {
 }
 
 std::string Answers::path() {
-    switch (chance_.below(8)) {
+    switch (chance_.below(9)) {
         case 0:
             return "";
         case 1:
@@ -114,6 +114,8 @@ std::string Answers::path() {
         case 2:
             return folder_.string();
         case 3:
+        case 4:
+        case 5:
             return damages ? damagedFile() : (folder_ / "z.mvs").string();
         default:
             return (folder_ / (std::string(1, static_cast<char>('a' + chance_.below(3))) + ".mvs"))
