@@ -19,7 +19,7 @@ class Matbox {
     /// Counts the scale codes of the run, and fixes a single direction.
     void PotSkalaBestimmen();
     /// Start weight of each scale code: the fewer scales, the more often each stands in the pool.
-    static i16 startgewicht(int n) { return n * 4 < 30 ? 30 / n : 4; }
+    static i16 startgewicht(i16 n) { return n * 4 < 30 ? 30 / n : i16(4); }
 
     /// A new training: equal weights, a full pool.
     void TrainingBeginnen();

@@ -43,7 +43,7 @@ std::optional<core::Value> valueOf(const QJsonValue& json) {
         }
         case QJsonValue::Array: {
             core::Value::Array items;
-            for (const QJsonValue& element : json.toArray()) {
+            for (const auto& element : json.toArray()) {
                 auto item = valueOf(element);
                 if (!item) return {};
                 items.push_back(std::move(*item));
