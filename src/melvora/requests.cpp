@@ -37,8 +37,8 @@ const Requests::Row* Requests::rowOf(const QString& key) {
     return row == std::end(rows) ? nullptr : row;
 }
 
-void Requests::answer(const QString& key, std::optional<core::Value> argument, core::Value standard,
-                      const Reply& reply) {
+void Requests::answer(const QString& key, std::optional<core::Value> argument,
+                      const core::Value& standard, const Reply& reply) {
     const Row* const row = rowOf(key);
     // A store that fails says why.
     const auto refused = [=, this](const std::exception& fault) {

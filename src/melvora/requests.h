@@ -42,8 +42,8 @@ class Requests {
     /// with a line in the log.
     /// @param argument nothing when it was of a type that no value has
     /// @param standard the result unless the request gives one
-    void answer(const QString& key, std::optional<core::Value> argument, core::Value standard,
-                const Reply& reply);
+    void answer(const QString& key, std::optional<core::Value> argument,
+                const core::Value& standard, const Reply& reply);
 
   private:
     class Refusal : public std::runtime_error {

@@ -1,5 +1,6 @@
 #include "engine/matbox.h"
 
+#include "base/runtime_error.h"
 #include "engine/draw.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +37,7 @@ TEST(Training, BeginsWithEveryCodeEquallyOften) {
         EXPECT_EQ(draw.z.matbox_zahl, row.weight * static_cast<int>(codes.size()));
         EXPECT_EQ(draw.box.obergrenze(), 2 * draw.z.matbox_zahl) << "the bar begins at half";
     }
+    EXPECT_THROW(Matbox::startgewicht(0), base::RuntimeError) << "no scales at all";
 }
 
 /// Over weights that a training can reach: the pool holds each scale as often as its weight, raised
