@@ -333,6 +333,42 @@ def log_that_is_flooded(place):
         f"3000 equal refusals: {refusals} lines; after 24 MB: {size / 1e6:.1f} MB in {lines} lines"
 
 
+def host_that_is_asked_long(place, times=30_000):
+    host = place.host()
+    caller = place.caller()
+    sizes = []
+    for i in range(times):
+        match i % 8:
+            case 0:
+                caller.request("STORE", ["zepha9.exe", f"A{i % 40}", ["true", i, "x" * 500]])
+            case 1 | 2 | 3:
+                caller.request("READ", ["zepha9.exe", f"A{i % 40}"])
+            case 4:
+                caller.request("LOGMESS", "a line")
+            case other:
+                caller.request(("LANG", "MIDI", "LOGIN")[other - 5])
+        if i in (times // 10, times - 1):
+            sizes.append(suite.memory(host.pid)[0])
+    return sizes[1] - sizes[0] < 5, f"{sizes[0]:.1f} MB after a tenth, {sizes[1]:.1f} MB at the end " \
+        f"of {times} requests"
+
+
+def simulator_that_runs_long(place, runs=30_000):
+    program = subprocess.Popen([place.binaries / "zepha9-sim", "--runs", str(runs), "--tasks", "20",
+                                "--set", "uebungsmodus=1"], stdout=subprocess.DEVNULL)
+    place.started.append(program)
+    sizes = []
+    while program.poll() is None:
+        try:
+            sizes.append(suite.memory(program.pid)[0])
+        except (OSError, KeyError):  # it has ended meanwhile
+            break
+        time.sleep(0.1)
+    early = sizes[len(sizes) // 10]
+    return program.wait() == 0 and sizes[-1] - early < 5, \
+        f"{early:.1f} MB after a tenth, {sizes[-1]:.1f} MB at the end of {runs} runs"
+
+
 # Data.
 
 def records_that_lie(place):
@@ -462,7 +498,7 @@ ATTACKS = [
     link_in_the_folder_for_temporary_files, folder_that_others_write, rights_under_umask_0,
     anonymous,
     callers_that_come_and_go, callers_that_stay, end_of_descriptors, caller_that_does_not_read,
-    text_of_50_megabytes, log_that_is_flooded,
+    text_of_50_megabytes, log_that_is_flooded, host_that_is_asked_long, simulator_that_runs_long,
     records_that_lie, store_that_is_held, store_that_was_removed, store_of_a_newer_program,
     choice_that_cannot_be_kept,
     pages_that_are_hidden, simulated_runs_without_end,
