@@ -4,6 +4,7 @@
 #include "melvora/settings_file.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -11,7 +12,7 @@ namespace melvora {
 
 namespace {
 
-/// Results that the store did not take are offered again after so long.
+/// Results that were not taken are looked for again after so long.
 constexpr std::chrono::seconds untilAgain{2};
 
 }  // namespace
@@ -32,7 +33,12 @@ Host::Host(Place place, Words& words)
         emit moduleEnded();
         emit menuWanted();
     });
-    connect(&spoolWatcher_, &QFileSystemWatcher::directoryChanged, this, &Host::collect);
+    connect(&spoolWatcher_, &QFileSystemWatcher::directoryChanged, this,
+            [this](const QString& folder) {
+                // In the folder above, the spool may have become another one.
+                if (folder != collector_.folder()) spoolWatcher_.removePath(collector_.folder());
+                collect();
+            });
     again_.setSingleShot(true);
     again_.setInterval(untilAgain);
     connect(&again_, &QTimer::timeout, this, &Host::collect);
@@ -123,7 +129,7 @@ void Host::prepareSpool() {
     const QString trouble = collector_.trouble();
     if (!trouble.isEmpty() && trouble != spoolTrouble_) notice(words_.wort(974).arg(trouble));
     spoolTrouble_ = trouble;
-    spoolWatcher_.addPath(collector_.folder());
+    spoolWatcher_.addPaths({place_.data, collector_.folder()});
 }
 
 void Host::takeOver() {
@@ -164,6 +170,11 @@ void Host::collect() {
                                    emit noticed(text);
                                });
         if (harvest.taken > 0) emit resultsChanged();
+        // A folder that cannot be read or was replaced tells nothing when it is there again.
+        const QString spool = collector_.folder();
+        const bool watched = spoolWatcher_.directories().contains(spool);
+        if (!watched) spoolWatcher_.addPath(spool);
+        if (!watched || !QFileInfo(spool).isReadable()) again_.start();
     };
     inTurn(take, [this](const std::exception* fault) {
         const std::string trouble = fault ? fault->what() : "";
