@@ -273,11 +273,12 @@ class Episode:
     def read_only(self):
         """The folder becomes one that nobody may write in; what is open stays open."""
         folder = str(self.chance.choice((self.place.data, self.place.spool)))
-        if run("mount", "--bind", folder, folder).returncode != 0:
+        # With what is mounted in it, which would be hidden otherwise.
+        if run("mount", "--rbind", folder, folder).returncode != 0:
             raise AssertionError("the folder cannot be mounted")
         until(lambda: run("mount", "-o", "remount,bind,ro", folder).returncode == 0, 5)
-        self.undo.append(lambda: until(lambda: run("umount", folder).returncode == 0, 10)
-                         or run("umount", "-l", folder))
+        self.undo.append(lambda: until(lambda: run("umount", "-R", folder).returncode == 0, 10)
+                         or run("umount", "-lR", folder))
 
     def move(self, *paths):
         """Out of the way, to where it comes back from. Nothing is copied."""
