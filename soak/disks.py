@@ -137,7 +137,7 @@ class Episode:
         refused, waited = self.stores.refused, 0
         self.gate.open()
         time.sleep(self.chance.random() * 0.3)
-        self.can_start, self.started_bad, self.spool_bad = True, False, False
+        self.can_start, self.spool_bad = True, False
         try:
             trouble()
         except OSError as fault:
@@ -178,7 +178,6 @@ class Episode:
         output = len(self.place.output())
         self.host = self.place.start("melvora", "--data", str(self.place.data))
         self.night.starts += 1
-        self.started_bad = True
         if not until(lambda: self.host.poll() is not None or self.place.answers(), RESTART, 0.01):
             self.fault(f"a host that was started neither answers nor ends within {RESTART} s")
         if self.host.poll() is None:
@@ -198,12 +197,6 @@ class Episode:
         if not self.lives():
             self.serve()
         begun = time.monotonic()
-        if self.started_bad and self.host.poll() is None and not self.stores_one()[0]:
-            # It has opened the store as one that can only be read, and says so at every write.
-            self.night.opened_to_read += 1
-            self.host.kill()
-            self.host.wait()
-            self.serve()
         if not until(lambda: self.stores_one()[0], ACCEPTED, 0.05):
             self.fault(f"does not store again within {ACCEPTED} s: {self.refusal}")
             self.host.kill()  # what the next start finds is looked at all the same
@@ -350,7 +343,6 @@ class Night:
         self.tried, self.refused, self.waited, self.faults = (
             collections.Counter() for _ in range(4))
         self.episodes = self.starts = self.refused_starts = 0
-        self.opened_to_read = 0
         self.acknowledged = self.collected = self.not_written = 0
         self.slowest = self.slowest_return = self.slowest_store = 0.0
 
@@ -392,8 +384,7 @@ def main():
                f"{night.acknowledged} stores acknowledged, {night.collected} results collected, "
                f"{sum(night.faults.values())} lost or other faults; "
                f"{night.starts} starts in trouble, {night.refused_starts} refused with a "
-               f"line, {night.opened_to_read} could only "
-               f"read; answers after {night.slowest:.2f} s, stores "
+               f"line; answers after {night.slowest:.2f} s, stores "
                f"after {night.slowest_store:.2f} s, takes what waited after "
                f"{night.slowest_return:.2f} s (most)")
     report.end()

@@ -84,6 +84,7 @@ Collector::Harvest Collector::collect(When when, const std::function<void(const 
             QFile::rename(path, aside);
         }
     harvest.taken = std::exchange(taken_, 0);
+    harvest.left = std::exchange(left_, false);
     return harvest;
 }
 
@@ -100,7 +101,7 @@ bool Collector::take(const QString& path) {
                         record->rightFirst(),
                         record->answered()};
     if (results_.add(result, info.fileName(), QString::fromUtf8(*xml))) ++taken_;
-    QFile::remove(path);
+    if (!QFile::remove(path)) left_ = true;
     return true;
 }
 

@@ -14,7 +14,8 @@ namespace melvora {
 class Collector {
   public:
     struct Harvest {
-        int taken = 0;  ///< new results
+        int taken = 0;      ///< new results
+        bool left = false;  ///< a file whose content is in the store could not be removed
         /// Paths not told of before. The files stay where they are; what a module had not finished
         /// when it died lies beside them as `unfinished-RSX*.xml`.
         QStringList unreadable;
@@ -44,6 +45,7 @@ class Collector {
     QString folder_;
     Results& results_;
     int taken_ = 0;  ///< not told yet
+    bool left_ = false;
     QSet<QString> told_;
 };
 

@@ -87,11 +87,20 @@ void Database::open() {
     QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", name_);
     database.setDatabaseName(path_);
     if (!database.open()) fail(database.lastError());
-    setPatience(std::chrono::seconds(2));
+    setPatience(patience_);
     for (const char* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL"}) {
         QSqlQuery query(database);
         if (!query.exec(pragma)) fail(query.lastError());
     }
+}
+
+/// A file that could only be read when it was opened stays so until it is opened again.
+void Database::openAgainToWrite() {
+    if (!onlyRead_) return;
+    statements_.clear();
+    QSqlDatabase::removeDatabase(name_);
+    open();
+    onlyRead_ = false;
 }
 
 void Database::makeTables() {
@@ -120,6 +129,7 @@ void Database::checkSchema() {
 }
 
 int Database::run(const QString& sql, const QVariantList& values, const Row& row) {
+    openAgainToWrite();
     auto found = statements_.find(sql);
     if (found == statements_.end()) {
         QSqlQuery fresh(QSqlDatabase::database(name_));
@@ -154,23 +164,27 @@ Database::Identity Database::identity() const {
 }
 
 void Database::setPatience(std::chrono::milliseconds patience) {
+    patience_ = patience;
     QSqlQuery query(QSqlDatabase::database(name_));
     if (!query.exec(QString("PRAGMA busy_timeout = %1").arg(patience.count())))
         fail(query.lastError());
 }
 
-void Database::fail(const QString& cause) const {
+void Database::fail(const QString& cause) {
     throw StoreError((path_ + ": " + cause).toStdString());
 }
 
-void Database::fail(const QSqlError& error) const {
+void Database::fail(const QSqlError& error) {
     // The lower eight bits of an error are its kind; the others say more about it.
-    constexpr int kind = 0xff, busy = 5;
-    if ((error.nativeErrorCode().toInt() & kind) != busy) fail(error.databaseText());
+    constexpr int kind = 0xff, busy = 5, readOnly = 8;
+    const int found = error.nativeErrorCode().toInt() & kind;
+    onlyRead_ |= found == readOnly;
+    if (found != busy) fail(error.databaseText());
     throw StoreBusy((path_ + ": another program holds the database").toStdString());
 }
 
 Transaction::Transaction(Database& database) : database_(database) {
+    database.openAgainToWrite();
     auto connection = QSqlDatabase::database(database.name_);
     if (!connection.transaction()) database.fail(connection.lastError());
 }

@@ -54,10 +54,11 @@ class Database {
     friend class Transaction;
 
     void open();
+    void openAgainToWrite();
     void checkSchema();
     void makeTables();
-    [[noreturn]] void fail(const QString& cause) const;
-    [[noreturn]] void fail(const QSqlError& error) const;
+    [[noreturn]] void fail(const QString& cause);
+    [[noreturn]] void fail(const QSqlError& error);
 
     /// Tells one file from another that bears its name.
     using Identity = std::pair<quint64, quint64>;
@@ -66,6 +67,8 @@ class Database {
     QString path_;
     QString name_;
     Identity identity_;
+    std::chrono::milliseconds patience_{2000};
+    bool onlyRead_ = false;  ///< a statement could not write for that since the file was opened
     std::map<QString, QSqlQuery> statements_;
 };
 

@@ -170,11 +170,11 @@ void Host::collect() {
                                    emit noticed(text);
                                });
         if (harvest.taken > 0) emit resultsChanged();
-        // A folder that cannot be read or was replaced tells nothing when it is there again.
+        // A folder that was away, or closed, tells nothing when it is as it should be again.
         const QString spool = collector_.folder();
         const bool watched = spoolWatcher_.directories().contains(spool);
         if (!watched) spoolWatcher_.addPath(spool);
-        if (!watched || !QFileInfo(spool).isReadable()) again_.start();
+        if (!watched || harvest.left || !QFileInfo(spool).isReadable()) again_.start();
     };
     inTurn(take, [this](const std::exception* fault) {
         const std::string trouble = fault ? fault->what() : "";
