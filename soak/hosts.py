@@ -360,7 +360,6 @@ class Screen:
     def __init__(self, place):
         place.screen()
         self.tool = place.tool
-        until(lambda: self.tool("get_num_desktops"), 20)
 
     def top(self):
         """The window that takes keys and its title: a message, or the one that came last."""

@@ -133,6 +133,7 @@ class Place:
         self.started.append(subprocess.Popen(
             ["openbox"], env=self.environment, stdout=subprocess.DEVNULL,
             stderr=subprocess.DEVNULL))
+        until(lambda: self.tool("get_num_desktops"))  # before it is there, windows may get lost
 
     def tool(self, *arguments):
         """What xdotool says; "" when it fails."""

@@ -95,12 +95,13 @@ bool Server::Request(const QString& key, const QDBusVariant& argument, const QDB
         letGo(connection());
         return {};
     }
+    core::Value value;
+    if (auto given = hostlink::fromVariant(standard.variant())) value = std::move(*given);
     requests_.answer(
-        key, hostlink::fromVariant(argument.variant()),
-        hostlink::fromVariant(standard.variant()).value_or(core::Value()),
-        [caller = connection(), call = message()](bool carriedOut, const core::Value& value) {
-            const QDBusVariant result(hostlink::toVariant(value));
-            caller.send(call.createReply({carriedOut, QVariant::fromValue(result)}));
+        key, hostlink::fromVariant(argument.variant()), value,
+        [caller = connection(), call = message()](bool carriedOut, const core::Value& result) {
+            const QDBusVariant variant(hostlink::toVariant(result));
+            caller.send(call.createReply({carriedOut, QVariant::fromValue(variant)}));
         });
     return {};
 }
