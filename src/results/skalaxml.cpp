@@ -5,9 +5,28 @@
 #include "base/whole_file.h"
 
 #include <sstream>
+#include <string_view>
 #include <system_error>
+#include <utility>
 
 namespace results {
+
+namespace {
+
+/// XML has no place for most control characters, not even by their numbers, as they are written
+/// here: U+FFFD stands for each. Tabs and line ends may be.
+std::string ohneSteuerzeichen(std::string xml) {
+    constexpr std::string_view verweis = "&#", ersatz = "\uFFFD";
+    for (auto i = xml.find(verweis); i != std::string::npos; i = xml.find(verweis, i + 1)) {
+        const auto ende = xml.find(';', i);
+        const int zeichen = std::stoi(xml.substr(i + verweis.size(), ende - i));
+        if (zeichen != '\t' && zeichen != '\n' && zeichen != '\r')
+            xml.replace(i, ende - i + 1, ersatz);
+    }
+    return xml;
+}
+
+}  // namespace
 
 void Skalaxml::SkalaXmlNeu() {
     dokument_.reset();
@@ -79,7 +98,7 @@ void Skalaxml::SkalaXmlSichern(const std::vector<std::string>& liste) {
 std::string Skalaxml::text() const {
     std::ostringstream strom;
     dokument_.save(strom, "\t", pugi::format_default, pugi::encoding_utf8);
-    return strom.str();
+    return ohneSteuerzeichen(std::move(strom).str());
 }
 
 }  // namespace results

@@ -17,14 +17,14 @@ TEST(Record, IsOneFileASecondOfTheLastRunWithItsSettingsMasked) {
     xml.SkalaXmlNeu();
     EXPECT_TRUE(xml.lektion().empty()) << "a new record has no lesson in hand";
     drill.wait(61000);
-    xml.SkalaXmlSichern({"2", "Tempo <schnell", "\"60\" & größer"});
+    xml.SkalaXmlSichern({"2", "Tempo <schnell", "\"60\"\x01 & größer\n&#1;"});
     const fs::path file = xml.datei();
     EXPECT_EQ(file.filename(), "RSX260102100000.xml");
     EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 1);
     const std::string text = base::readWhole(file, 1 << 20);
     EXPECT_NE(text.find("timestamp=\"02.01.2026 10:01:01\""), std::string::npos) << "of its end";
     EXPECT_EQ(text.substr(text.find("\t<settings>")), R"(	<settings>
-		<setting key="Tempo &lt;schnell" value="&quot;60&quot; &amp; größer" />
+		<setting key="Tempo &lt;schnell" value="&quot;60&quot;� &amp; größer&#10;&amp;#1;" />
 	</settings>
 	<lessons />
 </exercise>
