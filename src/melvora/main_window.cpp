@@ -35,6 +35,10 @@ MainWindow::MainWindow(Host& host)
     connect(&host_, &Host::languageChanged, this, &MainWindow::retranslate);
     connect(&host_, &Host::noticed, notice_, &NoticeBar::show);
     connect(&host_, &Host::moduleStarted, this, &QWidget::hide);
+    // Disabled while a module runs, the button that starts it loses the focus.
+    connect(&host_, &Host::moduleEnded, this, [this] {
+        if (tabs_->currentIndex() == Start) pages_[Start]->setFocus();
+    });
     connect(&host_, &Host::menuWanted, this, &MainWindow::raiseUp);
     connect(&host_, &Host::raiseWanted, this, [this] {
         if (host_.module().runs())

@@ -127,6 +127,8 @@ class Road(unittest.TestCase):
         with wave.open(str(self.wav)) as sound:
             frames = sound.readframes(sound.getnframes())
         self.assertGreater(max(frames), 0, "the task was heard")
+        self.key("Return")  # back in the menu the way on has the focus again
+        self.window("Scales: Basic settings")
 
     def train(self, mode):
         """From the start form through one task of a training, which is saved. mode: 1 new, 2 goes on."""
