@@ -1,7 +1,7 @@
 // The staff of a written task: its strokes, and how long a drop takes to be seen.
-#include "notation/pixelbild.h"
-#include "notation/sheet.h"
 #include "qt/staff_widget.h"
+#include "staff/pixelbild.h"
+#include "staff/sheet.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -14,10 +14,10 @@ namespace {
 
 /// A key of six sharps with its signs written.
 void write(Sheet& sheet) {
-    notation::NotenZeigen(sheet.staff, sheet.task);
+    staff::NotenZeigen(sheet.staff, sheet.task);
     sheet.staff.GrenzLinienMalen();
     for (int c = 1; c < 7; ++c)
-        sheet.drop(c, notation::quelle::mit(notation::vorzeichen(sheet.task.inSpalte(c).qz)));
+        sheet.drop(c, staff::quelle::mit(staff::vorzeichen(sheet.task.inSpalte(c).qz)));
 }
 
 /// Lines, clef, notes, signs and limits of a new task, down to the pixels.
@@ -26,7 +26,7 @@ void rasterTask(benchmark::State& state) {
     for ([[maybe_unused]] const auto _ : state) {
         sheet.staff.NotenzeileAufbauen(8, sheet.staff.umfang());
         write(sheet);
-        notation::Pixelbild pixels(362, 144);
+        staff::Pixelbild pixels(362, 144);
         sheet.staff.PicB(0).zeigen(pixels);
         benchmark::DoNotOptimize(pixels.an(60, 80));
     }
@@ -68,7 +68,7 @@ void dropToPaint(benchmark::State& state) {
     int accidental = 0;
     for ([[maybe_unused]] const auto _ : state) {
         accidental = 1 - accidental;
-        staff.sheet.drop(3, notation::quelle::mit(accidental));
+        staff.sheet.drop(3, staff::quelle::mit(accidental));
         staff.paint();
     }
 }
@@ -77,14 +77,14 @@ BENCHMARK(dropToPaint)->Name("staff/drop_to_paint")->Unit(benchmark::kMillisecon
 /// From the pointer's step into the next column to the painted preview there.
 void dragOverToPaint(benchmark::State& state) {
     LargeStaff staff;
-    notation::Notenzeile& line = staff.sheet.staff;
-    const form::Control& source = staff.sheet.palette.NotP(notation::quelle::mit(-2));
+    staff::Notenzeile& line = staff.sheet.staff;
+    const form::Control& source = staff.sheet.palette.NotP(staff::quelle::mit(-2));
     const int s = line.SchlZ();
     int column = 1;
     for ([[maybe_unused]] const auto _ : state) {
         column = column % 6 + 1;
         const auto x = static_cast<float>(line.lage().x(column));
-        line.PicB(s).ueber({source, x, 80}, notation::ZugZustand::Ueber);
+        line.PicB(s).ueber({source, x, 80}, staff::ZugZustand::Ueber);
         staff.paint();
     }
 }

@@ -23,8 +23,8 @@ LAYERS = {
     "sound": ["core"],
     "results": ["core"],
     "engine": ["sound", "results"],
-    "notation": ["engine"],
-    "determine": ["notation"],
+    "staff": ["engine"],
+    "determine": ["staff"],
     "setup": ["sound", "results"],
     "drill": ["determine", "setup"],
     # Adapters and programs: nothing above may include these.

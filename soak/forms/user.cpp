@@ -176,7 +176,7 @@ void User::use(form::Form& form) {
         return;
     }
     if (!form.enabled()) return;
-    if (auto* sheet = dynamic_cast<notation::SchreibBlatt*>(&form)) {
+    if (auto* sheet = dynamic_cast<staff::SchreibBlatt*>(&form)) {
         const int way = chance_.below(10);
         if (way < 4) return drag(*sheet);
         if (way < 6) return writeByKey(*sheet);
@@ -246,12 +246,12 @@ void User::control(form::Form& form, form::Control& control) {
 
 /// An accidental is carried over the staff, and dropped somewhere: while it is carried, time
 /// passes.
-void User::drag(notation::SchreibBlatt& sheet) {
+void User::drag(staff::SchreibBlatt& sheet) {
     const form::Control* field =
-        sheet.find(notation::quelle::feld, chance_.below(notation::quelle::anzahl));
+        sheet.find(staff::quelle::feld, chance_.below(staff::quelle::anzahl));
     if (!field->usable()) return;
-    notation::Notenzeile& staff = sheet.notenzeile();
-    notation::Blatt& target = staff.PicB(staff.SchlZ());
+    staff::Notenzeile& staff = sheet.notenzeile();
+    staff::Blatt& target = staff.PicB(staff.SchlZ());
     const std::string name = sheet.name();
     const auto there = [&] {
         return drill_.programm.forms.loaded(name) == &sheet && target.usable() && field->usable();
@@ -266,9 +266,9 @@ void User::drag(notation::SchreibBlatt& sheet) {
             x = static_cast<float>(staff.lage().x(column) + chance_.below(30) - 15);
             y = static_cast<float>(int(staff.NotSelb(column).y())) + chance_.R() * 40 - 20;
         }
-        return notation::Zug{*field, x, y};
+        return staff::Zug{*field, x, y};
     };
-    using enum notation::ZugZustand;
+    using enum staff::ZugZustand;
     tally_.note("drags " + field->id());
     target.ueber(place(), Betreten);
     for (int i = chance_.below(4); i > 0; --i) {
@@ -283,12 +283,12 @@ void User::drag(notation::SchreibBlatt& sheet) {
     target.ablegen(end);
 }
 
-void User::writeByKey(notation::SchreibBlatt& sheet) {
-    notation::Blatt& holder = sheet.notenzeile().PicBNot;
+void User::writeByKey(staff::SchreibBlatt& sheet) {
+    staff::Blatt& holder = sheet.notenzeile().PicBNot;
     if (!holder.usable()) return;
-    constexpr int keys = static_cast<int>(notation::Schreibtaste::Fuenf) + 1;
-    const auto key = static_cast<notation::Schreibtaste>(int(chance_.below(keys)));
-    if (key == notation::Schreibtaste::Ablegen && !holder.nimmtEnter()) return;
+    constexpr int keys = static_cast<int>(staff::Schreibtaste::Fuenf) + 1;
+    const auto key = static_cast<staff::Schreibtaste>(int(chance_.below(keys)));
+    if (key == staff::Schreibtaste::Ablegen && !holder.nimmtEnter()) return;
     ++tally_.reached["keys on the staff"];
     holder.taste(key);
 }

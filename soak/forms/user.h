@@ -1,9 +1,9 @@
 #pragma once
 #include "forms/watch.h"
 #include "forms/world.h"
-#include "notation/schreib_blatt.h"
 #include "sim/alarm.h"
 #include "sim/pupil.h"
+#include "staff/schreib_blatt.h"
 
 #include <memory>
 #include <vector>
@@ -29,8 +29,8 @@ class User {
     form::Form* before();
     void use(form::Form& form);
     void control(form::Form& form, form::Control& control);
-    void drag(notation::SchreibBlatt& sheet);
-    void writeByKey(notation::SchreibBlatt& sheet);
+    void drag(staff::SchreibBlatt& sheet);
+    void writeByKey(staff::SchreibBlatt& sheet);
     void key(form::Form& form);
     void close(form::Form& form);
     void seat(engine::Arbeitsblatt& sheet);

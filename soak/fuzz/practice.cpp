@@ -1,8 +1,8 @@
 #include "soak/fuzz/practice.h"
 
-#include "notation/schreib_blatt.h"
 #include "sim/writer.h"
 #include "soak/fuzz/law.h"
+#include "staff/schreib_blatt.h"
 
 #include <cstdlib>
 
@@ -54,7 +54,7 @@ void Practice::answer(bool right) {
     if (!writes_ && !right) answerWrong();
     if (!writes_) answerRight();
     for (int tries = 0; writes_ && open && !closed && tries < 10; ++tries) {
-        sim::writeScale(sheet<notation::SchreibBlatt>(),
+        sim::writeScale(sheet<staff::SchreibBlatt>(),
                         right ? sim::Writing::Right : sim::Writing::Wrong, chance_);
         // The same once more cannot be handed in.
         if (on<form::Button>("cmdOK").usable()) on<form::Button>("cmdOK").click();

@@ -1,12 +1,12 @@
 #include "determine/arbeitsblatt1b.h"
 
-#include "notation/farbe.h"
-#include "notation/kreistonart.h"
-#include "notation/tonname.h"
+#include "staff/farbe.h"
+#include "staff/kreistonart.h"
+#include "staff/tonname.h"
 
 namespace determine {
 
-using notation::KreisTonart;
+using staff::KreisTonart;
 
 Arbeitsblatt1b::Arbeitsblatt1b(core::Programm& programm, sound::Midi& midi,
                                results::Wertung& wertung)
@@ -48,7 +48,7 @@ void Arbeitsblatt1b::AufgabeZeigen() {
     for (int c = 0; c < a.tonAnz; ++c) {
         const int auf = z.akt_richtung == 1 ? c : int(a.tonAnz) - 1 - c;
         const int k = z.abfolge == 1 ? int(a.ton_abfolg[c]) : auf;
-        zeile_.NoteSetzen(c, {a.noten[k], a.notenQz[k]}, notation::farbe::schwarz);
+        zeile_.NoteSetzen(c, {a.noten[k], a.notenQz[k]}, staff::farbe::schwarz);
     }
 }
 
@@ -56,7 +56,7 @@ std::string Arbeitsblatt1b::beschreibung() {
     std::string text;
     for (int c = 0; c < a.tonAnz; ++c)
         if (zeile_.NotSelb(c).hatNote())
-            text += (c == 0 ? "" : ", ") + notation::tonname(p.worte, zeile_.NotSelb(c).qz);
+            text += (c == 0 ? "" : ", ") + staff::tonname(p.worte, zeile_.NotSelb(c).qz);
     return text;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 #include "determine/bestimmen_blatt.h"
 #include "engine/stille_vorfuehrung.h"
-#include "notation/notenzeile.h"
+#include "staff/notenzeile.h"
 
 namespace determine {
 
@@ -11,7 +11,7 @@ class Arbeitsblatt1b final : public BestimmenBlatt {
   public:
     Arbeitsblatt1b(core::Programm& programm, sound::Midi& midi, results::Wertung& wertung);
 
-    notation::Notenzeile& notenzeile() { return zeile_; }
+    staff::Notenzeile& notenzeile() { return zeile_; }
 
   protected:
     engine::Vorfuehrung& vorfuehrung() override { return vorfuehrung_; }
@@ -23,7 +23,7 @@ class Arbeitsblatt1b final : public BestimmenBlatt {
     std::string beschreibung();
 
     engine::StilleVorfuehrung vorfuehrung_{*this};
-    notation::Notenzeile zeile_{*this};
+    staff::Notenzeile zeile_{*this};
     form::Connection geschlossen_;
     /// Marks the steps of a closed task, whole tones and half tones.
     form::Button schrittmarken{*this, {"schrittmarken", form::Place::noIndex, &PicArb1}};

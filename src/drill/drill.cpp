@@ -2,11 +2,11 @@
 
 #include "determine/arbeitsblatt1.h"
 #include "determine/arbeitsblatt1b.h"
-#include "notation/arbeitsblatt4.h"
-#include "notation/arbeitsblatt4b.h"
 #include "results/testergebnis.h"
 #include "setup/datei_formulare.h"
 #include "setup/einstellung.h"
+#include "staff/arbeitsblatt4.h"
+#include "staff/arbeitsblatt4b.h"
 
 namespace drill {
 
@@ -28,8 +28,8 @@ Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiAusg
         });
     worksheet<determine::Arbeitsblatt1>("arbeitsblatt1");
     worksheet<determine::Arbeitsblatt1b>("arbeitsblatt1b");
-    worksheet<notation::Arbeitsblatt4>("arbeitsblatt4");
-    worksheet<notation::Arbeitsblatt4b>("arbeitsblatt4b");
+    worksheet<staff::Arbeitsblatt4>("arbeitsblatt4");
+    worksheet<staff::Arbeitsblatt4b>("arbeitsblatt4b");
     forms.add("frmSave", [this] { return std::make_unique<setup::FrmSave>(programm); });
     forms.add("frmLoad", [this] { return std::make_unique<setup::FrmLoad>(programm); });
     forms.add("testergebnis",

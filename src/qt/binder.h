@@ -10,7 +10,7 @@
 
 class QPushButton;
 
-namespace notation {
+namespace staff {
 class Blatt;
 }
 
@@ -54,7 +54,7 @@ class Binder {
     QWidget* listBox(form::ListBox& control);
     QWidget* slider(form::Slider& control);
     QWidget* picture(form::Picture& control);
-    QWidget* surface(notation::Blatt& control);
+    QWidget* surface(staff::Blatt& control);
     QWidget* group(form::Group& control);
     QWidget* menu(form::Menu& control);
     template <class C>

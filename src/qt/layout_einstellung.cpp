@@ -1,7 +1,7 @@
 #include "look/look.h"
-#include "notation/bild.h"
 #include "qt/picture_widget.h"
 #include "qt/windows.h"
+#include "staff/bild.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -60,7 +60,7 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
     tempo->addWidget(bind("lb15", 0));
     tempo->addWidget(bind("temp_Combo"), 1);
     auto* note = static_cast<PictureWidget*>(bind("pic15"));
-    note->setPicture(notation::viertelnote);
+    note->setPicture(staff::viertelnote);
     note->setColour(Qt::transparent);
     note->setFixedSize(note->sizeHint() * look::scale());
     note->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

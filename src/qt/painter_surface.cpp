@@ -1,8 +1,8 @@
 #include "qt/painter_surface.h"
 
-#include "notation/kurve.h"
-#include "notation/linien.h"
-#include "notation/umriss.h"
+#include "staff/kurve.h"
+#include "staff/linien.h"
+#include "staff/umriss.h"
 
 #include <QPainterPath>
 
@@ -11,7 +11,7 @@
 
 namespace qt {
 
-using notation::Rechteck;
+using staff::Rechteck;
 
 namespace {
 
@@ -54,10 +54,10 @@ void PainterSurface::fuellen(const Rechteck& r, base::Colour farbe) {
 
 /// Every line is equally thick, and lies where its neighbours expect it.
 void PainterSurface::linie(int x1, int y1, int x2, int y2, base::Colour farbe,
-                           notation::Linienart art) {
+                           staff::Linienart art) {
     const double thick = std::max(1.0, std::round(painter_.deviceTransform().m11()));
     const bool level = y1 == y2;
-    notation::jedesStueck(notation::linienRechteck(x1, y1, x2, y2), art, [&](const Rechteck& part) {
+    staff::jedesStueck(staff::linienRechteck(x1, y1, x2, y2), art, [&](const Rechteck& part) {
         const QPointF middle = onDevice(part).center();
         QRectF pixels = wholePixels(part);
         if (level) {
@@ -71,9 +71,9 @@ void PainterSurface::linie(int x1, int y1, int x2, int y2, base::Colour farbe,
     });
 }
 
-void PainterSurface::figur(notation::Figur figur, int x, int y, base::Colour farbe) {
+void PainterSurface::figur(staff::Figur figur, int x, int y, base::Colour farbe) {
     QPainterPath path;
-    for (const auto& line : notation::umriss(figur)) {
+    for (const auto& line : staff::umriss(figur)) {
         QPolygonF polygon;
         for (const auto& [px, py] : line) polygon << QPointF(x + px, y + py);
         path.addPolygon(polygon);
@@ -83,8 +83,8 @@ void PainterSurface::figur(notation::Figur figur, int x, int y, base::Colour far
 }
 
 /// Both edges of the curve as one shape, with round ends.
-void PainterSurface::kurve(notation::Kurve kurve, int x, int y, base::Colour farbe) {
-    const auto points = notation::kurvenpunkte(kurve);
+void PainterSurface::kurve(staff::Kurve kurve, int x, int y, base::Colour farbe) {
+    const auto points = staff::kurvenpunkte(kurve);
     const std::size_t last = points.size() - 1;
     QPolygonF left, right;
     for (std::size_t i = 0; i <= last; ++i) {

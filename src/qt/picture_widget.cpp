@@ -1,8 +1,8 @@
 #include "qt/picture_widget.h"
 
 #include "look/look.h"
-#include "notation/bild.h"
 #include "qt/painter_surface.h"
+#include "staff/bild.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -25,12 +25,12 @@ PictureWidget::PictureWidget(QWidget* parent) : QWidget(parent) {
 }
 
 QSize PictureWidget::sizeHint() const {
-    const auto [width, height] = notation::bildGroesse(number_);
+    const auto [width, height] = staff::bildGroesse(number_);
     return {width + 2 * besideIt, height + 2 * aboveIt};
 }
 
 QSize PictureWidget::minimumSizeHint() const {
-    const auto [width, height] = notation::bildGroesse(number_);
+    const auto [width, height] = staff::bildGroesse(number_);
     return {width * 3 / 4, height * 3 / 4};
 }
 
@@ -54,7 +54,7 @@ const QPixmap& PictureWidget::drawn() {
     drawn_ = QPixmap(pixels);
     drawn_.setDevicePixelRatio(ratio);
     drawn_.fill(Qt::transparent);
-    const auto [wide, high] = notation::bildGroesse(number_);
+    const auto [wide, high] = staff::bildGroesse(number_);
     const double scale = staffScale(
         std::min((width() - 2.0 * besideIt) / wide, (height() - 2.0 * aboveIt) / high), ratio);
     QPainter painter(&drawn_);
@@ -62,7 +62,7 @@ const QPixmap& PictureWidget::drawn() {
                       std::round((height() - high * scale) / 2 * ratio) / ratio);
     painter.scale(scale, scale);
     PainterSurface surface(painter);
-    notation::BildMalen(surface, number_);
+    staff::BildMalen(surface, number_);
     return drawn_;
 }
 

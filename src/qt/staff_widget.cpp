@@ -17,10 +17,10 @@
 
 namespace qt {
 
-using notation::Blatt;
-using notation::Rechteck;
-using notation::Schreibtaste;
-using notation::ZugZustand;
+using staff::Blatt;
+using staff::Rechteck;
+using staff::Schreibtaste;
+using staff::ZugZustand;
 
 namespace {
 
@@ -213,7 +213,7 @@ bool StaffWidget::within(const Blatt& surface, QPointF position) const {
     return QRectF(placeOf(surface, {}), size).contains(position);
 }
 
-notation::Zug StaffWidget::dragAt(const form::Control& source, QPointF position) const {
+staff::Zug StaffWidget::dragAt(const form::Control& source, QPointF position) const {
     const QPointF at = (position - placeOf(*target(), {})) / scale();
     return {source, static_cast<float>(at.x()), static_cast<float>(at.y())};
 }
@@ -223,7 +223,7 @@ bool StaffWidget::dragTo(const form::Control& source, QPointF position) {
     if (seen && !within(*seen, position)) seen = nullptr;
     if (entered_ != seen) dragAway();
     if (!seen) return false;
-    const notation::Zug drag = dragAt(source, position);
+    const staff::Zug drag = dragAt(source, position);
     if (!entered_) seen->ueber(drag, ZugZustand::Betreten);
     seen->ueber(drag, ZugZustand::Ueber);
     entered_ = seen;

@@ -67,13 +67,13 @@ void Pupil::notice(engine::Arbeitsblatt::Ereignis turn) {
 }
 
 void Pupil::answer() {
-    if (auto* sheet = dynamic_cast<notation::SchreibBlatt*>(sheet_))
+    if (auto* sheet = dynamic_cast<staff::SchreibBlatt*>(sheet_))
         write(*sheet);
     else
         name();
 }
 
-void Pupil::write(notation::SchreibBlatt& sheet) {
+void Pupil::write(staff::SchreibBlatt& sheet) {
     auto* const done = control<form::Button>(sheet, "cmdOK");
     writeScale(sheet, learner_.writes({z.skala_nr, tries_, {}}, chance_), chance_);
     // What was handed in once and stays as it is must be heard again before it can be handed in.

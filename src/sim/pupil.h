@@ -37,7 +37,7 @@ class Pupil {
   private:
     void answer();
     void name();
-    void write(notation::SchreibBlatt& sheet);
+    void write(staff::SchreibBlatt& sheet);
     void goOn();
     bool runEnded() const;
 

@@ -1,8 +1,8 @@
 #include "sim/trace.h"
 
 #include "determine/arbeitsblatt1b.h"
-#include "notation/schreib_blatt.h"
 #include "sim/exercise.h"
+#include "staff/schreib_blatt.h"
 
 #include <algorithm>
 
@@ -50,8 +50,7 @@ void Trace::notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsbla
 
 void Trace::follow(engine::Arbeitsblatt& sheet) {
     staff_ = nullptr;
-    if (auto* writing = dynamic_cast<notation::SchreibBlatt*>(&sheet))
-        staff_ = &writing->notenzeile();
+    if (auto* writing = dynamic_cast<staff::SchreibBlatt*>(&sheet)) staff_ = &writing->notenzeile();
     if (auto* naming = dynamic_cast<determine::Arbeitsblatt1b*>(&sheet))
         staff_ = &naming->notenzeile();
     draws_ = {};
@@ -60,7 +59,7 @@ void Trace::follow(engine::Arbeitsblatt& sheet) {
 
 /// Notes are told after the turn that puts them there.
 void Trace::draw(int column) {
-    const notation::Spalte& note = staff_->NotSelb(column);
+    const staff::Spalte& note = staff_->NotSelb(column);
     drawn_ += JsonLine("draw")
                   .number("c", column)
                   .number("y", int(note.y()))
@@ -75,13 +74,13 @@ void Trace::draw(int column) {
 /// What only worksheets with a staff have.
 void Trace::spelling(JsonLine& line, const engine::Arbeitsblatt& sheet) {
     const engine::Aufgabe& a = sheet.aufgabe();
-    const auto* writing = dynamic_cast<const notation::SchreibBlatt*>(&sheet);
+    const auto* writing = dynamic_cast<const staff::SchreibBlatt*>(&sheet);
     line.number(writing ? "quintLage" : "vzAnz", int(a.quintLage));
     line.list(writing ? "notenQz" : "tonPos", a.tonAnz, writeItems(line, a.notenQz));
     if (writing) {
         const auto shown = [&](int k) {
-            const notation::Ton ton{a.noten[k], a.notenQz[k]};
-            return k == 0 || k == a.tonAnz - 1 ? ton : notation::ohneVorzeichen(ton);
+            const staff::Ton ton{a.noten[k], a.notenQz[k]};
+            return k == 0 || k == a.tonAnz - 1 ? ton : staff::ohneVorzeichen(ton);
         };
         line.list("zeigNoten", a.tonAnz, [&](int k) { line.item(int(shown(k).midi)); });
         line.list("zeigQz", a.tonAnz, [&](int k) { line.item(int(shown(k).qz)); });

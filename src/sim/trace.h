@@ -1,11 +1,11 @@
 #pragma once
 #include "engine/arbeitsblatt.h"
 #include "form/virtual_time.h"
-#include "notation/notenzeile.h"
 #include "results/testergebnis.h"
 #include "sim/json_line.h"
 #include "sim/outcome.h"
 #include "sound/null_output.h"
+#include "staff/notenzeile.h"
 
 #include <ostream>
 
@@ -37,7 +37,7 @@ class Trace {
 
     std::ostream& stream_;
     const form::VirtualTime& loop_;
-    notation::Notenzeile* staff_ = nullptr;
+    staff::Notenzeile* staff_ = nullptr;
     form::Connection draws_;
     std::string drawn_;  ///< notes not told yet
 };

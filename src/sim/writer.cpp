@@ -7,16 +7,16 @@ namespace sim {
 
 namespace {
 
-using notation::Notenzeile;
-namespace quelle = notation::quelle;
+using staff::Notenzeile;
+namespace quelle = staff::quelle;
 
 constexpr int first = 1, last = 6;  // columns that can be written in
 using Accidentals = std::array<int, last + 1>;
 
-Accidentals wanted(const notation::SchreibBlatt& sheet) {
+Accidentals wanted(const staff::SchreibBlatt& sheet) {
     Accidentals all{};
     for (int c = first; c <= last; ++c)
-        all[static_cast<std::size_t>(c)] = notation::vorzeichen(sheet.erwartung().inSpalte(c).qz);
+        all[static_cast<std::size_t>(c)] = staff::vorzeichen(sheet.erwartung().inSpalte(c).qz);
     return all;
 }
 
@@ -30,9 +30,9 @@ void misspell(Accidentals& accidentals, int rising) {
     }
 }
 
-void drop(notation::SchreibBlatt& sheet, int column, int accidental) {
+void drop(staff::SchreibBlatt& sheet, int column, int accidental) {
     Notenzeile& staff = sheet.notenzeile();
-    const notation::Spalte& note = staff.NotSelb(column);
+    const staff::Spalte& note = staff.NotSelb(column);
     if (note.vorzeichen == accidental) return;
     const form::Control* field = sheet.find(quelle::feld, quelle::mit(accidental));
     const int y = staff.grenze(staff.SchlZ()).dazwischen(note.y());
@@ -42,7 +42,7 @@ void drop(notation::SchreibBlatt& sheet, int column, int accidental) {
 
 }  // namespace
 
-void writeScale(notation::SchreibBlatt& sheet, Writing how, base::Rnd& chance) {
+void writeScale(staff::SchreibBlatt& sheet, Writing how, base::Rnd& chance) {
     Accidentals accidentals = wanted(sheet);
     if (how == Writing::Enharmonic) misspell(accidentals, sheet.erwartung().akt_richtung);
     if (how == Writing::Wrong) {

@@ -1,7 +1,7 @@
 // The worksheets with a staff, from their set-up forms to the record: written and named scales.
-#include "notation/schreib_blatt.h"
 #include "setup/set_up.h"
 #include "sim/writer.h"
+#include "staff/schreib_blatt.h"
 
 #include <pugixml.hpp>
 
@@ -20,10 +20,8 @@ constexpr Practice::Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{
 struct Exercise : Practice {
     using Practice::Practice;
 
-    notation::SchreibBlatt& sheet() { return Practice::sheet<notation::SchreibBlatt>(); }
-    int wrongColumns() {
-        return notation::falscheSpalten(sheet().notenzeile(), sheet().erwartung());
-    }
+    staff::SchreibBlatt& sheet() { return Practice::sheet<staff::SchreibBlatt>(); }
+    int wrongColumns() { return staff::falscheSpalten(sheet().notenzeile(), sheet().erwartung()); }
     void handIn(Writing how) {
         do sim::writeScale(sheet(), how, chance);
         while (!on<form::Button>("cmdOK").enabled());  // the same once more cannot be handed in

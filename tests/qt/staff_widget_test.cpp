@@ -1,10 +1,10 @@
 // The staff on screens of any scale, and drags over it.
 #include "qt/staff_widget.h"
 
-#include "notation/farbe.h"
-#include "notation/noten.h"
-#include "notation/sheet.h"
 #include "qt/painter_surface.h"
+#include "staff/farbe.h"
+#include "staff/noten.h"
+#include "staff/sheet.h"
 
 #include <QImage>
 
@@ -32,8 +32,8 @@ const std::vector<double> scales{1, 1.25, 1.375, 1.5, 2, 2.5, 5};
 TEST(PainterSurface, StaffLinesAreCrispAndEquallyThickAndFarApart) {
     for (const double scale : scales) {
         SCOPED_TRACE(scale);
-        const QImage image = painted(
-            scale, [](auto& s) { notation::LinienMalen(s, 160, notation::obersteLinie(0)); });
+        const QImage image =
+            painted(scale, [](auto& s) { staff::LinienMalen(s, 160, staff::obersteLinie(0)); });
         std::vector<int> begins, ends;
         for (int y = 1; y < image.height(); ++y) {
             const QRgb here = image.pixel(5, y), above = image.pixel(5, y - 1);
@@ -53,19 +53,19 @@ TEST(PainterSurface, StaffLinesAreCrispAndEquallyThickAndFarApart) {
 
 TEST(PainterSurface, WhatIsTakenAwayLeavesNoTrace) {
     const auto preview = [](auto& s) {
-        for (const int colour : {notation::farbe::grau, notation::farbe::weiss})
-            s.linie(54, 40, 67, 40, notation::linienFarbe(colour), notation::Linienart::Voll);
+        for (const int colour : {staff::farbe::grau, staff::farbe::weiss})
+            s.linie(54, 40, 67, 40, staff::linienFarbe(colour), staff::Linienart::Voll);
     };
     const auto note = [](auto& s) {
-        notation::NotenkopfMalen(s, 80, 84, notation::farbe::rot);
-        notation::DoppelBeMalen(s, 58, 67);
-        notation::SpalteLoeschen(s, 16, 80);
+        staff::NotenkopfMalen(s, 80, 84, staff::farbe::rot);
+        staff::DoppelBeMalen(s, 58, 67);
+        staff::SpalteLoeschen(s, 16, 80);
     };
     for (const double scale : scales) {
         SCOPED_TRACE(scale);
         const auto after = [scale](const std::function<void(qt::PainterSurface&)>& draw) {
             return painted(scale, [&](auto& s) {
-                notation::LinienMalen(s, 160, 16);
+                staff::LinienMalen(s, 160, 16);
                 draw(s);
             });
         };
@@ -99,11 +99,11 @@ TEST(StaffWidget, GrowsInTheMiddleAndTellsPlaces) {
 
 TEST(StaffWidget, ADragIsSeenOnTheVisibleSurfaceAloneAndDropsNowhereElse) {
     Sheet sheet(6, 0, 60);
-    notation::NotenZeigen(sheet.staff, sheet.task);
+    staff::NotenZeigen(sheet.staff, sheet.task);
     qt::StaffWidget widget(sheet.staff.PicBNot);
     widget.resize(900, 500);
     const form::Control& sharp = sheet.palette.NotP(3);
-    const notation::Blatt& seen = sheet.staff.PicB(sheet.staff.SchlZ());
+    const staff::Blatt& seen = sheet.staff.PicB(sheet.staff.SchlZ());
     const QPointF column = widget.placeOf(seen, QPointF(sheet.staff.lage().x(2), 80));
     const QPointF corner = widget.placeOf(seen, QPointF(seen.lage().breite, seen.lage().hoehe));
     const QImage clean = widget.grab().toImage();

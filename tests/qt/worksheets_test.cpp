@@ -1,8 +1,8 @@
 // The worksheets with a staff, in real windows: written, named, solved, and by keyboard alone.
-#include "notation/schreib_blatt.h"
 #include "pictures.h"
 #include "qt/staff_widget.h"
 #include "sim/writer.h"
+#include "staff/schreib_blatt.h"
 
 #include <QRegularExpression>
 
@@ -14,8 +14,8 @@ namespace {
 
 using engine::AufgZustand;
 
-notation::SchreibBlatt& writing(const Stage& stage) {
-    return dynamic_cast<notation::SchreibBlatt&>(stage.form(stage.sheet()));
+staff::SchreibBlatt& writing(const Stage& stage) {
+    return dynamic_cast<staff::SchreibBlatt&>(stage.form(stage.sheet()));
 }
 
 /// Hands in wrong versions until the solution stands there.
@@ -69,7 +69,7 @@ TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
     stage.press(stage.sheet(), Qt::Key_Return);
     stage.wait(14000);
     for (int column = 1; column <= 6; ++column) {
-        const int accidental = notation::vorzeichen(sheet.erwartung().inSpalte(column).qz);
+        const int accidental = staff::vorzeichen(sheet.erwartung().inSpalte(column).qz);
         if (column % 2 == 0 && accidental != 0) {
             press(static_cast<Qt::Key>(Qt::Key_3 + accidental));
             press(Qt::Key_Return);
@@ -79,7 +79,7 @@ TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
         }
         press(Qt::Key_Right);
     }
-    EXPECT_EQ(notation::falscheSpalten(sheet.notenzeile(), sheet.erwartung()), 0);
+    EXPECT_EQ(staff::falscheSpalten(sheet.notenzeile(), sheet.erwartung()), 0);
     EXPECT_NE(staff.accessibleDescription().indexOf(QRegularExpression("flat|sharp")), -1);
     stage.press(stage.sheet(), Qt::Key_Return);
     EXPECT_EQ(sheet.aufgZustand(), AufgZustand::Geschlossen);
