@@ -5,7 +5,7 @@
 namespace core {
 
 std::string satz(const Zustand& z) {
-    return std::to_string(z.ueb_typ) + (z.theoriewahl == 0 ? "" : "b");
+    return std::to_string(z.ueb_typ) + (gehoerbildung(z) ? "" : "b");
 }
 
 void FortsetzungAnbieten(Programm& p, const std::string& formular, bool vorhanden, int gewaehlt) {

@@ -1,5 +1,7 @@
 #include "core/grd_einst.h"
 
+#include "core/formnamen.h"
+
 namespace core {
 
 GrdEinst::GrdEinst(Programm& programm) : Formular(programm, "grd_einst") {
@@ -60,7 +62,7 @@ void GrdEinst::start_timer() {
     ueb_typ(1).choose();
     int tempo = 0;
     for (const int dauer : katalog::tempo_dauer) z.tempo_dauer[tempo++] = dauer;
-    Theoriewahl(1).enabled = forms().knows("einstellung1b");
+    Theoriewahl(1).enabled = forms().knows(setUpForm(1));
     ueb_typ(4).enabled = forms().knows("arbeitsblatt4");
     forms().show(name());
     p.host.HostMeldung(std::string(Host::programm) + "; uebungs_typ=" + std::to_string(z.ueb_typ));
@@ -84,7 +86,7 @@ void GrdEinst::KommandozeileLesen() const {
 
 void GrdEinst::cmdOK_click() {
     forms().hide(name());
-    forms().load(z.theoriewahl == 0 ? "einstellung1" : "einstellung1b");
+    forms().load(setUpForm(z.theoriewahl));
 }
 
 void GrdEinst::cmdEnde_click() { p.host.HostUebergabe(forms(), "MENUE"); }

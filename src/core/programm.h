@@ -46,7 +46,7 @@ class Programm {
 
     const std::string& Wort(int id) { return worte.Wort(id); }
     /// The branch and the exercise type in force, as the start form captions them.
-    const std::string& zweig() { return Wort(zustand.theoriewahl == 0 ? 724 : 725); }
+    const std::string& zweig() { return Wort(gehoerbildung(zustand) ? 724 : 725); }
     const std::string& uebungsart() {
         return Wort(zustand.ueb_typ == uebung::bestimmen ? 154 : 690);
     }

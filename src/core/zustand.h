@@ -79,6 +79,17 @@ struct Zustand {
     i16 schalter_frei;                      ///< above 0 once a task has been closed
 };
 
+/// Ear training: what is asked sounds.
+inline bool gehoerbildung(const Zustand& z) { return z.theoriewahl == 0; }
+/// A training, new or continued: weights decide what is asked, and it may be kept.
+inline bool imTraining(const Zustand& z) {
+    return z.uebungsmodus == modus::training || z.uebungsmodus == modus::fortsetzung;
+}
+/// A test or an exam: tasks and time are limited.
+inline bool imTest(const Zustand& z) { return z.uebungsmodus > modus::fortsetzung; }
+/// Answers count: in every mode but try-out.
+inline bool gewertet(const Zustand& z) { return z.uebungsmodus > modus::ausprobieren; }
+
 /// Slot under which a signed scale code is scored: |code|, for a descending one `skal_anz` + 1
 /// more.
 constexpr i16 skalaSlot(i16 code, i16 skal_anz) {

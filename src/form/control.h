@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace form {
 
@@ -60,9 +61,14 @@ struct Handler {
 struct Place {
     static constexpr int noIndex = -1000;
 
+    Place(std::string itsName, Control* heldBy = nullptr)
+        : Place(std::move(itsName), noIndex, heldBy) {}
+    Place(std::string itsName, int itsIndex, Control* heldBy = nullptr)
+        : name(std::move(itsName)), index(itsIndex), container(heldBy) {}
+
     std::string name;
-    int index = noIndex;
-    Control* container = nullptr;
+    int index;
+    Control* container;
 };
 
 /// One control of a form, as a value that any toolkit can show. The form owns the order of its

@@ -1,5 +1,7 @@
 #include "results/testergebnis.h"
 
+#include "core/formnamen.h"
+
 #include <cstdlib>
 
 namespace results {
@@ -70,8 +72,7 @@ void Testergebnis::ErgebnisZeile(int i, int slot, const std::string& name) {
 
 /// The training keeps its scales sorted by weight: what has been missed most stands first.
 void Testergebnis::GewichteZeigen() {
-    const bool training =
-        z.uebungsmodus == core::modus::training || z.uebungsmodus == core::modus::fortsetzung;
+    const bool training = core::imTraining(z);
     schwach_cont.visible = training;
     for (int i = 0; i < maxZeilen - 1; ++i) {
         const bool da = training && i + 1 < z.mathaeufgk_box.rows();
@@ -122,7 +123,7 @@ void Testergebnis::LbGrdEinst() {
 }
 
 void Testergebnis::cmdOK_click() {
-    const std::string einstellung = z.theoriewahl == 0 ? "einstellung1" : "einstellung1b";
+    const std::string einstellung = core::setUpForm(z.theoriewahl);
     if (forms().loaded(einstellung)) forms().show(einstellung);
     forms().hide(name());
     if (!visible()) forms().unload(name());

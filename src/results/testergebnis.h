@@ -52,11 +52,11 @@ class Testergebnis final : public core::Formular {
     form::ControlArray<form::Label> Lab_ergeb{*this, "Lab_ergeb", maxZeilen, &erg_cont};
     form::ControlArray<form::Panel> balken{*this, "balken", maxZeilen, &erg_cont};
     form::ControlArray<form::Label> ergebnis{*this, "ergebnis", maxZeilen, &erg_cont};
-    form::Label Lab_gesamt{*this, {"Lab_gesamt", form::Place::noIndex, &erg_cont}};
-    form::Label gesamt{*this, {"gesamt", form::Place::noIndex, &erg_cont}};
+    form::Label Lab_gesamt{*this, {"Lab_gesamt", &erg_cont}};
+    form::Label gesamt{*this, {"gesamt", &erg_cont}};
     /// After a training: its scales by weight, weakest first.
     form::Group schwach_cont{*this, {"schwach_cont"}};
-    form::Label schwach_head{*this, {"schwach_head", form::Place::noIndex, &schwach_cont}};
+    form::Label schwach_head{*this, {"schwach_head", &schwach_cont}};
     form::ControlArray<form::Label> Lab_schwach{*this, "Lab_schwach", maxZeilen - 1, &schwach_cont};
     form::ControlArray<form::Label> gewicht{*this, "gewicht", maxZeilen - 1, &schwach_cont};
     form::Label einst_head{*this, {"einst_head"}};
@@ -69,9 +69,9 @@ class Testergebnis final : public core::Formular {
     form::ControlArray<form::Label> g_einst_inh{*this, "g_einst_inh", 6, &gr_einst};
     /// The buttons; not on paper.
     form::Group PicSchalt{*this, {"PicSchalt"}};
-    form::Button cmdHilfe{*this, {"cmdHilfe", form::Place::noIndex, &PicSchalt}};
-    form::Button cmdPrint{*this, {"cmdPrint", form::Place::noIndex, &PicSchalt}};
-    form::Button cmdOK{*this, {"cmdOK", form::Place::noIndex, &PicSchalt}};
+    form::Button cmdHilfe{*this, {"cmdHilfe", &PicSchalt}};
+    form::Button cmdPrint{*this, {"cmdPrint", &PicSchalt}};
+    form::Button cmdOK{*this, {"cmdOK", &PicSchalt}};
     form::Timer start{*this, {"start"}, 1};
     form::Timer testtimer{*this, {"testtimer"}, 5000};
 };

@@ -8,7 +8,6 @@ namespace results {
 
 namespace {
 
-using core::modus::fortsetzung;
 using core::uebung::bestimmen;
 
 /// Column that marks the presence of a slot in modes above training.
@@ -25,9 +24,9 @@ void Wertung::vorbereiten() {
 
 void Wertung::ErgebnisBuchen(i16 i, float wert) {
     const core::Zustand& z = p.zustand;
-    if (z.uebungsmodus == core::modus::ausprobieren) return;
+    if (!core::gewertet(z)) return;
     const float gebucht = wert - 4 * z.bewertung_basis;
-    if (z.uebungsmodus <= fortsetzung) {
+    if (core::imTraining(z)) {
         auswertung.Increment(i, 0);
         auswertung.Add(i, 1, gebucht);
     } else if (z.ueb_typ == bestimmen) {
@@ -43,7 +42,7 @@ ErgebnisZeile ergebnisZeile(const Auswertung& auswertung, const core::Zustand& z
     const float bester = z.bewertung_basis * -8.0F;  // what a right first answer books
     int grenze = 0, summe = 0;
     bool zaehlt = true;
-    if (z.uebungsmodus <= fortsetzung) {
+    if (!core::imTest(z)) {
         zaehlt = r(0) > 0;
         grenze = ganz(bester * r(0));
         summe = std::min(0, ganz(r(1)));

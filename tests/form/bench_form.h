@@ -26,7 +26,7 @@ struct BenchForm : Form {
 
     std::vector<std::string>& diary;
     Group frame{*this, {"frame"}};
-    Button button{*this, {"button", Place::noIndex, &frame}};
+    Button button{*this, {"button", &frame}};
     Timer timer{*this, {"timer"}, 100};
     Timer other{*this, {"other"}, 250};
 };
