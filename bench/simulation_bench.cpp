@@ -52,14 +52,14 @@ void saveRecord(benchmark::State& state) {
     const std::array arguments{"--tasks", "1"};
     const sim::Options options = sim::parseOptions(arguments);
     sim::Simulation simulation(options);
-    results::Skalaxml& record = simulation.drill().wertung.xml;
+    results::Skalaxml& record = simulation.drill().xml;
     for ([[maybe_unused]] const auto _ : state) {
         state.PauseTiming();
         record.SkalaXmlNeu();
         for (int i = 0; i < lessons; ++i) {
             record.LektionNeu("dorisch");
             record.AntwortNeu(record.lektion(), 1);
-            const auto answer = record.AntwortSchluss();
+            const auto answer = record.AntwortSchluss(20, 0);
             record.AntwortEigenschaft(answer, "Antwort", "true");
             record.AntwortEigenschaft(answer, "Skala", "dorisch");
         }

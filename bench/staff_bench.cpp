@@ -14,10 +14,10 @@ namespace {
 
 /// A key of six sharps with its signs written.
 void write(Sheet& sheet) {
-    staff::NotenZeigen(sheet.staff, sheet.task);
+    sheet.showTask();
     sheet.staff.GrenzLinienMalen();
     for (int c = 1; c < 7; ++c)
-        sheet.drop(c, staff::quelle::mit(staff::vorzeichen(sheet.task.inSpalte(c).qz)));
+        sheet.drop(c, staff::quelle::mit(staff::vorzeichen(sheet.notes[c].qz)));
 }
 
 /// Lines, clef, notes, signs and limits of a new task, down to the pixels.

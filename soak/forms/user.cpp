@@ -80,7 +80,7 @@ User::User(drill::Drill& drill, form::VirtualTime& loop, Answers& answers, Watch
       hand_(loop) {
     form::Forms& forms = drill.programm.forms;
     made_ = forms.made.connect([this](form::Form& form) {
-        if (auto* sheet = dynamic_cast<engine::Arbeitsblatt*>(&form)) seat(*sheet);
+        if (auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form)) seat(*sheet);
         if (form.name() == "testergebnis" && pupil_) pupil_->readResult(form, [] {});
     });
     gone_ = forms.gone.connect([this](form::Form& form) {
@@ -91,13 +91,13 @@ User::User(drill::Drill& drill, form::VirtualTime& loop, Answers& answers, Watch
     plan();
 }
 
-void User::seat(engine::Arbeitsblatt& sheet) {
+void User::seat(worksheets::Arbeitsblatt& sheet) {
     sheet_ = &sheet;
-    turns_ = sheet.ereignis.connect([this](engine::Arbeitsblatt::Ereignis now) { turn(now); });
+    turns_ = sheet.ereignis.connect([this](worksheets::Arbeitsblatt::Ereignis now) { turn(now); });
 }
 
-void User::turn(engine::Arbeitsblatt::Ereignis turn) {
-    using enum engine::Arbeitsblatt::Ereignis;
+void User::turn(worksheets::Arbeitsblatt::Ereignis turn) {
+    using enum worksheets::Arbeitsblatt::Ereignis;
     if (turn == LaufBereit && !leaving_ && oncePer(chance_, 2)) {
         learners_.push_back(std::make_unique<sim::Learner>(learnerKind(chance_)));
         pupils_.push_back(std::make_unique<sim::Pupil>(
@@ -176,7 +176,8 @@ void User::use(form::Form& form) {
         return;
     }
     if (!form.enabled()) return;
-    if (auto* sheet = dynamic_cast<staff::SchreibBlatt*>(&form)) {
+    auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form);
+    if (sheet && sheet->lauf().uebung().schriftlich()) {
         const int way = chance_.below(10);
         if (way < 4) return drag(*sheet);
         if (way < 6) return writeByKey(*sheet);
@@ -246,11 +247,11 @@ void User::control(form::Form& form, form::Control& control) {
 
 /// An accidental is carried over the staff, and dropped somewhere: while it is carried, time
 /// passes.
-void User::drag(staff::SchreibBlatt& sheet) {
+void User::drag(worksheets::Arbeitsblatt& sheet) {
     const form::Control* field =
         sheet.find(staff::quelle::feld, chance_.below(staff::quelle::anzahl));
     if (!field->usable()) return;
-    staff::Notenzeile& staff = sheet.notenzeile();
+    staff::Notenzeile& staff = *sheet.notenzeile();
     staff::Blatt& target = staff.PicB(staff.SchlZ());
     const std::string name = sheet.name();
     const auto there = [&] {
@@ -283,8 +284,8 @@ void User::drag(staff::SchreibBlatt& sheet) {
     target.ablegen(end);
 }
 
-void User::writeByKey(staff::SchreibBlatt& sheet) {
-    staff::Blatt& holder = sheet.notenzeile().PicBNot;
+void User::writeByKey(worksheets::Arbeitsblatt& sheet) {
+    staff::Blatt& holder = sheet.notenzeile()->PicBNot;
     if (!holder.usable()) return;
     constexpr int keys = static_cast<int>(staff::Schreibtaste::Fuenf) + 1;
     const auto key = static_cast<staff::Schreibtaste>(int(chance_.below(keys)));

@@ -3,7 +3,6 @@
 #include "forms/world.h"
 #include "sim/alarm.h"
 #include "sim/pupil.h"
-#include "staff/schreib_blatt.h"
 
 #include <memory>
 #include <vector>
@@ -29,12 +28,12 @@ class User {
     form::Form* before();
     void use(form::Form& form);
     void control(form::Form& form, form::Control& control);
-    void drag(staff::SchreibBlatt& sheet);
-    void writeByKey(staff::SchreibBlatt& sheet);
+    void drag(worksheets::Arbeitsblatt& sheet);
+    void writeByKey(worksheets::Arbeitsblatt& sheet);
     void key(form::Form& form);
     void close(form::Form& form);
-    void seat(engine::Arbeitsblatt& sheet);
-    void turn(engine::Arbeitsblatt::Ereignis turn);
+    void seat(worksheets::Arbeitsblatt& sheet);
+    void turn(worksheets::Arbeitsblatt::Ereignis turn);
     void standUp();
 
     drill::Drill& drill_;
@@ -49,7 +48,7 @@ class User {
     bool leaving_ = false;
     std::string impatient_;  ///< the form that is closed once more
 
-    engine::Arbeitsblatt* sheet_ = nullptr;
+    worksheets::Arbeitsblatt* sheet_ = nullptr;
     /// Who has the worksheet now, and all that had one: they may be in the middle of a click.
     sim::Pupil* pupil_ = nullptr;
     std::vector<std::unique_ptr<sim::Learner>> learners_;

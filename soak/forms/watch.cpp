@@ -33,7 +33,7 @@ void Watch::made(form::Form& form) {
     tally_.law(!ended_, form.name() + " comes after the end");
     if (form.name() == "testergebnis")
         tally_.law(sheet_ && ++results_ == 1, "one result to a run, and none without");
-    auto* sheet = dynamic_cast<engine::Arbeitsblatt*>(&form);
+    auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form);
     if (!sheet) return;
     tally_.law(sheet_ == nullptr, "two worksheets at a time");
     sheet_ = sheet;
@@ -56,7 +56,7 @@ void Watch::turn(Turn turn) {
             right_ = base::leadingInt(caption(*sheet_, "zaehler", 0));
             wrong_ = base::leadingInt(caption(*sheet_, "zaehler", 1));
             tasks_ = closed_ = answers_ = clocks_ = 0;
-            seconds_ = sheet_->restZeit();
+            seconds_ = sheet_->lauf().stand().restZeit;
             ++tally_.reached["mode " + std::to_string(int(z.uebungsmodus))];
             tally_.law((right_ == 0 && wrong_ == 0) || z.uebungsmodus == core::modus::fortsetzung,
                        "a new run begins with its counters at 0");
@@ -64,11 +64,11 @@ void Watch::turn(Turn turn) {
         case Turn::AufgabeGezogen:
             ++tasks_;
             ++tally_.reached["tasks"];
-            tally_.law(z.skala_nr >= 0 && z.skala_nr <= z.skal_anz, "a scale of the category");
+            tally_.law(sheet_->lauf().aufgabe().skala_nr <= z.skal_anz, "a scale of the category");
             break;
         case Turn::Geantwortet:
             ++answers_;
-            ++(sheet_->letzteAntwort().richtig ? right_ : wrong_);
+            ++(sheet_->lauf().letzteAntwort().richtig ? right_ : wrong_);
             ++tally_.reached["answers"];
             break;
         case Turn::Geschlossen:
@@ -114,19 +114,19 @@ void Watch::lookClosely() {
     tally_.law(closed_ <= tasks_ && tasks_ - closed_ <= 1, "one task at a time");
     const int bar = static_cast<const form::Panel*>(sheet_->find("matboxanz"))->floodPercent();
     tally_.law(bar >= 0 && bar <= 100, "the bar shows " + std::to_string(bar));
-    const bool training =
-        z.uebungsmodus == core::modus::training || z.uebungsmodus == core::modus::fortsetzung;
-    if (training && sheet_->aufgZustand() != engine::AufgZustand::TrainingBeendet) {
+    const engine::Lauf& lauf = sheet_->lauf();
+    if (core::imTraining(z) && lauf.aufgZustand() != engine::AufgZustand::TrainingBeendet) {
         int sum = 0;
-        for (int i = 1; i <= z.potSkala; ++i) sum += std::max(0, int(z.mathaeufgk_box(i, 1)));
-        tally_.law(closed_ == 0 || sum == z.matbox_zahl, "weights of " + std::to_string(sum) +
-                                                             ", shown as " +
-                                                             std::to_string(int(z.matbox_zahl)));
+        for (int i = 1; i < z.mathaeufgk_box.rows(); ++i)
+            sum += std::max(0, int(z.mathaeufgk_box(i, 1)));
+        tally_.law(closed_ == 0 || sum == lauf.matbox().matbox_zahl(),
+                   "weights of " + std::to_string(sum) + ", shown as " +
+                       std::to_string(int(lauf.matbox().matbox_zahl())));
     }
-    if (z.uebungsmodus <= core::modus::fortsetzung) return;
-    tally_.law(sheet_->restAufgaben() == sheet_->pruefAufgaben() - closed_,
+    if (!core::imTest(z)) return;
+    tally_.law(lauf.stand().restAufgaben == lauf.stand().pruefAufgaben - closed_,
                "tasks left in an exam");
-    tally_.law(sheet_->restZeit() == seconds_ - 10 * clocks_, "time left in an exam");
+    tally_.law(lauf.stand().restZeit == seconds_ - 10 * clocks_, "time left in an exam");
 }
 
 void Watch::result(const results::Testergebnis& form) {
@@ -144,7 +144,7 @@ void Watch::result(const results::Testergebnis& form) {
 /// What the run has left for the host.
 void Watch::record() {
     if (!records_) return;
-    const std::filesystem::path path = drill_.wertung.xml.datei();
+    const std::filesystem::path path = drill_.xml.datei();
     pugi::xml_document document;
     const auto read = document.load_file(path.c_str());
     tally_.law(bool(read), "record " + path.string() + ": " + read.description());

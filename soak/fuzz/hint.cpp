@@ -1,6 +1,6 @@
 // Hints: what comes out is well-formed HTML of the reader's own tags, in UTF-8.
 #include "soak/fuzz/law.h"
-#include "staff/rtf.h"
+#include "worksheets/rtf.h"
 
 #include <array>
 #include <cstddef>
@@ -73,7 +73,7 @@ void expectHtml(std::string_view html) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string html;
     try {
-        html = staff::rtfAlsHtml({reinterpret_cast<const char*>(data), size});
+        html = worksheets::rtfAlsHtml({reinterpret_cast<const char*>(data), size});
     } catch (const std::runtime_error&) {
         return 0;
     }

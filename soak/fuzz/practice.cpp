@@ -2,7 +2,6 @@
 
 #include "sim/writer.h"
 #include "soak/fuzz/law.h"
-#include "staff/schreib_blatt.h"
 
 #include <cstdlib>
 
@@ -47,15 +46,14 @@ void Practice::await() {
 void Practice::answer(bool right) {
     bool closed = false;
     const form::Connection turns =
-        sheet().ereignis.connect([&](engine::Arbeitsblatt::Ereignis turn) {
-            closed = closed || turn == engine::Arbeitsblatt::Ereignis::Geschlossen;
+        sheet().ereignis.connect([&](worksheets::Arbeitsblatt::Ereignis turn) {
+            closed = closed || turn == worksheets::Arbeitsblatt::Ereignis::Geschlossen;
         });
     const bool open = ready();
     if (!writes_ && !right) answerWrong();
     if (!writes_) answerRight();
     for (int tries = 0; writes_ && open && !closed && tries < 10; ++tries) {
-        sim::writeScale(sheet<staff::SchreibBlatt>(),
-                        right ? sim::Writing::Right : sim::Writing::Wrong, chance_);
+        sim::writeScale(sheet(), right ? sim::Writing::Right : sim::Writing::Wrong, chance_);
         // The same once more cannot be handed in.
         if (on<form::Button>("cmdOK").usable()) on<form::Button>("cmdOK").click();
         loop.advance(10);
@@ -76,15 +74,15 @@ bool Practice::run(bool keep) {
         return false;
     }
     const bool training = z.uebungsmodus == 1 || z.uebungsmodus == 2;
-    law(!training || weights().size() == static_cast<std::size_t>(int(z.potSkala)),
+    law(!training || weights().size() == static_cast<std::size_t>(int(lauf().matbox().potSkala())),
         "each scale has one weight");
     for (const bool right : {false, true}) {
         if (z.abfrage == 0) on<form::Button>("CmdNextAufg").click();
         await();
         answer(right);
-        law(z.matbox_zahl >= 0, "weights");
+        law(lauf().matbox().matbox_zahl() >= 0, "weights");
     }
-    const bool closed = z.schalter_frei > 0;
+    const bool closed = lauf().stand().schalter_frei;
     leave(keep);
     law(!running() && shown(setup_), "the worksheet can be left");
     return closed;

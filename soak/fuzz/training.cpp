@@ -51,7 +51,7 @@ void tryTraining(std::string_view text) {
     if (!kept) return;
     const Value& saved = host.records.at(keyOf('A', exercise));
     law(saved.at(0) == Value("true"), "what was left can be continued");
-    law(saved.items().size() == 6 * static_cast<std::size_t>(int(pupil.z.potSkala)) + 4, "length");
+    law(saved.items().size() == 6 * pupil.weights().size() + 4, "length");
 }
 
 /// Trainings that were left, with all scales, chosen ones and melodies.

@@ -3,9 +3,21 @@
 
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <vector>
 
 namespace base {
+
+/// The item at a whole-number place of anything with places; any other throws run-time error 9.
+template <class Items>
+constexpr auto& at(Items& items, int place) {
+    if (place < 0 || static_cast<std::size_t>(place) >= std::size(items)) throwSubscript();
+    return items[static_cast<std::size_t>(place)];
+}
+template <class Items>
+constexpr auto at(const Items&& items, int place) {
+    return at(items, place);
+}
 
 /// Indices 0..N-1; any other index throws run-time error 9.
 template <class T, int N>

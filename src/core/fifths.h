@@ -35,6 +35,12 @@ struct Ton {
     friend constexpr bool operator==(const Ton&, const Ton&) = default;
 };
 
+/// The note of its letter without accidental.
+constexpr Ton ohneVorzeichen(const Ton& ton) {
+    const i16 qz = ton.qz % 7 + 14;
+    return {ton.midi + (qz - ton.qz) / 7, qz};
+}
+
 /// Letters from the C of the octave that a note sounds in up to its own. Cb and B# are written in
 /// another octave than they sound in.
 constexpr int buchstabenUeberC(int qz) {

@@ -38,9 +38,7 @@ inline constexpr std::array<Kategorie, kategorienAnz> kategorien{{
     {553, 9, 4, {70, 70}, false},  // tetrachords
 }};
 
-constexpr bool rotiert(int skal_typ) {
-    return kategorien[static_cast<std::size_t>(skal_typ)].rotiert;
-}
+constexpr bool rotiert(int skal_typ) { return base::at(kategorien, skal_typ).rotiert; }
 
 inline constexpr std::array diatonisch{0, 2, 4, 5, 7, 9, 11};
 inline constexpr std::array melodischMoll{0, 2, 3, 5, 7, 9, 11};
@@ -117,6 +115,34 @@ constexpr const Skala* eigenesMuster(int skal_typ, int skala_nr) {
     return it == eigeneMuster.end() ? nullptr : it;
 }
 
+/// A line of tones from the first one of a scale to its last, in semitones; 0 behind it.
+using Leiter = std::array<int, maxToene>;
+
+/// The pattern that a scale is read from, from its own first degree: what the scales of a rotating
+/// category share, or the scale's own.
+constexpr Leiter muster(int skal_typ, int skala_nr) {
+    if (const Skala* skala = eigenesMuster(skal_typ, skala_nr)) return skala->stufe;
+    Leiter gemeinsam{};
+    std::ranges::copy(grundmuster(skal_typ), gemeinsam.begin());
+    return gemeinsam;
+}
+
+/// Semitones of the scale's tones above its first one. A scale of a rotating category is its
+/// pattern read from degree `skala_nr`, and once more around.
+constexpr Leiter leiter(int skal_typ, int skala_nr) {
+    Leiter toene = muster(skal_typ, skala_nr);
+    const auto& kategorie = base::at(kategorien, skal_typ);
+    if (!kategorie.rotiert) return toene;
+    const Leiter m = toene;
+    const int grade = kategorie.tonAnz - 1;
+    for (int i = 0; i < maxToene; ++i) {
+        const int grad = skala_nr + i;
+        base::at(toene, i) =
+            base::at(m, grad % grade) + 12 * (grad / grade) - base::at(m, skala_nr);
+    }
+    return toene;
+}
+
 /// Tuning corrections per diatonic degree for Pythagorean tuning, in steps of the pitch bend's
 /// upper byte (3.125 cents at a bend range of two semitones).
 inline constexpr std::array<int, 7> stufenStimm(int skal_typ) {
@@ -126,18 +152,35 @@ inline constexpr std::array<int, 7> stufenStimm(int skal_typ) {
 /// Tuning corrections per pitch class for meantone tuning after Kirnberger, in the same steps.
 inline constexpr std::array<int, 12> mittelTab{5, 2, 6, 3, 1, 4, 2, 6, 9, 0, 4, 1};
 
+/// The tunings, values of `stimmung`.
+namespace stimmung {
+constexpr int gleich = 0, pythagoreisch = 1, mitteltoenig = 2;
+}
+
+/// Tuning correction of a tone, in the same steps: by its degree in the base scale of its category
+/// in Pythagorean tuning, by its pitch class in meantone.
+constexpr int stimmKorrektur(int stimmung, int skal_typ, int grad, int tonklasse) {
+    switch (stimmung) {
+        case stimmung::pythagoreisch:
+            return base::at(stufenStimm(skal_typ), grad);
+        case stimmung::mitteltoenig:
+            return base::at(mittelTab, tonklasse);
+        default:
+            return 0;
+    }
+}
+
 // Laws of the tables: every scale that should close on the octave does, none falls, and every
 // category has as many scales as it says.
 static_assert(std::ranges::all_of(eigeneMuster, [](const Skala& s) {
-    const auto n =
-        static_cast<std::size_t>(kategorien[static_cast<std::size_t>(s.skal_typ)].tonAnz);
-    return (s.skal_typ == 6 || s.stufe[n - 1] == 12) && s.stufe[0] == 0 &&
-           std::is_sorted(s.stufe.begin(), s.stufe.begin() + static_cast<std::ptrdiff_t>(n));
+    const int n = base::at(kategorien, s.skal_typ).tonAnz;
+    return (s.skal_typ == 6 || base::at(s.stufe, n - 1) == 12) && s.stufe[0] == 0 &&
+           std::is_sorted(s.stufe.begin(), s.stufe.begin() + n);
 }));
 static_assert([] {
     int scales = 0;
     for (int typ = 0; typ < kategorienAnz; ++typ)
-        for (int nr = 0; nr <= kategorien[static_cast<std::size_t>(typ)].skal_max; ++nr) {
+        for (int nr = 0; nr <= base::at(kategorien, typ).skal_max; ++nr) {
             ++scales;
             const bool eigen = std::ranges::any_of(eigeneMuster, [&](const Skala& s) {
                 return s.skal_typ == typ && s.skala_nr == nr;

@@ -18,9 +18,13 @@ constexpr int ausprobieren = 0, training = 1, fortsetzung = 2, test = 3, pruefun
 namespace uebung {
 constexpr int bestimmen = 1, schreiben = 4;
 }
+/// Columns of `mathaeufgk_box`.
+namespace gewicht {
+constexpr int spalteCode = 0, spalteGewicht = 1;
+}
 
-/// The shared exercise state. Set-up forms fill it, worksheets read it and keep their run in it,
-/// result form and record read it at the end. It lives as long as the process.
+/// The shared exercise state. Set-up forms fill it and runs read it; what result form and record
+/// want of a run is left here. It lives as long as the process.
 struct Zustand {
     // Set-up.
     i16 theoriewahl;                        ///< branch: 0 ear training, 1 music theory
@@ -54,29 +58,10 @@ struct Zustand {
     std::vector<std::string> einst_liste;  ///< recap: [0] highest index, then key, value, ...
 
     // Run.
-    i16 skala_nr;                     ///< scale of the task
-    i16 akt_richtung = 1;             ///< +1 ascending, -1 descending
-    base::Table<i16> matbox;          ///< task pool, rows 1..matboxanz: signed code, key
-    i16 matboxanz;                    ///< rows in matbox
-    i16 potSkala;                     ///< number of different scale codes of the run
-    base::Table<i16> mathaeufgk_box;  ///< rows 1..potSkala: signed code, weight
-    i16 wiederholung = 4;             ///< start weight of each scale code
-    i16 matbox_zahl;                  ///< sum of the positive weights
-    i16 ton_anz_akt;                  ///< wrong answers that a task allows
-    float bewertung_basis = 0;        ///< half of ton_anz_akt: weight of a task's points
-    float AntwDauStart = 0;           ///< clock reading when the answer time began, s
-    float antw_ende = 0;              ///< clock reading at the answer, s
-    float AntwDau = 0;                ///< answer time: s while it adds up, then tenths of a second
-    i16 zeit_faktor = 20;             ///< free answer time, tenths of a second
-    float punkte = 0;                 ///< error points; -4 marks a right first answer
-    float zeit_malus = 0;             ///< score correction for time
-    i16 whlgAnz;                      ///< repetitions of the task
-    i16 whlg_anz;                     ///< repetitions since the last answer
-    i16 antwort_nr;                   ///< running number of the answer in the record
-    Value abbruch_stand;              ///< record written when a training is interrupted
-    base::FixedArray<i16, 10> FalschSkala;  ///< signed codes of the wrong answers, from 1
-    i16 bestAnz;                            ///< best scores kept per scale on write worksheets
-    i16 schalter_frei;                      ///< above 0 once a task has been closed
+    base::Table<i16> mathaeufgk_box;  ///< rows 1 up, one for each scale code: signed code, weight
+    float bewertung_basis = 0;  ///< half of the wrong answers allowed: weight of a task's points
+    i16 bestAnz;                ///< best scores kept per scale on write worksheets
+    Value abbruch_stand;        ///< record written when a training is interrupted
 };
 
 /// Ear training: what is asked sounds.

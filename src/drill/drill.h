@@ -1,5 +1,6 @@
 #pragma once
 #include "core/programm.h"
+#include "results/skalaxml.h"
 #include "results/wertung.h"
 #include "sound/midi.h"
 
@@ -15,11 +16,8 @@ struct Drill {
     core::Programm programm;
     sound::Midi midi;
     results::Wertung wertung;
+    results::Skalaxml xml;
     sound::MidiOutput& ausgabe;
-
-  private:
-    template <class Sheet>
-    void worksheet(const std::string& name);
 };
 
 }  // namespace drill

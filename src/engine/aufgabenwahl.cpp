@@ -7,7 +7,7 @@
 
 namespace engine {
 
-int Aufgabenwahl::verschiedeneSkalen() const {
+int verschiedeneSkalen(const core::Zustand& z) {
     if (z.ska_ausw == 0) return z.skal_anz + 1;
     int anzahl = 0;
     for (int i = 0; i <= z.einzelAnz; ++i) {
@@ -20,33 +20,32 @@ int Aufgabenwahl::verschiedeneSkalen() const {
 }
 
 void Aufgabenwahl::LaufBeginn() {
-    SkalaTabellen(a, z.skal_typ);
-    a.oktSpanne = oktTab.at(static_cast<std::size_t>(int(z.oktAnz))) - 2;
-    tonart_.LaufBeginn();
-    a.letzteSkala = 11;
-    a.letzterTon = 0;
+    tonart_.LaufBeginn(a);
+    a.melodie = z.abfolge == 1;
     matbox_.PotSkalaBestimmen();
-    if (verschiedeneSkalen() < 2 && tonart_.fest() && a.oktSpanne == 0)
+    if (verschiedeneSkalen(z) < 2 && tonart_.fest() && tonart_.oktSpanne() == 0)
         throw base::RuntimeError(base::ErrorNumber::InvalidCall,
                                  "one scale in one key and octave: every task would be the same");
 }
 
-void Aufgabenwahl::Ziehen(int floodPercent) {
-    bool nutzeBox = z.uebungsmodus > core::modus::ausprobieren;
+const Aufgabe& Aufgabenwahl::Ziehen() {
+    const i16 letzteSkala = a.skala_nr, letzterTon = a.noten[0];
+    const bool ausBeutel = art_ == Tonart::Geschrieben && core::imTest(z);
+    bool nutzeBox = core::gewertet(z);
     int versuch = 0;
     do {
-        tonart_.Ziehen();
-        if (++versuch >= z.matboxanz) nutzeBox = false;
+        tonart_.Ziehen(a);
+        if (++versuch >= matbox_.matboxanz()) nutzeBox = false;
         // After a plain draw the row drawn last stays in force.
-        if (const i16 zeile = matbox_.Ziehen(nutzeBox, floodPercent); zeile > 0) a.matIndex = zeile;
-        tonart_.Toene();
-    } while (a.letzteSkala == z.skala_nr && a.letzterTon == a.noten[0]);
+        if (const i16 zeile = matbox_.Ziehen(nutzeBox, a); zeile > 0) matIndex_ = zeile;
+        if (ausBeutel) a.quintLage = matbox_.tonart(matIndex_);
+        tonart_.Toene(a);
+    } while (letzteSkala == a.skala_nr && letzterTon == a.noten[0]);
 
-    if (z.uebungsmodus > core::modus::fortsetzung)
-        matbox_.verbrauchen((z.skala_nr + 1) * z.akt_richtung);
-    if (z.abfolge == 1) MelodikFolge(a, z.skala_nr, rnd_);
-    a.letzteSkala = z.skala_nr;
-    a.letzterTon = a.noten[0];
+    if (core::imTest(z)) matbox_.verbrauchen(a.code());
+    if (a.melodie) MelodikFolge(a, rnd_);
+    a.verlauf = {};
+    return a;
 }
 
 }  // namespace engine

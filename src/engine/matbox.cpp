@@ -1,14 +1,14 @@
 #include "engine/matbox.h"
 
 #include "base/rounding.h"
-#include "base/runtime_error.h"
 
 #include <cstdlib>
 #include <utility>
 
 namespace engine {
 
-using base::sgn;
+using core::gewicht::spalteCode;
+using core::gewicht::spalteGewicht;
 
 namespace {
 
@@ -21,164 +21,179 @@ int vorzeichen(int richtung) { return richtung % 2 == 0 ? 1 : -1; }
 
 void Matbox::PotSkalaBestimmen() {
     const int skalen = z.skal_anz + 1;
-    if (z.ska_ausw != 0) {
-        z.potSkala = z.einzelAnz + 1;
-        return;
-    }
-    if (z.richtung != beide) z.akt_richtung = vorzeichen(z.richtung);
-    z.potSkala = z.richtung == beide ? 2 * skalen : skalen;
+    if (z.ska_ausw != 0)
+        potSkala_ = z.einzelAnz + 1;
+    else
+        potSkala_ = z.richtung == beide ? 2 * skalen : skalen;
+}
+
+/// Code of a new training: each scale first downward, then upward.
+i16 Matbox::neuerCode(int i) const {
+    if (z.ska_ausw != 0) return z.einzel_wahl[i - 1];
+    if (z.richtung != beide) return i * vorzeichen(z.richtung);
+    return (i + 1) / 2 * (i % 2 == 1 ? -1 : 1);
 }
 
 void Matbox::TrainingBeginnen() {
-    const int n = z.potSkala;
-    z.wiederholung = startgewicht(n);
-    z.matboxanz = n * z.wiederholung;
-    z.matbox.redim(z.matboxanz, 1);
-    z.mathaeufgk_box.redim(n, 1);
-    for (int i = 1; i <= n; ++i) {
-        i16& code = z.mathaeufgk_box(i, 0);
-        if (z.ska_ausw != 0)
-            code = z.einzel_wahl[i - 1];
-        else if (z.richtung != beide)
-            code = i * z.akt_richtung;
-        else  // each scale first downward, then upward
-            code = (i + 1) / 2 * (i % 2 == 1 ? -1 : 1);
-        z.mathaeufgk_box(i, 1) = z.wiederholung;
+    wiederholung_ = startgewicht(potSkala_);
+    matbox_zahl_ = matboxanz_ = potSkala_ * wiederholung_;
+    matbox_.redim(matboxanz_, 1);
+    z.mathaeufgk_box.redim(potSkala_, 1);
+    for (int i = 1; i <= potSkala_; ++i) {
+        z.mathaeufgk_box(i, spalteCode) = neuerCode(i);
+        z.mathaeufgk_box(i, spalteGewicht) = wiederholung_;
     }
     anwesenheitMerken();
     MatAusBox(0);
-    z.matbox_zahl = n * z.wiederholung;
 }
 
 void Matbox::TrainingFortsetzen() {
-    z.wiederholung = startgewicht(z.potSkala);
-    z.matboxanz = 0;
-    for (int i = 1; i <= z.potSkala; ++i)
-        if (z.mathaeufgk_box(i, 1) > 0) z.matboxanz += z.mathaeufgk_box(i, 1);
-    z.matbox.redim(z.matboxanz, 1);
+    wiederholung_ = startgewicht(potSkala_);
+    matboxanz_ = 0;
+    for (int i = 1; i <= potSkala_; ++i)
+        if (const i16 w = z.mathaeufgk_box(i, spalteGewicht); w > 0) matboxanz_ += w;
+    matbox_.redim(matboxanz_, 1);
     anwesenheitMerken();
     MatAusBox(0);
     MatNeu();
 }
 
 void Matbox::anwesenheitMerken() {
-    for (int i = 1; i <= z.potSkala; ++i)
-        auswertung_.Increment(core::skalaSlot(z.mathaeufgk_box(i, 0), z.skal_anz), anwesendSpalte);
+    for (int i = 1; i <= potSkala_; ++i)
+        wertung_.AnwesenheitMerken(z.mathaeufgk_box(i, spalteCode));
 }
 
 void Matbox::PruefungBeginnen(int zeilen) {
-    z.matboxanz = zeilen;
-    z.matbox.redim(zeilen, 1);
-    MatFuellen(z.richtung);
+    matboxanz_ = zeilen;
+    matbox_.redim(zeilen, 1);
+    MatFuellen();
 }
 
-i16 Matbox::fuellCode(int zeile, i16 richtungsArt) {
+/// Code of the rows that hold every scale once. The first block is downward, the next upward.
+i16 Matbox::fuellCode(int zeile) const {
     if (z.ska_ausw != 0) return z.einzel_wahl[zeile - 1];
-    if (richtungsArt < beide) return zeile * vorzeichen(richtungsArt);
-    // The first block is downward, the next upward.
+    if (z.richtung < beide) return zeile * vorzeichen(z.richtung);
     const int skalen = z.skal_anz + 1;
     const int block = (zeile - 1) / skalen;
     return ((zeile - 1) % skalen + 1) * (block % 2 == 0 ? -1 : 1);
 }
 
-i16 Matbox::freierCode(i16 richtungsArt) {
+i16 Matbox::freierCode() {
     if (z.ska_ausw != 0) return z.einzel_wahl[rnd_.below(z.einzelAnz + 1)];
-    if (richtungsArt < beide) return rnd_.upTo(z.potSkala) * vorzeichen(richtungsArt);
+    if (z.richtung < beide) return rnd_.upTo(potSkala_) * vorzeichen(z.richtung);
     const int richtung = rnd_.sign();
     return rnd_.upTo(z.skal_anz + 1) * richtung;
 }
 
-void Matbox::MatFuellen(i16 richtungsArt) {
-    const int n = z.potSkala;
-    for (int i = 1; i <= z.matboxanz; ++i) {
-        z.matbox(i, 0) = i <= n ? fuellCode(i, richtungsArt) : freierCode(richtungsArt);
-        if (zeileGefuellt) zeileGefuellt(i);
+void Matbox::MatFuellen() {
+    for (int i = 1; i <= matboxanz_; ++i) {
+        const i16 code = i <= potSkala_ ? fuellCode(i) : freierCode();
+        matbox_(i, spalteCode) = code;
+        if (mitTonart_)
+            matbox_(i, spalteTonart) = tonarten_.Ziehen(std::abs(int(code)) - 1, matboxanz_, rnd_);
     }
-    for (int i = 1; i <= n; ++i)
-        auswertung_.Increment(core::skalaSlot(z.matbox(i, 0), z.skal_anz), anwesendSpalte);
+    for (int i = 1; i <= potSkala_; ++i) wertung_.AnwesenheitMerken(code(i));
 }
 
 void Matbox::MatNeu() {
     auto& box = z.mathaeufgk_box;
-    const int n = z.potSkala;
+    const int n = potSkala_;
     // The order that this exchange leaves among equal weights decides what the front of the pool
     // is.
     for (int i = 1; i < n; ++i)
         for (int j = i + 1; j <= n; ++j)
-            if (box(j, 1) > box(i, 1)) {
-                std::swap(box(i, 0), box(j, 0));
-                std::swap(box(i, 1), box(j, 1));
+            if (box(j, spalteGewicht) > box(i, spalteGewicht)) {
+                std::swap(box(i, spalteCode), box(j, spalteCode));
+                std::swap(box(i, spalteGewicht), box(j, spalteGewicht));
             }
-    z.matbox_zahl = 0;
-    for (int i = 1; i <= n && box(i, 1) > 0; ++i) z.matbox_zahl += box(i, 1);
-    if (z.matbox_zahl >= n * 8 - 1 || z.matbox_zahl <= 0) return;
+    matbox_zahl_ = 0;
+    for (int i = 1; i <= n && box(i, spalteGewicht) > 0; ++i) matbox_zahl_ += box(i, spalteGewicht);
+    if (matbox_zahl_ >= n * 8 - 1 || matbox_zahl_ <= 0) return;
 
     i16 versatz = 0;
-    z.matboxanz = z.matbox_zahl;
-    if (box(n, 1) < 1) {
-        versatz = std::abs(box(n, 1)) + 1;
-        z.matboxanz = 0;
-        for (int i = 1; i <= n; ++i) z.matboxanz += box(i, 1) + versatz;
+    matboxanz_ = matbox_zahl_;
+    if (box(n, spalteGewicht) < 1) {
+        versatz = std::abs(box(n, spalteGewicht)) + 1;
+        matboxanz_ = 0;
+        for (int i = 1; i <= n; ++i) matboxanz_ += box(i, spalteGewicht) + versatz;
     }
-    z.matbox.redim(z.matboxanz, 1);
+    matbox_.redim(matboxanz_, 1);
     MatAusBox(versatz);
 }
 
+/// Writes the pool from the weights, each raised by `versatz`.
 void Matbox::MatAusBox(i16 versatz) {
     int k = 0;
-    for (int i = 1; i <= z.potSkala; ++i) {
-        const int c = z.mathaeufgk_box(i, 1) + versatz;
-        for (int j = 1; j <= c; ++j) z.matbox(k + j, 0) = z.mathaeufgk_box(i, 0);
-        if (c >= 1) k += c;
+    for (int i = 1; i <= potSkala_; ++i) {
+        const int anzahl = z.mathaeufgk_box(i, spalteGewicht) + versatz;
+        for (int j = 0; j < anzahl; ++j) matbox_(++k, spalteCode) = z.mathaeufgk_box(i, spalteCode);
     }
 }
 
 void Matbox::gewichten(i16 code, i16 mehr) {
-    for (int i = 1; i <= z.potSkala; ++i)
-        if (z.mathaeufgk_box(i, 0) == code) {
-            z.mathaeufgk_box(i, 1) += mehr;
+    for (int i = 1; i <= potSkala_; ++i)
+        if (z.mathaeufgk_box(i, spalteCode) == code) {
+            z.mathaeufgk_box(i, spalteGewicht) += mehr;
             return;
         }
 }
 
+Matbox::Trainingsstand Matbox::fortschreiben() {
+    MatNeu();
+    if (matbox_zahl_ < 1) {
+        matbox_zahl_ = 0;
+        return Trainingsstand::Ziel;
+    }
+    if (matbox_zahl_ > obergrenze() - 1) {
+        matbox_zahl_ = obergrenze();
+        return Trainingsstand::Gescheitert;
+    }
+    return Trainingsstand::Laeuft;
+}
+
+int Matbox::prozent() const {
+    if (!core::imTraining(z)) return 0;
+    return base::rounded(static_cast<double>(matbox_zahl_) / obergrenze() * 100);
+}
+
 /// Near the goal mostly from the front of the pool, where the last weak scales stand.
-i16 Matbox::trainingsZeile(int floodPercent) {
-    const int x = 50 - floodPercent;
-    if (x <= 30) return rnd_.upTo(z.matboxanz);
+i16 Matbox::trainingsZeile() {
+    const int x = 50 - prozent();
+    if (x <= 30) return rnd_.upTo(matboxanz_);
     const int t = 2 * x - 20;
-    if (rnd_.below(100) > t) return rnd_.upTo(z.matboxanz);
-    const double anzahl = static_cast<double>(z.matboxanz);
+    if (rnd_.below(100) > t) return rnd_.upTo(matboxanz_);
+    const double anzahl = static_cast<double>(matboxanz_);
     return base::floorInt(static_cast<double>(rnd_.R()) * (anzahl - anzahl / 100 * x)) + 1;
 }
 
-i16 Matbox::Ziehen(bool nutzeBox, int floodPercent) {
+i16 Matbox::Ziehen(bool nutzeBox, Aufgabe& a) {
     i16 zeile = 0;
-    i16 code = 0;
+    i16 gezogen = 0;
     if (!nutzeBox) {
         if (z.ska_ausw == 0) {
-            z.skala_nr = rnd_.below(z.skal_anz + 1);
-            if (z.richtung == beide) z.akt_richtung = rnd_.sign();
+            a.skala_nr = rnd_.below(z.skal_anz + 1);
+            a.akt_richtung = z.richtung == beide ? rnd_.sign() : vorzeichen(z.richtung);
             return 0;
         }
-        code = z.einzel_wahl[rnd_.below(z.einzelAnz + 1)];
-    } else if (z.uebungsmodus <= core::modus::fortsetzung) {
-        zeile = trainingsZeile(floodPercent);
-        code = z.matbox(zeile, 0);
+        gezogen = z.einzel_wahl[rnd_.below(z.einzelAnz + 1)];
+    } else if (!core::imTest(z)) {
+        zeile = trainingsZeile();
+        gezogen = code(zeile);
     } else {
         do {
-            zeile = rnd_.upTo(z.matboxanz);
-            code = z.matbox(zeile, 0);
-        } while (code == 0);
+            zeile = rnd_.upTo(matboxanz_);
+            gezogen = code(zeile);
+        } while (gezogen == 0);
     }
-    z.skala_nr = std::abs(code) - 1;
-    z.akt_richtung = sgn(code);
+    a.skala_nr = std::abs(gezogen) - 1;
+    a.akt_richtung = base::sgn(gezogen);
     return zeile;
 }
 
-void Matbox::verbrauchen(i16 code) {
-    for (int i = 1; i <= z.matboxanz; ++i)
-        if (z.matbox(i, 0) == code) {
-            z.matbox(i, 0) = 0;
+void Matbox::verbrauchen(i16 verbraucht) {
+    for (int i = 1; i <= matboxanz_; ++i)
+        if (code(i) == verbraucht) {
+            matbox_(i, spalteCode) = 0;
             return;
         }
 }

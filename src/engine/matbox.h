@@ -1,22 +1,21 @@
 #pragma once
 #include "base/rnd.h"
 #include "core/zustand.h"
-#include "results/auswertung.h"
-
-#include <functional>
+#include "engine/aufgabe.h"
+#include "engine/tonartspalte.h"
+#include "results/wertung.h"
 
 namespace engine {
-
-using base::i16;
 
 /// The task pool of a run. In training it holds each scale as many times as its weight, heaviest
 /// first; in tests and exams it is a bag from which drawn entries are removed.
 class Matbox {
   public:
-    Matbox(core::Zustand& zustand, results::Auswertung& auswertung, base::Rnd& rnd)
-        : z(zustand), auswertung_(auswertung), rnd_(rnd) {}
+    /// @param mitTonart each row of a bag has a key.
+    Matbox(core::Zustand& zustand, results::Wertung& wertung, base::Rnd& rnd, bool mitTonart)
+        : z(zustand), wertung_(wertung), rnd_(rnd), mitTonart_(mitTonart) {}
 
-    /// Counts the scale codes of the run, and fixes a single direction.
+    /// Counts the scale codes of the run.
     void PotSkalaBestimmen();
     /// Start weight of each scale code: the fewer scales, the more often each stands in the pool.
     static i16 startgewicht(i16 n) { return n * 4 < 30 ? 30 / n : i16(4); }
@@ -27,41 +26,58 @@ class Matbox {
     void TrainingFortsetzen();
     /// The bag of a test or exam: every code once, the rest at random. @param zeilen its size.
     void PruefungBeginnen(int zeilen);
-    /// Fills the bag anew. @param richtungsArt `richtung`. Leaves the task in hand as it is.
-    void MatFuellen(i16 richtungsArt);
+    /// Fills the bag anew.
+    void MatFuellen();
     /// Sorts the weights, sums the positive ones and rebuilds the pool from them.
     void MatNeu();
-    /// Writes the pool from the weights, each raised by `versatz`.
-    void MatAusBox(i16 versatz);
     /// Adds to the weight of a code; a code that is not in the run is passed over.
     void gewichten(i16 code, i16 mehr);
+    /// Where a training stands after its weights have changed: between the goal, no weight left,
+    /// and twice the weight that it began with.
+    enum class Trainingsstand { Laeuft, Ziel, Gescheitert };
+    Trainingsstand fortschreiben();
 
-    /// Draws scale and direction of a task into skala_nr and akt_richtung.
+    /// Draws scale and direction of a task.
     /// @param nutzeBox from the pool; otherwise plainly over all that the run may draw.
-    /// @param floodPercent where the training stands, 0..100.
     /// @return row of the pool, 0 after a plain draw.
-    i16 Ziehen(bool nutzeBox, int floodPercent);
+    i16 Ziehen(bool nutzeBox, Aufgabe& a);
     /// Takes the first entry with that code out of the bag.
     void verbrauchen(i16 code);
+    /// Key of a row of the bag, in fifths from C.
+    i16 tonart(int zeile) const { return matbox_(zeile, spalteTonart); }
 
-    /// Weight sum at which a training has failed.
-    i16 obergrenze() const { return z.wiederholung * z.potSkala * 2; }
-    /// Marks the slots of all codes of the run as present.
-    void anwesenheitMerken();
-
-    /// Called for each row of the bag as it is filled; written tasks add a key to it.
-    std::function<void(int zeile)> zeileGefuellt;
-    /// Column of the score table that marks the presence of a slot.
-    i16 anwesendSpalte = 3;
+    /// Signed scale code of a row of the pool, 1..matboxanz; 0 when it is used up.
+    i16 code(int zeile) const { return matbox_(zeile, spalteCode); }
+    /// Rows of the pool.
+    i16 matboxanz() const { return matboxanz_; }
+    /// Number of different scale codes of the run.
+    i16 potSkala() const { return potSkala_; }
+    /// Sum of the positive weights, and where it makes a training fail.
+    i16 matbox_zahl() const { return matbox_zahl_; }
+    i16 obergrenze() const { return wiederholung_ * potSkala_ * 2; }
+    /// What the bar of a training shows, 0..100: 50 at the start, 0 is the goal.
+    int prozent() const;
 
   private:
-    i16 fuellCode(int zeile, i16 richtungsArt);
-    i16 freierCode(i16 richtungsArt);
-    i16 trainingsZeile(int floodPercent);
+    static constexpr int spalteCode = 0, spalteTonart = 1;
+
+    i16 neuerCode(int i) const;
+    i16 fuellCode(int zeile) const;
+    i16 freierCode();
+    i16 trainingsZeile();
+    void anwesenheitMerken();
+    void MatAusBox(i16 versatz);
 
     core::Zustand& z;
-    results::Auswertung& auswertung_;
+    results::Wertung& wertung_;
     base::Rnd& rnd_;
+    bool mitTonart_;
+    Tonartspalte tonarten_;
+    base::Table<i16> matbox_;  ///< rows 1..matboxanz: signed code, key
+    i16 matboxanz_;
+    i16 potSkala_;
+    i16 matbox_zahl_;
+    i16 wiederholung_ = 4;  ///< start weight of each scale code
 };
 
 }  // namespace engine

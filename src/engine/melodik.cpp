@@ -19,7 +19,7 @@ constexpr int maxVersuche = 10000;
 /// One attempt at a melody.
 class Versuch {
   public:
-    Versuch(const Aufgabe& a, int skala_nr, base::Rnd& rnd) : a_(a), nr_(skala_nr), rnd_(rnd) {}
+    Versuch(const Aufgabe& a, base::Rnd& rnd) : a_(a), nr_(a.skala_nr), rnd_(rnd) {}
 
     std::optional<std::array<int, 8>> folge() {
         erster();
@@ -32,8 +32,8 @@ class Versuch {
 
   private:
     bool schlecht(int von, int nach) const { return unsanglich(a_.noten[von], a_.noten[nach]); }
-    int& an(int position) { return folge_[static_cast<std::size_t>(position)]; }
-    bool& belegt(int stufe) { return belegt_[static_cast<std::size_t>(stufe)]; }
+    int& an(int position) { return base::at(folge_, position); }
+    bool& belegt(int stufe) { return base::at(belegt_, stufe); }
 
     /// First or last note, or, never for scale 6, with chance 1 in 5 the fifth degree.
     void erster() {
@@ -69,16 +69,17 @@ class Versuch {
     /// The three degrees left, in the first order that can be sung on to the final.
     bool rest() {
         std::array<int, 3> restton{};
-        std::size_t frei = 0;
+        int frei = 0;
         for (int stufe = 0; stufe < 7; ++stufe)
-            if (!belegt(stufe) && frei < 3) restton[frei++] = stufe;
+            if (!belegt(stufe) && frei < 3) base::at(restton, frei++) = stufe;
         std::array<bool, 6> versucht{};
         for (int n = 0; n < 6; ++n) {
-            std::size_t t = 0;
-            do t = static_cast<std::size_t>(rnd_.below(6));
-            while (versucht[t]);
-            versucht[t] = true;
-            for (std::size_t k = 0; k < 3; ++k) folge_[4 + k] = restton[kombi[t][k]];
+            int t = 0;
+            do t = rnd_.below(6);
+            while (base::at(versucht, t));
+            base::at(versucht, t) = true;
+            for (int k = 0; k < 3; ++k)
+                an(4 + k) = base::at(restton, base::at(base::at(kombi, t), k));
             if (!schlecht(an(3), an(4)) && !schlecht(an(4), an(5)) && !schlecht(an(5), an(6)) &&
                 std::abs(a_.noten[0] - a_.noten[an(6)]) != 6)
                 return true;
@@ -104,11 +105,11 @@ class Versuch {
 
 }  // namespace
 
-void MelodikFolge(Aufgabe& a, int skala_nr, base::Rnd& rnd) {
+void MelodikFolge(Aufgabe& a, base::Rnd& rnd) {
     for (int n = 0; n < maxVersuche; ++n) {
-        const auto folge = Versuch(a, skala_nr, rnd).folge();
+        const auto folge = Versuch(a, rnd).folge();
         if (!folge) continue;
-        for (int i = 0; i < 8; ++i) a.ton_abfolg[i] = (*folge)[static_cast<std::size_t>(i)];
+        for (int i = 0; i < 8; ++i) a.ton_abfolg[i] = base::at(*folge, i);
         return;
     }
     throw base::RuntimeError(base::ErrorNumber::InvalidCall, "these notes allow no melody");

@@ -15,6 +15,6 @@ constexpr bool unsanglich(int von, int nach) {
 /// Fills ton_abfolg(0..7) with a melodic order of noten(0..7) without awkward steps: every degree
 /// once, starting on the final or sometimes the fifth, ending on the final or its octave.
 /// @throws run-time error 5 when the notes allow no such melody.
-void MelodikFolge(Aufgabe& a, int skala_nr, base::Rnd& rnd);
+void MelodikFolge(Aufgabe& a, base::Rnd& rnd);
 
 }  // namespace engine

@@ -72,30 +72,30 @@ void pruefen(const std::vector<Skala>& skalen, const core::Zustand& z) {
 
 }  // namespace
 
-core::Value::Array TrainingsstandSchreiben(const core::Zustand& z,
+core::Value::Array TrainingsstandSchreiben(const core::Zustand& z, int n,
                                            const results::Auswertung& auswertung,
                                            const Zaehlerstand& zaehler) {
     core::Value::Array satz{"true"};
-    for (const int spalte : {0, 1})
-        for (int i = 1; i <= z.potSkala; ++i)
-            satz.push_back(std::to_string(z.mathaeufgk_box(i, spalte)));
-    for (int i = 1; i <= z.potSkala; ++i) {
-        const i16 slot = core::skalaSlot(z.mathaeufgk_box(i, 0), z.skal_anz);
+    using namespace core::gewicht;
+    for (const int spalte : {spalteCode, spalteGewicht})
+        for (int i = 1; i <= n; ++i) satz.push_back(std::to_string(z.mathaeufgk_box(i, spalte)));
+    for (int i = 1; i <= n; ++i) {
+        const i16 slot = core::skalaSlot(z.mathaeufgk_box(i, spalteCode), z.skal_anz);
         satz.push_back(std::to_string(slot));
         for (int x = 0; x < wertungen; ++x) satz.push_back(base::decimal(auswertung.read(slot, x)));
     }
-    for (const int n : {zaehler.richtig, zaehler.falsch, zaehler.wiederholungen})
-        satz.push_back(std::to_string(n));
+    for (const int anzahl : {zaehler.richtig, zaehler.falsch, zaehler.wiederholungen})
+        satz.push_back(std::to_string(anzahl));
     return satz;
 }
 
-Zaehlerstand TrainingsstandLesen(const core::Value& satz, core::Zustand& z,
+Zaehlerstand TrainingsstandLesen(const core::Value& satz, int n, core::Zustand& z,
                                  results::Auswertung& auswertung) {
-    const std::size_t n = static_cast<std::size_t>(int(z.potSkala));
-    if (satz.items().size() != jeSkala * n + einmal) passtNicht("length");
+    const auto anzahl = static_cast<std::size_t>(n);
+    if (satz.items().size() != jeSkala * anzahl + einmal) passtNicht("length");
     Leser leser(satz);
     if (leser.text() != "true") passtNicht("not interrupted");
-    std::vector<Skala> skalen(n);
+    std::vector<Skala> skalen(anzahl);
     for (Skala& s : skalen) s.code = leser.zahl();
     for (Skala& s : skalen) s.gewicht = leser.zahl();
     for (Skala& s : skalen) {
@@ -105,13 +105,12 @@ Zaehlerstand TrainingsstandLesen(const core::Value& satz, core::Zustand& z,
     const Zaehlerstand zaehler{leser.anzahl(), leser.anzahl(), leser.anzahl()};
     pruefen(skalen, z);
 
-    z.mathaeufgk_box.redim(z.potSkala, 1);
-    for (int i = 1; i <= z.potSkala; ++i) {
-        const Skala& s = skalen[static_cast<std::size_t>(i - 1)];
-        z.mathaeufgk_box(i, 0) = s.code;
-        z.mathaeufgk_box(i, 1) = s.gewicht;
-        for (int x = 0; x < wertungen; ++x)
-            auswertung.Save(s.slot, x, s.wertung[static_cast<std::size_t>(x)]);
+    z.mathaeufgk_box.redim(n, 1);
+    for (int i = 1; i <= n; ++i) {
+        const Skala& s = base::at(skalen, i - 1);
+        z.mathaeufgk_box(i, core::gewicht::spalteCode) = s.code;
+        z.mathaeufgk_box(i, core::gewicht::spalteGewicht) = s.gewicht;
+        for (int x = 0; x < wertungen; ++x) auswertung.Save(s.slot, x, base::at(s.wertung, x));
     }
     return zaehler;
 }

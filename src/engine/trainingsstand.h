@@ -11,16 +11,17 @@ struct Zaehlerstand {
     int wiederholungen = 0;
 };
 
-/// Where a training was left, as the host keeps it: "true", then for its n scale codes the codes,
-/// the weights, slot and three scores each, and the counters; 6n + 4 texts in plain decimal.
-core::Value::Array TrainingsstandSchreiben(const core::Zustand& z,
+/// Where a training was left, as the host keeps it: "true", then for the n scale codes of the run
+/// the codes, the weights, slot and three scores each, and the counters; 6n + 4 texts in plain
+/// decimal.
+core::Value::Array TrainingsstandSchreiben(const core::Zustand& z, int n,
                                            const results::Auswertung& auswertung,
                                            const Zaehlerstand& zaehler);
 
 /// Takes a training up again: codes and weights into `mathaeufgk_box`, the scores into the table.
 /// @throws run-time errors 5, 6, 9 and 13 for a record that does not fit the run as it was set up;
 /// state and table are unchanged then.
-Zaehlerstand TrainingsstandLesen(const core::Value& satz, core::Zustand& z,
+Zaehlerstand TrainingsstandLesen(const core::Value& satz, int n, core::Zustand& z,
                                  results::Auswertung& auswertung);
 
 }  // namespace engine

@@ -6,26 +6,29 @@
 namespace results {
 
 void Auswertung::SaveBest(i16 i, float value) {
-    if (value < tabelle_(i, 0)) tabelle_(i, 0) = value;
-    if (tabelle_(i, 0) < tabelle_(i, 1)) std::swap(tabelle_(i, 0), tabelle_(i, 1));
+    float& zweiter = tabelle_(i, spalte::zweitbester);
+    float& bester = tabelle_(i, spalte::bester);
+    zweiter = std::min(zweiter, value);
+    if (zweiter < bester) std::swap(zweiter, bester);
 }
 
 void Auswertung::PlatzSchaffen(i16 i, i16 bestAnz) {
-    const auto behalten = [&] { return std::min(int(tabelle_(i, 0)), int(bestAnz)); };
+    const auto behalten = [&] { return std::min(int(tabelle_(i, spalte::anzahl)), int(bestAnz)); };
     const int bisher = behalten();
-    Increment(i, 0);
+    Increment(i, spalte::anzahl);
     if (behalten() == bisher) return;
-    for (int j = bisher + 2; j > 2; --j) tabelle_(i, j) = tabelle_(i, j - 1);
-    tabelle_(i, 2) = 0;
+    for (int j = spalte::beste + bisher; j > spalte::beste; --j)
+        tabelle_(i, j) = tabelle_(i, j - 1);
+    tabelle_(i, spalte::beste) = 0;
 }
 
 void Auswertung::SortASaveBest(i16 i, float value, i16 bestAnz) {
-    const float grenze = std::min(tabelle_(i, 0), static_cast<float>(int(bestAnz)));
-    const int oben = base::rounded(static_cast<double>(grenze + 2.0F - 1.0F));
+    const int behalten = std::min(int(tabelle_(i, spalte::anzahl)), int(bestAnz));
     int pos = 0;
-    for (int j = 2; j <= oben && value < tabelle_(i, j); ++j) pos = j;
+    for (int j = spalte::beste; j < spalte::beste + behalten && value < tabelle_(i, j); ++j)
+        pos = j;
     if (pos == 0) return;
-    for (int j = 2; j < pos; ++j) tabelle_(i, j) = tabelle_(i, j + 1);
+    for (int j = spalte::beste; j < pos; ++j) tabelle_(i, j) = tabelle_(i, j + 1);
     tabelle_(i, pos) = value;
 }
 

@@ -9,6 +9,20 @@ namespace results {
 
 using base::i16;
 
+/// Columns of the score table; what they hold hangs on the mode.
+namespace spalte {
+// Training.
+inline constexpr int anzahl = 0;  ///< tasks booked; also in a written test
+inline constexpr int summe = 1;   ///< of what they booked
+// A test in which scales are named.
+inline constexpr int zweitbester = 0;
+inline constexpr int bester = 1;
+inline constexpr int anwesend = 3;  ///< the slot is asked for
+// A written test.
+inline constexpr int beste = 2;                ///< and up: the best scores, highest first
+inline constexpr int anwesendSchriftlich = 6;  ///< the slot is asked for
+}  // namespace spalte
+
 /// Score table: one row per scale code, a few columns of 32-bit floats. Rows are addressed by slot.
 /// An index out of range throws run-time error 9.
 class Auswertung {

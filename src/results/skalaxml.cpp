@@ -56,10 +56,10 @@ pugi::xml_node Skalaxml::AntwortNeu(pugi::xml_node lektion, i16 lfd) {
     return antwort;
 }
 
-pugi::xml_node Skalaxml::AntwortSchluss() {
+pugi::xml_node Skalaxml::AntwortSchluss(float dauer, int whlg) {
     const auto node = antwort();
-    AntwortEigenschaft(node, "Dauer Antwort", base::decimal(p.zustand.AntwDau));
-    AntwortEigenschaft(node, "Anz Whlg", std::to_string(p.zustand.whlg_anz));
+    AntwortEigenschaft(node, "Dauer Antwort", base::decimal(dauer));
+    AntwortEigenschaft(node, "Anz Whlg", std::to_string(whlg));
     return node;
 }
 

@@ -24,8 +24,8 @@ class Skalaxml {
     /// The answer in hand, of the lesson in hand; empty when it has none.
     pugi::xml_node antwort() const { return lektion_.child("answers").last_child(); }
     pugi::xml_node AntwortNeu(pugi::xml_node lektion, i16 lfd);
-    /// Answer time and repetitions, into the answer in hand.
-    pugi::xml_node AntwortSchluss();
+    /// Answer time in tenths of a second and repetitions, into the answer in hand.
+    pugi::xml_node AntwortSchluss(float dauer, int whlg);
     void AntwortEigenschaft(pugi::xml_node node, const char* key, const std::string& value);
     void EinstellungenSchreiben(const std::vector<std::string>& liste);
     /// Finishes and saves: written beside and renamed, so that the file is never half there.

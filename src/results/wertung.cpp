@@ -10,9 +10,6 @@ namespace {
 
 using core::uebung::bestimmen;
 
-/// Column that marks the presence of a slot in modes above training.
-constexpr int anwesend = 3;
-
 int ganz(float v) { return base::rounded(static_cast<double>(v)); }
 
 }  // namespace
@@ -23,12 +20,11 @@ void Wertung::vorbereiten() {
 }
 
 void Wertung::ErgebnisBuchen(i16 i, float wert) {
-    const core::Zustand& z = p.zustand;
     if (!core::gewertet(z)) return;
     const float gebucht = wert - 4 * z.bewertung_basis;
     if (core::imTraining(z)) {
-        auswertung.Increment(i, 0);
-        auswertung.Add(i, 1, gebucht);
+        auswertung.Increment(i, spalte::anzahl);
+        auswertung.Add(i, spalte::summe, gebucht);
     } else if (z.ueb_typ == bestimmen) {
         auswertung.SaveBest(i, gebucht);
     } else {
@@ -37,24 +33,30 @@ void Wertung::ErgebnisBuchen(i16 i, float wert) {
     }
 }
 
+void Wertung::AnwesenheitMerken(i16 code) {
+    const bool schriftlich = core::imTest(z) && z.ueb_typ != bestimmen;
+    auswertung.Increment(core::skalaSlot(code, z.skal_anz),
+                         schriftlich ? spalte::anwesendSchriftlich : spalte::anwesend);
+}
+
 ErgebnisZeile ergebnisZeile(const Auswertung& auswertung, const core::Zustand& z, i16 slot) {
     const auto r = [&](int x) { return auswertung.read(slot, x); };
     const float bester = z.bewertung_basis * -8.0F;  // what a right first answer books
     int grenze = 0, summe = 0;
     bool zaehlt = true;
     if (!core::imTest(z)) {
-        zaehlt = r(0) > 0;
-        grenze = ganz(bester * r(0));
-        summe = std::min(0, ganz(r(1)));
+        zaehlt = r(spalte::anzahl) > 0;
+        grenze = ganz(bester * r(spalte::anzahl));
+        summe = std::min(0, ganz(r(spalte::summe)));
     } else if (z.ueb_typ == bestimmen) {
-        zaehlt = r(anwesend) > 0;
+        zaehlt = r(spalte::anwesend) > 0;
         grenze = ganz(bester * 2);
-        summe = ganz(r(0) + r(1));
+        summe = ganz(r(spalte::zweitbester) + r(spalte::bester));
     } else {
-        const int n = std::min(ganz(r(0)), int(z.bestAnz));
+        const int n = std::min(ganz(r(spalte::anzahl)), int(z.bestAnz));
         zaehlt = n > 0;
         grenze = ganz(bester * static_cast<float>(n));
-        for (int j = 2; j <= n + 1; ++j) summe += ganz(r(j));
+        for (int j = 0; j < n; ++j) summe += ganz(r(spalte::beste + j));
     }
     if (!zaehlt || grenze == 0) return {};
     return {true, static_cast<float>(summe) / static_cast<float>(grenze)};

@@ -1,25 +1,26 @@
 #pragma once
-#include "core/programm.h"
+#include "core/zustand.h"
 #include "results/auswertung.h"
-#include "results/skalaxml.h"
 
 #include <string>
 
 namespace results {
 
-/// What a run is scored with: the tables and the record. One instance lives as long as the process.
+/// What a run is scored with. One instance lives as long as the process.
 struct Wertung {
-    explicit Wertung(core::Programm& programm) : p(programm), xml(programm) {}
+    explicit Wertung(core::Zustand& zustand) : z(zustand) {}
 
     /// Sizes the tables for every category and both directions.
     void vorbereiten();
     /// Books an evaluated task. @param i slot. @param wert its points: lower is better.
     void ErgebnisBuchen(i16 i, float wert);
 
-    core::Programm& p;
+    /// Marks a signed scale code as one that the run asks for.
+    void AnwesenheitMerken(i16 code);
+
+    core::Zustand& z;
     Auswertung auswertung;
     ergebnis ergebnis_best;
-    Skalaxml xml;
 };
 
 /// One row of the result form.

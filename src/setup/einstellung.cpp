@@ -26,10 +26,12 @@ constexpr int ohneDaten = -999;
 
 }  // namespace
 
-Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung, sound::Midi& midi,
-                         sound::MidiOutput& ausgabe, Zweig zweig)
+Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung,
+                         results::Skalaxml& xml, sound::Midi& midi, sound::MidiOutput& ausgabe,
+                         Zweig zweig)
     : Formular(programm, zweig == Zweig::Gehoerbildung ? "einstellung1" : "einstellung1b"),
       wertung_(wertung),
+      xml_(xml),
       midi_(midi),
       MIDI(ausgabe),
       zweig_(zweig) {

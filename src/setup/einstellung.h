@@ -1,5 +1,6 @@
 #pragma once
 #include "core/formular.h"
+#include "results/skalaxml.h"
 #include "results/wertung.h"
 #include "setup/auswahl.h"
 #include "setup/regeln.h"
@@ -20,8 +21,8 @@ using base::i16;
 class Einstellung final : public core::Formular {
   public:
     /// @param ausgabe the form's MIDI control.
-    Einstellung(core::Programm& programm, results::Wertung& wertung, sound::Midi& midi,
-                sound::MidiOutput& ausgabe, Zweig zweig);
+    Einstellung(core::Programm& programm, results::Wertung& wertung, results::Skalaxml& xml,
+                sound::Midi& midi, sound::MidiOutput& ausgabe, Zweig zweig);
 
     void load() override { start.start(); }
     void closeBox() override { cmdZurueck_click(); }
@@ -114,6 +115,7 @@ class Einstellung final : public core::Formular {
     static std::string captionVon(const form::ControlArray<form::Option>& optionen, int wert);
 
     results::Wertung& wertung_;
+    results::Skalaxml& xml_;
     sound::Midi& midi_;
     sound::MidiOutput& MIDI;
     Zweig zweig_;

@@ -57,10 +57,8 @@ void Einstellung::CmbOktBer_click() {
 }
 
 void Einstellung::ComboPatch_click() {
-    for (int kanal = 0; kanal < sound::kanaele; ++kanal) {
-        midi_.SetzeKlangfarbe(ComboPatch.listIndex(), kanal);
-        z.patch[kanal] = ComboPatch.listIndex();
-    }
+    z.patch.fill(ComboPatch.listIndex());
+    midi_.SetzeKlangfarben(z.patch);
 }
 
 void Einstellung::HSliderVolume_change() {
@@ -115,7 +113,7 @@ void Einstellung::PruefungVorgeben() {
 
 void Einstellung::cmdOK_click() {
     cmdOK.enabled = false;
-    wertung_.xml.SkalaXmlNeu();
+    xml_.SkalaXmlNeu();
     AuswahlUebernehmen();
     guard("EinstDatSave", [this] { EinstDatSave(); });
     ModusSchritt();

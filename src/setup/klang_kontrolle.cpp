@@ -2,9 +2,10 @@
 #include "base/rounding.h"
 #include "core/katalog.h"
 #include "setup/einstellung.h"
-#include "sound/klang.h"
+#include "sound/tonlinie.h"
 
-#include <array>
+#include <algorithm>
+#include <vector>
 
 namespace setup {
 
@@ -12,14 +13,13 @@ namespace {
 
 namespace katalog = core::katalog;
 
-/// Tuning correction of a note in bend steps: of the white key's degree in Pythagorean tuning, of
-/// the pitch class in meantone.
-int verstimmung(int stimmung, int note) {
+/// Tuning correction of a note in bend steps. In Pythagorean tuning only white keys have a degree.
+i16 korrektur(int stimmung, int note) {
     const int klasse = note % 12;
-    if (stimmung == 2) return katalog::mittelTab[static_cast<std::size_t>(klasse)];
-    for (std::size_t grad = 0; grad < katalog::diatonisch.size(); ++grad)
-        if (katalog::diatonisch[grad] == klasse) return katalog::stufenStimm(0)[grad];
-    return 0;
+    const auto grad = std::ranges::find(katalog::diatonisch, klasse) - katalog::diatonisch.begin();
+    const bool weiss = grad < std::ssize(katalog::diatonisch);
+    if (stimmung == katalog::stimmung::pythagoreisch && !weiss) return 0;
+    return katalog::stimmKorrektur(stimmung, 0, weiss ? static_cast<int>(grad) : 0, klasse);
 }
 
 }  // namespace
@@ -32,16 +32,14 @@ void Einstellung::klang_contr_click() {
     cmdOK.enabled = false;
     midi_.MidiReset();
     TonHinweisZeigen();
-    for (int kanal = 0; kanal < sound::kanaele; ++kanal)
-        midi_.SetzeKlangfarbe(z.patch[kanal], kanal);
-    const int dauer = z.tempo_dauer[z.tempoIdx];
+    midi_.SetzeKlangfarben(z.patch);
+    std::vector<sound::Linienton> linie;
     for (int i = 0; i < noten; ++i) {
         const i16 note = z.FrquMinAkt + i * (d - 1);
-        const int kanal = z.stimmung == 0 ? 0 : i + 1;
-        if (z.stimmung != 0)
-            midi_.MidiPitchBend(kanal, sound::Midi::bendMitte + verstimmung(z.stimmung, note));
-        midi_.MidiNote(note, i * dauer, base::rounded(dauer * 0.9), kanal, i);
+        linie.push_back({note, i, korrektur(z.stimmung, note)});
     }
+    sound::TonlinieLegen(midi_, linie,
+                         {.tondauer = z.tempo_dauer[z.tempoIdx], .stimmung = z.stimmung});
     midi_.Delay(100, abbruch_);
     if (!abbruch_) midi_.ausgabe().start();
 }

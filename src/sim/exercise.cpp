@@ -15,13 +15,6 @@ namespace {
 
 using core::Zustand;
 
-constexpr std::array worksheets{
-    Worksheet{"arbeitsblatt1", 0, core::uebung::bestimmen},
-    Worksheet{"arbeitsblatt1b", 1, core::uebung::bestimmen},
-    Worksheet{"arbeitsblatt4", 0, core::uebung::schreiben},
-    Worksheet{"arbeitsblatt4b", 1, core::uebung::schreiben},
-};
-
 // MIDI notes: the highest that a set-up form offers, and what no task may reach.
 constexpr int highest = 96;
 constexpr int beyond = 120;
@@ -89,32 +82,32 @@ void checkScales(const Zustand& z) {
 
 }  // namespace
 
-const Worksheet& worksheet(const std::string& form) {
-    const auto sheet =
-        std::ranges::find_if(worksheets, [&](const Worksheet& w) { return form == w.name; });
-    if (sheet == worksheets.end()) throw UsageError("no learner for the form \"" + form + "\"");
-    return *sheet;
+const engine::Uebung& exercise(const std::string& form) {
+    const auto* const found = std::ranges::find(engine::uebungen, form, &engine::Uebung::blatt);
+    if (found == engine::uebungen.end())
+        throw UsageError("no learner for the form \"" + form + "\"");
+    return *found;
 }
 
 std::span<const Field> fields() { return allFields; }
 
-core::Zustand exerciseState(const Worksheet& sheet, const std::vector<Assignment>& assignments) {
+core::Zustand exerciseState(const engine::Uebung& exercise,
+                            const std::vector<Assignment>& assignments) {
     Zustand z;
-    z.theoriewahl = sheet.theoriewahl;
-    z.ueb_typ = sheet.ueb_typ;
+    z.theoriewahl = exercise.theoriewahl;
+    z.ueb_typ = exercise.ueb_typ;
     std::set<std::string> given;
     for (const Assignment& assignment : assignments) {
         assign(z, assignment);
         given.insert(assignment.field);
     }
-    if (z.theoriewahl != sheet.theoriewahl || z.ueb_typ != sheet.ueb_typ)
-        throw UsageError(std::string(sheet.name) + " is theoriewahl " +
-                         std::to_string(sheet.theoriewahl) + ", ueb_typ " +
-                         std::to_string(sheet.ueb_typ));
-    const bool spelled = z.theoriewahl == 1 || z.ueb_typ == core::uebung::schreiben;
-    if (spelled && z.skal_typ != 0)
-        throw UsageError(std::string(sheet.name) + " is for skal_typ 0 only");
-    z.skal_anz = core::katalog::kategorien.at(static_cast<std::size_t>(int(z.skal_typ))).skal_max;
+    if (z.theoriewahl != exercise.theoriewahl || z.ueb_typ != exercise.ueb_typ)
+        throw UsageError(std::string(exercise.blatt) + " is theoriewahl " +
+                         std::to_string(exercise.theoriewahl) + ", ueb_typ " +
+                         std::to_string(exercise.ueb_typ));
+    if (exercise.tonart != engine::Tonart::Klingend && z.skal_typ != 0)
+        throw UsageError(std::string(exercise.blatt) + " is for skal_typ 0 only");
+    z.skal_anz = base::at(core::katalog::kategorien, z.skal_typ).skal_max;
     if (z.ska_ausw == 1 && !given.contains("einzel_wahl"))
         throw UsageError("ska_ausw=1 needs einzel_wahl");
     if (z.ska_ausw == 1) checkScales(z);

@@ -22,7 +22,7 @@ C* control(const form::Form& form, const char* name, int index = form::Place::no
 
 }  // namespace
 
-void Pupil::begin(engine::Arbeitsblatt& sheet, int limit) {
+void Pupil::begin(worksheets::Arbeitsblatt& sheet, int limit) {
     sheet_ = &sheet;
     limit_ = limit;
     tasks_ = tries_ = rightFirst_ = 0;
@@ -37,8 +37,8 @@ void Pupil::begin(engine::Arbeitsblatt& sheet, int limit) {
     back_ = control<form::Panel>(sheet, "zurueck");
 }
 
-void Pupil::notice(engine::Arbeitsblatt::Ereignis turn) {
-    using enum engine::Arbeitsblatt::Ereignis;
+void Pupil::notice(worksheets::Arbeitsblatt::Ereignis turn) {
+    using enum worksheets::Arbeitsblatt::Ereignis;
     switch (turn) {
         case LaufBereit:
             hand_.in(pause, [this] { goOn(); });
@@ -51,8 +51,8 @@ void Pupil::notice(engine::Arbeitsblatt::Ereignis turn) {
             hand_.in(learner_.thinkingTime(), [this] { answer(); });
             break;
         case Geantwortet:
-            if (tries_++ == 0 && sheet_->letzteAntwort().richtig) ++rightFirst_;
-            if (sheet_->aufgZustand() == AufgZustand::Weiter)
+            if (tries_++ == 0 && sheet_->lauf().letzteAntwort().richtig) ++rightFirst_;
+            if (sheet_->lauf().aufgZustand() == AufgZustand::Weiter)
                 hand_.in(learner_.thinkingTime(), [this] { answer(); });
             break;
         case Geschlossen:
@@ -61,21 +61,23 @@ void Pupil::notice(engine::Arbeitsblatt::Ereignis turn) {
         case Uhr:
             break;
         case LaufEnde:
-            if (!runEnded()) hand_.cancel();
+            if (!sheet_->lauf().zuEnde()) hand_.cancel();
             break;
     }
 }
 
 void Pupil::answer() {
-    if (auto* sheet = dynamic_cast<staff::SchreibBlatt*>(sheet_))
-        write(*sheet);
+    if (sheet_->lauf().uebung().schriftlich())
+        write();
     else
         name();
 }
 
-void Pupil::write(staff::SchreibBlatt& sheet) {
+void Pupil::write() {
+    worksheets::Arbeitsblatt& sheet = *sheet_;
     auto* const done = control<form::Button>(sheet, "cmdOK");
-    writeScale(sheet, learner_.writes({z.skala_nr, tries_, {}}, chance_), chance_);
+    writeScale(sheet, learner_.writes({sheet_->lauf().aufgabe().skala_nr, tries_, {}}, chance_),
+               chance_);
     // What was handed in once and stays as it is must be heard again before it can be handed in.
     if (done->usable()) return done->click();
     if (sheet.find("wieder")) return control<form::Panel>(sheet, "wieder")->click();
@@ -91,7 +93,8 @@ void Pupil::name() {
         if (pictures_[at]->usable() || names_[at]->usable()) open[count++] = i;
     }
     if (count == 0) return;
-    const int choice = learner_.answer({z.skala_nr, tries_, {open.data(), count}}, chance_);
+    const int choice =
+        learner_.answer({sheet_->lauf().aufgabe().skala_nr, tries_, {open.data(), count}}, chance_);
     const auto at = static_cast<std::size_t>(choice);
     if (pictures_[at]->usable())
         pictures_[at]->click();
@@ -99,14 +102,9 @@ void Pupil::name() {
         names_[at]->click();
 }
 
-bool Pupil::runEnded() const {
-    return sheet_->aufgZustand() == AufgZustand::TrainingBeendet ||
-           sheet_->aufgZustand() == AufgZustand::PruefungBeendet;
-}
-
 void Pupil::goOn() {
-    leftAtLimit_ = !runEnded() && tasks_ >= limit_;
-    if (runEnded() || leftAtLimit_)
+    leftAtLimit_ = !sheet_->lauf().zuEnde() && tasks_ >= limit_;
+    if (sheet_->lauf().zuEnde() || leftAtLimit_)
         back_->click();
     else
         next_->click();

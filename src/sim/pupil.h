@@ -1,7 +1,7 @@
 #pragma once
-#include "engine/arbeitsblatt.h"
 #include "sim/alarm.h"
 #include "sim/learner.h"
+#include "worksheets/arbeitsblatt.h"
 
 #include <vector>
 
@@ -13,14 +13,13 @@ class Pupil {
     /// Milliseconds between the end of a task and the click that goes on.
     static constexpr int pause = 500;
 
-    Pupil(form::MessageLoop& loop, const Learner& learner, const core::Zustand& state,
-          std::int64_t seed)
-        : learner_(learner), z(state), chance_(seed), hand_(loop) {}
+    Pupil(form::MessageLoop& loop, const Learner& learner, std::int64_t seed)
+        : learner_(learner), chance_(seed), hand_(loop) {}
 
     /// Sits down before a worksheet. @param limit tasks after which it leaves.
-    void begin(engine::Arbeitsblatt& sheet, int limit);
+    void begin(worksheets::Arbeitsblatt& sheet, int limit);
     /// Hears of a turn of the run.
-    void notice(engine::Arbeitsblatt::Ereignis turn);
+    void notice(worksheets::Arbeitsblatt::Ereignis turn);
     /// Lays the pen down: nothing that it had in mind is done any more.
     void rest() { hand_.cancel(); }
     /// The result form has come: presses its button as soon as it can be seen.
@@ -37,15 +36,13 @@ class Pupil {
   private:
     void answer();
     void name();
-    void write(staff::SchreibBlatt& sheet);
+    void write();
     void goOn();
-    bool runEnded() const;
 
     const Learner& learner_;
-    const core::Zustand& z;
     base::Rnd chance_;
     Alarm hand_;
-    engine::Arbeitsblatt* sheet_ = nullptr;
+    worksheets::Arbeitsblatt* sheet_ = nullptr;
     std::vector<form::Picture*> pictures_;
     std::vector<form::Panel*> names_;
     form::Button* next_ = nullptr;

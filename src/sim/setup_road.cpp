@@ -1,5 +1,6 @@
 #include "sim/setup_road.h"
 
+#include "core/formnamen.h"
 #include "form/controls.h"
 #include "sim/usage_error.h"
 
@@ -51,12 +52,12 @@ form::Form& SetupRoad::shown(const std::string& name) {
 }
 
 form::Form& SetupRoad::setUpForm() {
-    const std::string name = worksheet_.theoriewahl == 0 ? "einstellung1" : "einstellung1b";
+    const std::string name = core::setUpForm(exercise_.theoriewahl);
     if (p.forms.loaded(name)) return shown(name);
     p.forms.load("grd_einst");
     form::Form& start = shown("grd_einst");
-    control<form::Option>(start, "Theoriewahl", worksheet_.theoriewahl).click();
-    control<form::Option>(start, "ueb_typ", worksheet_.ueb_typ).click();
+    control<form::Option>(start, "Theoriewahl", exercise_.theoriewahl).click();
+    control<form::Option>(start, "ueb_typ", exercise_.ueb_typ).click();
     control<form::Button>(start, "cmdOK").click();
     return shown(name);
 }

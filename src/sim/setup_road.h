@@ -9,8 +9,8 @@ namespace sim {
 /// The road from the start form over the set-up form to a worksheet, by its controls.
 class SetupRoad {
   public:
-    SetupRoad(drill::Drill& drill, const Worksheet& worksheet)
-        : p(drill.programm), worksheet_(worksheet) {}
+    SetupRoad(drill::Drill& drill, const engine::Uebung& exercise)
+        : p(drill.programm), exercise_(exercise) {}
 
     /// Makes the choices and opens the worksheet. The first time it begins at the start form, then
     /// at the set-up form to which the run before came back.
@@ -26,7 +26,7 @@ class SetupRoad {
     void chooseScales(form::Form& form, const core::Zustand& wanted);
 
     core::Programm& p;
-    const Worksheet& worksheet_;
+    const engine::Uebung& exercise_;
 };
 
 }  // namespace sim

@@ -8,10 +8,6 @@ namespace {
 
 constexpr std::int64_t day = 24LL * 60 * 60 * 1000;
 
-bool training(const core::Zustand& z) {
-    return z.uebungsmodus == core::modus::training || z.uebungsmodus == core::modus::fortsetzung;
-}
-
 /// One for each run, so that the tasks of a run do not hang on the length of the run before.
 std::function<std::int64_t()> seeds(std::int64_t seed) {
     return [chance = base::Rnd(seed)]() mutable {
@@ -24,8 +20,8 @@ std::function<std::int64_t()> seeds(std::int64_t seed) {
 
 Simulation::Simulation(const Options& options, std::ostream* trace)
     : options_(options),
-      worksheet_(worksheet(options.form)),
-      state_(exerciseState(worksheet_, options.assignments)),
+      exercise_(exercise(options.form)),
+      state_(exerciseState(exercise_, options.assignments)),
       words_(options.words.empty() ? Words() : Words(options.words)),
       dialogs_(options.keep),
       trace_(trace ? std::make_unique<Trace>(*trace, loop_) : nullptr),
@@ -33,8 +29,8 @@ Simulation::Simulation(const Options& options, std::ostream* trace)
       drill_({loop_, dialogs_, printer_, help_, seeds(options.seed), host_.factory(), &words_},
              {"", folder_.path().string(), "simulation"}, output_),
       // Its chance is its own, so that the same tasks can be given to different learners.
-      pupil_(loop_, options.learner, drill_.programm.zustand, ~options.seed),
-      road_(drill_, worksheet_) {
+      pupil_(loop_, options.learner, ~options.seed),
+      road_(drill_, exercise_) {
     if (!drill_.programm.forms.knows(options.form))
         throw UsageError("the drill has no form \"" + options.form + "\"");
     if (state_.uebungsmodus == core::modus::ausprobieren && options.tasks == 0)
@@ -66,7 +62,7 @@ void Simulation::openWorksheet() {
         z.einst_liste.push_back(value);
     }
     drill_.wertung.vorbereiten();
-    drill_.wertung.xml.SkalaXmlNeu();
+    drill_.xml.SkalaXmlNeu();
     drill_.programm.forms.show(options_.form);
 }
 
@@ -89,17 +85,17 @@ Outcome Simulation::run() {
     outcome_.milliseconds = loop_.elapsed() - begin;
     kept_ = options_.keep && outcome_.ending == Ending::Left && outcome_.bar;
     std::error_code ignored;
-    std::filesystem::remove(drill_.wertung.xml.datei(), ignored);
+    std::filesystem::remove(drill_.xml.datei(), ignored);
     return outcome_;
 }
 
 void Simulation::made(form::Form& form) {
-    if (auto* sheet = dynamic_cast<engine::Arbeitsblatt*>(&form)) {
+    if (auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form)) {
         sheet_ = sheet;
         if (trace_) trace_->follow(*sheet);
         pupil_.begin(*sheet, options_.tasks == 0 ? endless : options_.tasks);
-        turns_ =
-            sheet->ereignis.connect([this](engine::Arbeitsblatt::Ereignis turn) { notice(turn); });
+        turns_ = sheet->ereignis.connect(
+            [this](worksheets::Arbeitsblatt::Ereignis turn) { notice(turn); });
     }
     if (auto* result = dynamic_cast<results::Testergebnis*>(&form))
         pupil_.readResult(form, [this, result] {
@@ -108,19 +104,20 @@ void Simulation::made(form::Form& form) {
         });
 }
 
-void Simulation::notice(engine::Arbeitsblatt::Ereignis turn) {
+void Simulation::notice(worksheets::Arbeitsblatt::Ereignis turn) {
     lastTurn_ = loop_.elapsed();
     if (trace_) trace_->notice(turn, *sheet_, drill_.programm.zustand);
     pupil_.notice(turn);
-    if (turn == engine::Arbeitsblatt::Ereignis::LaufEnde) outcome_.ending = ending();
+    if (turn == worksheets::Arbeitsblatt::Ereignis::LaufEnde) outcome_.ending = ending();
 }
 
 Ending Simulation::ending() const {
-    switch (sheet_->aufgZustand()) {
+    switch (sheet_->lauf().aufgZustand()) {
         case engine::AufgZustand::TrainingBeendet:
-            return drill_.programm.zustand.matbox_zahl == 0 ? Ending::Goal : Ending::Failed;
+            return sheet_->lauf().zielErreicht() ? Ending::Goal : Ending::Failed;
         case engine::AufgZustand::PruefungBeendet:
             return Ending::Count;
+        case engine::AufgZustand::Offen:
         case engine::AufgZustand::Geschlossen:
         case engine::AufgZustand::Weiter:
             break;
@@ -132,15 +129,17 @@ Ending Simulation::ending() const {
 void Simulation::gone(form::Form& form) {
     if (&form != sheet_) return;
     const core::Zustand& z = drill_.programm.zustand;
+    const engine::Matbox& box = sheet_->lauf().matbox();
     outcome_.tasks = pupil_.tasks();
     outcome_.rightFirst = pupil_.rightFirst();
     outcome_.fault = fault();
     if (!outcome_.fault.empty()) outcome_.ending = Ending::Fault;
-    if (training(z) && z.mathaeufgk_box.rows() > z.potSkala) {
+    if (core::imTraining(z) && z.mathaeufgk_box.rows() > box.potSkala()) {
         double sum = 0;
-        for (int i = 1; i <= z.potSkala; ++i) sum += z.mathaeufgk_box(i, 1);
-        outcome_.meanWeight = sum / z.potSkala;
-        outcome_.bar = static_cast<form::Panel*>(form.find("matboxanz"))->floodPercent();
+        const int codes = box.potSkala();
+        for (int i = 1; i <= codes; ++i) sum += z.mathaeufgk_box(i, core::gewicht::spalteGewicht);
+        outcome_.meanWeight = sum / codes;
+        outcome_.bar = box.prozent();
     }
     if (trace_) trace_->end(outcome_);
     over_ = true;

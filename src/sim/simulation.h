@@ -28,7 +28,7 @@ class Simulation {
     /// One run from its worksheet's start to its end, or over the whole road.
     Outcome run();
     /// The record of the last run.
-    std::string record() const { return drill_.wertung.xml.text(); }
+    std::string record() const { return drill_.xml.text(); }
     /// What is simulated, between runs.
     drill::Drill& drill() { return drill_; }
 
@@ -56,12 +56,12 @@ class Simulation {
     void openWorksheet();
     void made(form::Form& form);
     void gone(form::Form& form);
-    void notice(engine::Arbeitsblatt::Ereignis turn);
+    void notice(worksheets::Arbeitsblatt::Ereignis turn);
     Ending ending() const;
     std::string fault() const;
 
     const Options& options_;
-    const Worksheet& worksheet_;
+    const engine::Uebung& exercise_;
     const core::Zustand state_;
     form::VirtualTime loop_;
     MemoryHost host_;
@@ -76,7 +76,7 @@ class Simulation {
     Pupil pupil_;
     SetupRoad road_;
 
-    const engine::Arbeitsblatt* sheet_ = nullptr;
+    const worksheets::Arbeitsblatt* sheet_ = nullptr;
     Outcome outcome_;
     bool over_ = false;
     bool kept_ = false;  ///< the run before was a training and was saved

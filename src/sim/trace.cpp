@@ -1,8 +1,6 @@
 #include "sim/trace.h"
 
-#include "determine/arbeitsblatt1b.h"
 #include "sim/exercise.h"
-#include "staff/schreib_blatt.h"
 
 #include <algorithm>
 
@@ -15,19 +13,11 @@ auto writeItems(JsonLine& line, const Array& array) {
     return [&](int i) { line.item(int(array[i])); };
 }
 
-bool training(const core::Zustand& z) {
-    return z.uebungsmodus == core::modus::training || z.uebungsmodus == core::modus::fortsetzung;
-}
-
-int bar(const engine::Arbeitsblatt& sheet) {
-    return static_cast<const form::Panel*>(sheet.find("matboxanz"))->floodPercent();
-}
-
 }  // namespace
 
-void Trace::notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsblatt& sheet,
+void Trace::notice(worksheets::Arbeitsblatt::Ereignis turn, const worksheets::Arbeitsblatt& sheet,
                    const core::Zustand& z) {
-    using enum engine::Arbeitsblatt::Ereignis;
+    using enum worksheets::Arbeitsblatt::Ereignis;
     if (turn == AufgabeGezogen) task(sheet, z);
     stream_ << drawn_;
     drawn_.clear();
@@ -35,11 +25,13 @@ void Trace::notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsbla
         case LaufBereit:
             return run(sheet, z);
         case Geantwortet:
-            return answer(sheet, z);
+            return answer(sheet.lauf());
         case Geschlossen:
-            return closed(sheet, z);
+            return closed(sheet.lauf(), z);
         case Uhr:
-            stream_ << JsonLine("clock").number("restZeit", int(sheet.restZeit())).finish();
+            stream_ << JsonLine("clock")
+                           .number("restZeit", int(sheet.lauf().stand().restZeit))
+                           .finish();
             return;
         case AufgabeGezogen:
         case AntwortOffen:
@@ -48,11 +40,8 @@ void Trace::notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsbla
     }
 }
 
-void Trace::follow(engine::Arbeitsblatt& sheet) {
-    staff_ = nullptr;
-    if (auto* writing = dynamic_cast<staff::SchreibBlatt*>(&sheet)) staff_ = &writing->notenzeile();
-    if (auto* naming = dynamic_cast<determine::Arbeitsblatt1b*>(&sheet))
-        staff_ = &naming->notenzeile();
+void Trace::follow(worksheets::Arbeitsblatt& sheet) {
+    staff_ = sheet.notenzeile();
     draws_ = {};
     if (staff_) draws_ = staff_->gemalt.connect([this](int column) { draw(column); });
 }
@@ -72,75 +61,73 @@ void Trace::draw(int column) {
 }
 
 /// What only worksheets with a staff have.
-void Trace::spelling(JsonLine& line, const engine::Arbeitsblatt& sheet) {
-    const engine::Aufgabe& a = sheet.aufgabe();
-    const auto* writing = dynamic_cast<const staff::SchreibBlatt*>(&sheet);
+void Trace::spelling(JsonLine& line, const worksheets::Arbeitsblatt& sheet) {
+    const engine::Aufgabe& a = sheet.lauf().aufgabe();
+    const bool writing = sheet.lauf().uebung().schriftlich();
     line.number(writing ? "quintLage" : "vzAnz", int(a.quintLage));
     line.list(writing ? "notenQz" : "tonPos", a.tonAnz, writeItems(line, a.notenQz));
     if (writing) {
-        const auto shown = [&](int k) {
-            const staff::Ton ton{a.noten[k], a.notenQz[k]};
-            return k == 0 || k == a.tonAnz - 1 ? ton : staff::ohneVorzeichen(ton);
-        };
-        line.list("zeigNoten", a.tonAnz, [&](int k) { line.item(int(shown(k).midi)); });
-        line.list("zeigQz", a.tonAnz, [&](int k) { line.item(int(shown(k).qz)); });
+        line.list("zeigNoten", a.tonAnz, [&](int k) { line.item(int(a.gezeigt(k).midi)); });
+        line.list("zeigQz", a.tonAnz, [&](int k) { line.item(int(a.gezeigt(k).qz)); });
     }
     line.number("SchlZ", int(staff_->SchlZ()));
 }
 
-void Trace::run(const engine::Arbeitsblatt& sheet, const core::Zustand& z) {
+void Trace::run(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z) {
     JsonLine line("run");
     line.text("form", sheet.name());
     for (const Field& field : fields()) line.number(field.name, int(z.*field.member));
     line.number("skal_anz", int(z.skal_anz));
     if (z.ska_ausw == 1) line.list("einzel_wahl", z.einzelAnz + 1, writeItems(line, z.einzel_wahl));
-    line.number("n", int(z.potSkala)).number("tonAnz", int(sheet.aufgabe().tonAnz));
-    line.number("pruefAufgaben", int(sheet.pruefAufgaben()));
-    line.number("restZeit", int(sheet.restZeit()));
+    line.number("n", int(sheet.lauf().matbox().potSkala()))
+        .number("tonAnz", int(sheet.lauf().aufgabe().tonAnz));
+    line.number("pruefAufgaben", int(sheet.lauf().stand().pruefAufgaben));
+    line.number("restZeit", int(sheet.lauf().stand().restZeit));
     stream_ << line.finish();
 }
 
-void Trace::task(const engine::Arbeitsblatt& sheet, const core::Zustand& z) {
-    const engine::Aufgabe& a = sheet.aufgabe();
+void Trace::task(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z) {
+    const engine::Aufgabe& a = sheet.lauf().aufgabe();
     JsonLine line("task");
     line.number("t", loop_.elapsed()).number("skal_typ", int(z.skal_typ));
-    line.number("skala_nr", int(z.skala_nr)).number("akt_richtung", int(z.akt_richtung));
+    line.number("skala_nr", int(a.skala_nr)).number("akt_richtung", int(a.akt_richtung));
     line.number("transp", int(a.transp)).number("oktLage", int(a.oktLage));
     line.list("noten", a.tonAnz, writeItems(line, a.noten));
     line.list("stimmWert", a.tonAnz, writeItems(line, a.stimmWert));
     line.list("ton_abfolg", a.tonAnz, writeItems(line, a.ton_abfolg));
     if (staff_) spelling(line, sheet);
-    const int rows = std::min(int(z.matboxanz), std::max(0, z.matbox.rows() - 1));
-    line.list("matbox", rows, [&](int i) { line.item(int(z.matbox(i + 1, 0))); });
-    line.number("matboxanz", int(z.matboxanz));
+    const engine::Matbox& box = sheet.lauf().matbox();
+    line.list("matbox", box.matboxanz(), [&](int i) { line.item(int(box.code(i + 1))); });
+    line.number("matboxanz", int(box.matboxanz()));
     stream_ << line.finish();
 }
 
-void Trace::answer(const engine::Arbeitsblatt& sheet, const core::Zustand& z) {
-    const auto& answer = sheet.letzteAntwort();
+void Trace::answer(const engine::Lauf& run) {
+    const engine::Antwort& answer = run.letzteAntwort();
     JsonLine line("answer");
     line.number("t", loop_.elapsed()).number("index", answer.index).truth("right", answer.richtig);
-    line.decimal("punkte", z.punkte).decimal("AntwDau", answer.dauer);
-    line.number("aufgZustand", static_cast<int>(sheet.aufgZustand()));
+    line.decimal("punkte", run.aufgabe().verlauf.punkte).decimal("AntwDau", answer.dauer);
+    line.number("aufgZustand", static_cast<int>(run.aufgZustand()));
     stream_ << line.finish();
 }
 
-void Trace::closed(const engine::Arbeitsblatt& sheet, const core::Zustand& z) {
+void Trace::closed(const engine::Lauf& run, const core::Zustand& z) {
     JsonLine line("closed");
-    const float w = sheet.letzteWertung();
+    const float w = run.stand().wertung;
     line.decimal("w", w);
-    if (z.uebungsmodus == core::modus::ausprobieren)
+    if (!core::gewertet(z))
         line.null("booked");
     else
         line.decimal("booked", w - 4 * z.bewertung_basis);
-    line.number("matbox_zahl", int(z.matbox_zahl)).number("FloodPercent", bar(sheet));
-    line.list("weights", training(z) ? int(z.potSkala) : 0, [&](int i) {
+    line.number("matbox_zahl", int(run.matbox().matbox_zahl()))
+        .number("FloodPercent", run.matbox().prozent());
+    line.list("weights", core::imTraining(z) ? int(run.matbox().potSkala()) : 0, [&](int i) {
         line.open();
-        line.item(int(z.mathaeufgk_box(i + 1, 0)));
-        line.item(int(z.mathaeufgk_box(i + 1, 1)));
+        line.item(int(z.mathaeufgk_box(i + 1, core::gewicht::spalteCode)));
+        line.item(int(z.mathaeufgk_box(i + 1, core::gewicht::spalteGewicht)));
         line.close();
     });
-    line.number("restAufgaben", int(sheet.restAufgaben()));
+    line.number("restAufgaben", int(run.stand().restAufgaben));
     stream_ << line.finish();
 }
 
@@ -158,7 +145,7 @@ void Trace::result(const results::Testergebnis& form) {
     const auto rows = form.zeilen();
     JsonLine line("result");
     line.list("rows", static_cast<int>(rows.size()), [&](int i) {
-        const auto& row = rows[static_cast<std::size_t>(i)];
+        const auto& row = base::at(rows, i);
         line.open();
         line.quoted(row.name);
         line.quoted(row.prozent);

@@ -1,11 +1,11 @@
 #pragma once
-#include "engine/arbeitsblatt.h"
 #include "form/virtual_time.h"
 #include "results/testergebnis.h"
 #include "sim/json_line.h"
 #include "sim/outcome.h"
 #include "sound/null_output.h"
 #include "staff/notenzeile.h"
+#include "worksheets/arbeitsblatt.h"
 
 #include <ostream>
 
@@ -17,9 +17,9 @@ class Trace {
     Trace(std::ostream& stream, const form::VirtualTime& loop) : stream_(stream), loop_(loop) {}
 
     /// A worksheet has come: what is put on its staff, when it has one, is told.
-    void follow(engine::Arbeitsblatt& sheet);
+    void follow(worksheets::Arbeitsblatt& sheet);
     /// A turn of a run.
-    void notice(engine::Arbeitsblatt::Ereignis turn, const engine::Arbeitsblatt& sheet,
+    void notice(worksheets::Arbeitsblatt::Ereignis turn, const worksheets::Arbeitsblatt& sheet,
                 const core::Zustand& z);
     /// @param time milliseconds from the queue's start, `atOnce` without a queue.
     void midi(const sound::MidiEvent& event, int time);
@@ -28,12 +28,12 @@ class Trace {
     void end(const Outcome& outcome);
 
   private:
-    void run(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
-    void task(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
-    void spelling(JsonLine& line, const engine::Arbeitsblatt& sheet);
+    void run(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z);
+    void task(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z);
+    void spelling(JsonLine& line, const worksheets::Arbeitsblatt& sheet);
     void draw(int column);
-    void answer(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
-    void closed(const engine::Arbeitsblatt& sheet, const core::Zustand& z);
+    void answer(const engine::Lauf& run);
+    void closed(const engine::Lauf& run, const core::Zustand& z);
 
     std::ostream& stream_;
     const form::VirtualTime& loop_;

@@ -1,5 +1,8 @@
 #include "sim/writer.h"
 
+#include "staff/noteneingabe.h"
+#include "staff/notenzeile.h"
+
 #include <array>
 #include <utility>
 
@@ -13,25 +16,24 @@ namespace quelle = staff::quelle;
 constexpr int first = 1, last = 6;  // columns that can be written in
 using Accidentals = std::array<int, last + 1>;
 
-Accidentals wanted(const staff::SchreibBlatt& sheet) {
+Accidentals wanted(const engine::Aufgabe& task) {
     Accidentals all{};
-    for (int c = first; c <= last; ++c)
-        all[static_cast<std::size_t>(c)] = staff::vorzeichen(sheet.erwartung().inSpalte(c).qz);
+    for (int c = first; c <= last; ++c) base::at(all, c) = core::vorzeichen(task.tonAn(c).qz);
     return all;
 }
 
 void misspell(Accidentals& accidentals, int rising) {
     for (int c = first; c <= last; ++c) {
-        int& here = accidentals[static_cast<std::size_t>(c)];
+        int& here = base::at(accidentals, c);
         const int below = c - rising;
         if (here >= 0 || below < first || below > last) continue;
         here = 0;
-        accidentals[static_cast<std::size_t>(below)] = 1;
+        base::at(accidentals, below) = 1;
     }
 }
 
-void drop(staff::SchreibBlatt& sheet, int column, int accidental) {
-    Notenzeile& staff = sheet.notenzeile();
+void drop(worksheets::Arbeitsblatt& sheet, int column, int accidental) {
+    Notenzeile& staff = *sheet.notenzeile();
     const staff::Spalte& note = staff.NotSelb(column);
     if (note.vorzeichen == accidental) return;
     const form::Control* field = sheet.find(quelle::feld, quelle::mit(accidental));
@@ -42,15 +44,15 @@ void drop(staff::SchreibBlatt& sheet, int column, int accidental) {
 
 }  // namespace
 
-void writeScale(staff::SchreibBlatt& sheet, Writing how, base::Rnd& chance) {
-    Accidentals accidentals = wanted(sheet);
-    if (how == Writing::Enharmonic) misspell(accidentals, sheet.erwartung().akt_richtung);
+void writeScale(worksheets::Arbeitsblatt& sheet, Writing how, base::Rnd& chance) {
+    const engine::Aufgabe& task = sheet.lauf().aufgabe();
+    Accidentals accidentals = wanted(task);
+    if (how == Writing::Enharmonic) misspell(accidentals, task.akt_richtung);
     if (how == Writing::Wrong) {
-        int& one = accidentals.at(static_cast<std::size_t>(first) +
-                                  static_cast<std::size_t>(int(chance.below(last))));
+        int& one = base::at(accidentals, first + chance.below(last));
         one = one > 0 ? one - 1 : one + 1;
     }
-    for (int c = first; c <= last; ++c) drop(sheet, c, accidentals[static_cast<std::size_t>(c)]);
+    for (int c = first; c <= last; ++c) drop(sheet, c, base::at(accidentals, c));
 }
 
 }  // namespace sim

@@ -1,6 +1,6 @@
 #pragma once
 #include "base/rnd.h"
-#include "staff/schreib_blatt.h"
+#include "worksheets/arbeitsblatt.h"
 
 namespace sim {
 
@@ -13,6 +13,6 @@ enum class Writing {
 
 /// Drags accidentals from the palette onto the staff, as a user would, until it stands as wanted.
 /// Does not hand it in.
-void writeScale(staff::SchreibBlatt& sheet, Writing how, base::Rnd& chance);
+void writeScale(worksheets::Arbeitsblatt& sheet, Writing how, base::Rnd& chance);
 
 }  // namespace sim

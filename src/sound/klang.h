@@ -5,9 +5,6 @@
 
 namespace sound {
 
-/// Channels that a task uses: 0 for equal temperament, 1..8 one per degree for the other tunings.
-constexpr int kanaele = 9;
-
 /// Names of the General MIDI programs 0..127.
 extern const std::array<const char*, 128> klangNamen;
 

@@ -53,6 +53,10 @@ void Midi::SetzeKlangfarbe(i16 KFarbe, i16 KChannel) {
     ausgabe().send({.status = programmWechsel + KChannel, .data1 = KFarbe, .data2 = 0});
 }
 
+void Midi::SetzeKlangfarben(const base::FixedArray<i16, 9>& patch) {
+    for (int kanal = 0; kanal < patch.size(); ++kanal) SetzeKlangfarbe(patch[kanal], kanal);
+}
+
 void Midi::MidiReset() {
     ausgabe().stop();
     ausgabe().close();

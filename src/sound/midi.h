@@ -33,6 +33,8 @@ class Midi {
     void MidiPitchBend(i16 kanal, i16 wert);
     /// Sets the instrument of a channel at once. @param KFarbe General MIDI program 0..127.
     void SetzeKlangfarbe(i16 KFarbe, i16 KChannel);
+    /// The same for the channels 0 up. @param patch a program for each.
+    void SetzeKlangfarben(const base::FixedArray<i16, 9>& patch);
     /// Silences all and empties the queue; instruments are lost.
     void MidiReset();
     /// Stops the queue and fades the volume out, letting events happen.

@@ -58,8 +58,8 @@ static_assert([] {
         bool gleich = true;
         jederTon(s.toene,
                  [&](int qz) { gleich = gleich && tonklasse(qz) == skala->stufe[i++] % 12; });
-        if (!gleich || i != static_cast<std::size_t>(
-                                katalog::kategorien[static_cast<std::size_t>(s.skal_typ)].tonAnz))
+        if (!gleich ||
+            i != static_cast<std::size_t>(base::at(katalog::kategorien, s.skal_typ).tonAnz))
             return false;
     }
     return true;
@@ -76,18 +76,16 @@ std::vector<Ton> rotierteToene(const Bild& bild) {
     const int grade = fuenfton ? 5 : 7;
     constexpr std::array fuenftonStaemme{0, 1, 2, 4, 5};
     const auto qzAn = [&](int grad) {
-        const int stamm = fuenfton ? fuenftonStaemme[static_cast<std::size_t>(grad)] : grad;
-        return aufStammton(stamm, muster[static_cast<std::size_t>(grad)]);
+        const int stamm = fuenfton ? base::at(fuenftonStaemme, grad) : grad;
+        return aufStammton(stamm, base::at(muster, grad));
     };
-    const int erster = muster[static_cast<std::size_t>(bild.skala_nr)];
+    const katalog::Leiter leiter = katalog::leiter(bild.skal_typ, bild.skala_nr);
+    const int erster = c4 + (bild.gleicheFinalis ? 0 : base::at(muster, bild.skala_nr));
     const int verschoben = bild.gleicheFinalis ? qzAn(bild.skala_nr) - QzMitte : 0;
     std::vector<Ton> toene;
-    for (int i = 0; i <= grade; ++i) {
-        const int grad = bild.skala_nr + i;
-        const int hoehe = muster[static_cast<std::size_t>(grad % grade)] + 12 * (grad / grade);
-        const int midi = c4 + hoehe - (bild.gleicheFinalis ? erster : 0);
-        toene.push_back({midi, qzAn(grad % grade) - verschoben});
-    }
+    for (int i = 0; i <= grade; ++i)
+        toene.push_back(
+            {erster + base::at(leiter, i), qzAn((bild.skala_nr + i) % grade) - verschoben});
     return toene;
 }
 
@@ -95,7 +93,7 @@ std::vector<Ton> rotierteToene(const Bild& bild) {
 
 bool bildVon(int nummer, Bild& bild) {
     for (int typ = 0; typ < katalog::kategorienAnz; ++typ) {
-        const auto& kategorie = katalog::kategorien[static_cast<std::size_t>(typ)];
+        const auto& kategorie = base::at(katalog::kategorien, typ);
         for (std::size_t spalte = 0; spalte < 2; ++spalte) {
             const int nr = nummer - kategorie.bild_basis[spalte];
             if (nr < 0 || nr > kategorie.skal_max) continue;
@@ -117,9 +115,9 @@ std::vector<Ton> bildToene(const Bild& bild) {
             });
     if (!toene.empty()) return toene;
     // Seven tones or four: one letter after the other.
-    const int anzahl = katalog::kategorien[static_cast<std::size_t>(bild.skal_typ)].tonAnz;
+    const int anzahl = base::at(katalog::kategorien, bild.skal_typ).tonAnz;
     for (int i = 0; i < anzahl; ++i) {
-        const int stufe = skala.stufe[static_cast<std::size_t>(i)];
+        const int stufe = base::at(skala.stufe, i);
         toene.push_back({c4 + stufe, aufStammton(i % 7, stufe - 12 * (i / 7))});
     }
     return toene;

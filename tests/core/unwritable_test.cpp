@@ -37,7 +37,7 @@ TEST_F(Unwritable, RecordAndSettingsAreToldWithTheirPathAndWhatToDo) {
                       reason = " (No such file or directory)";
     EXPECT_EQ(dialogs.messages[0].text,
               warning + "no settings in " + gone + "/exam.mvs: choose another folder" + reason);
-    const std::string file = drill.wertung.xml.datei();
+    const std::string file = drill.xml.datei();
     EXPECT_EQ(file.rfind(gone, 0), 0U);
     EXPECT_EQ(dialogs.messages[1].text,
               warning + "no record in " + file + ": free some space" + reason);

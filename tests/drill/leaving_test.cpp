@@ -101,7 +101,7 @@ TEST_F(Leaving, NoRunGoesOnWithTheChanceOfAnExam) {
         std::vector<std::pair<int, int>> drawn;
         for (int i = 0; i < 4; ++i) {
             run.next();
-            drawn.emplace_back(run.z.skala_nr, run.sheet().aufgabe().noten[0]);
+            drawn.emplace_back(run.task().skala_nr, run.task().noten[0]);
             run.answerRight();
         }
         run.leave();

@@ -1,7 +1,6 @@
 // The worksheets with a staff, from their set-up forms to the record: written and named scales.
 #include "setup/set_up.h"
 #include "sim/writer.h"
-#include "staff/schreib_blatt.h"
 
 #include <pugixml.hpp>
 
@@ -20,8 +19,11 @@ constexpr Practice::Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{
 struct Exercise : Practice {
     using Practice::Practice;
 
-    staff::SchreibBlatt& sheet() { return Practice::sheet<staff::SchreibBlatt>(); }
-    int wrongColumns() { return staff::falscheSpalten(sheet().notenzeile(), sheet().erwartung()); }
+    int wrongColumns() {
+        return engine::geschrieben(task(),
+                                   [this](int c) { return sheet().notenzeile()->NotSelb(c).ton(); })
+            .index;
+    }
     void handIn(Writing how) {
         do sim::writeScale(sheet(), how, chance);
         while (!on<form::Button>("cmdOK").enabled());  // the same once more cannot be handed in
@@ -59,13 +61,14 @@ TEST_F(Worksheets, FourWrongAnswersBringTheSolutionToSeeAndToHear) {
         EXPECT_EQ(run.turn(), AufgZustand::Geschlossen);
         EXPECT_EQ(run.wrongColumns(), 0);
         int red = 0;
-        for (int c = 1; c <= 6; ++c) red += run.sheet().notenzeile().NotSelb(c).farbe == 12 ? 1 : 0;
+        for (int c = 1; c <= 6; ++c)
+            red += run.sheet().notenzeile()->NotSelb(c).farbe == 12 ? 1 : 0;
         EXPECT_GE(red, 1);
         EXPECT_FALSE(run.on<form::Group>("pbNoten").enabled());
         EXPECT_FALSE(run.ready()) << "a closed task is not handed in";
 
         pugi::xml_document document;
-        document.load_string(run.drill.wertung.xml.text().c_str());
+        document.load_string(run.drill.xml.text().c_str());
         int lfd = 0;
         for (const auto node : document.select_nodes("//answer")) {
             EXPECT_EQ(node.node().attribute("lfd").as_int(), ++lfd);
@@ -78,8 +81,7 @@ TEST_F(Worksheets, FourWrongAnswersBringTheSolutionToSeeAndToHear) {
         ASSERT_EQ(solution.size(), 8U);
         EXPECT_EQ(own.size(), 8U);
         EXPECT_NE(own, solution);
-        for (int k = 0; const int note : solution)
-            EXPECT_EQ(note, run.sheet().aufgabe().noten[k++]);
+        for (int k = 0; const int note : solution) EXPECT_EQ(note, run.task().noten[k++]);
         EXPECT_TRUE(run.on<form::Button>("CmdNextAufg").usable());
     }
 }
@@ -90,7 +92,7 @@ TEST_F(Worksheets, SpellingCountsAsMuchAsSound) {
     int misspelled = 0;
     for (int task = 0; task < 30; ++task) {
         run.next();
-        EXPECT_EQ(run.shown("aufg"), run.drill.programm.katalog.skal_name[0][run.z.skala_nr]);
+        EXPECT_EQ(run.shown("aufg"), run.drill.programm.katalog.skal_name[0][run.task().skala_nr]);
         sim::writeScale(run.sheet(), Writing::Enharmonic, run.chance);
         const bool same = run.wrongColumns() == 0;
         run.on<form::Button>("cmdOK").click();
@@ -110,22 +112,22 @@ TEST_F(Worksheets, AnExamOfWrittenScalesKeepsTheBest) {
         Exercise run(host, way);
         run.mode(4);
         run.begin();
-        const int tasks = run.sheet().pruefAufgaben();
+        const int tasks = run.lauf().stand().pruefAufgaben;
         std::set<std::pair<int, int>> drawn;
         int signs = 0;
         const auto lookIntoBag = [&] {
-            for (int i = 1; i <= run.z.matboxanz; ++i) {
-                const int key = run.z.matbox(i, 1);
+            for (int i = 1; i <= run.lauf().matbox().matboxanz(); ++i) {
+                const int key = run.lauf().matbox().tonart(i);
                 signs += std::abs(key);
                 EXPECT_TRUE(key != 0 && std::abs(key) <= 6) << key;
-                EXPECT_TRUE(drawn.emplace(std::abs(int(run.z.matbox(i, 0))), key).second);
+                EXPECT_TRUE(drawn.emplace(std::abs(int(run.lauf().matbox().code(i))), key).second);
             }
         };
         lookIntoBag();
         for (int task = 0; task < tasks; ++task) {
             run.next();
             run.handIn(Writing::Right);
-            if (run.sheet().restAufgaben() == tasks / 2) lookIntoBag();
+            if (run.lauf().stand().restAufgaben == tasks / 2) lookIntoBag();
         }
         EXPECT_NEAR(signs / double(tasks), 3, 0.25) << "the second half evens out the first";
         EXPECT_EQ(run.turn(), AufgZustand::PruefungBeendet);

@@ -1,18 +1,15 @@
 #include "engine/matbox.h"
 
 #include "base/runtime_error.h"
-#include "engine/draw.h"
+#include "engine/bare_run.h"
 
 #include <gtest/gtest.h>
 
 namespace engine {
 namespace {
 
-void begin(Draw& draw, int uebungsmodus, int richtung) {
-    draw.z.uebungsmodus = uebungsmodus;
-    draw.z.richtung = richtung;
-    draw.wahl.LaufBeginn();
-}
+using core::modus::pruefung;
+using core::modus::training;
 
 TEST(Training, BeginsWithEveryCodeEquallyOften) {
     struct Row {
@@ -26,16 +23,16 @@ TEST(Training, BeginsWithEveryCodeEquallyOften) {
                            {"four", 0, {1, 2, 3, 5}, 7},
                            {"eight", 2, {1, 2, 3, 5, -1, -2, -3, -5}, 4}}) {
         SCOPED_TRACE(row.name);
-        Draw draw;
-        if (!row.chosen.empty()) draw.choose(row.chosen);
-        begin(draw, 1, row.richtung);
-        draw.box.TrainingBeginnen();
-        const auto codes = draw.codes();
+        BareRun bare;
+        if (!row.chosen.empty()) bare.choose(row.chosen);
+        bare.z.richtung = row.richtung;
+        const Matbox& box = bare.begin(training).matbox();
+        const auto codes = bare.codes();
         std::map<int, int> expected;
         for (const int code : codes) expected[code] = row.weight;
-        EXPECT_EQ(draw.pool(), expected);
-        EXPECT_EQ(draw.z.matbox_zahl, row.weight * static_cast<int>(codes.size()));
-        EXPECT_EQ(draw.box.obergrenze(), 2 * draw.z.matbox_zahl) << "the bar begins at half";
+        EXPECT_EQ(bare.pool(), expected);
+        EXPECT_EQ(box.matbox_zahl(), row.weight * static_cast<int>(codes.size()));
+        EXPECT_EQ(box.prozent(), 50) << "the bar begins at half";
     }
     EXPECT_THROW(Matbox::startgewicht(0), base::RuntimeError) << "no scales at all";
 }
@@ -46,39 +43,43 @@ TEST(MatNeu, TheRebuiltPoolHoldsEveryScale) {
     int rebuilt = 0, shifted = 0, left = 0;
     for (int seed = 0; seed < 600; ++seed) {
         SCOPED_TRACE(seed);
-        Draw draw(seed);
-        begin(draw, 1, 2);
-        draw.box.TrainingBeginnen();
-        const auto before = draw.pool();
-        const int n = draw.z.potSkala, highest = std::array{20, 7, 7, 7, 0}[std::size_t(seed % 5)];
+        BareRun bare(hearing, seed);
+        Matbox box = bare.begin(training).matbox();
+        const auto pool = [&] {
+            std::map<int, int> count;
+            for (int i = 1; i <= box.matboxanz(); ++i) ++count[box.code(i)];
+            return count;
+        };
+        const auto before = pool();
+        const int n = box.potSkala(), highest = std::array{20, 7, 7, 7, 0}[std::size_t(seed % 5)];
+        auto& weights = bare.z.mathaeufgk_box;
         std::map<int, int> weight;
         for (int i = 1; i <= n; ++i)
-            weight[draw.z.mathaeufgk_box(i, 0)] = draw.z.mathaeufgk_box(i, 1) =
-                draw.rnd.below(highest + 9) - 8;
-        draw.box.MatNeu();
+            weight[weights(i, 0)] = weights(i, 1) = bare.rnd.below(highest + 9) - 8;
+        box.MatNeu();
 
         int positive = 0, lowest = 99;
         for (const auto& [code, w] : weight) {
             positive += std::max(0, w);
             lowest = std::min(lowest, w);
         }
-        ASSERT_EQ(draw.z.matbox_zahl, positive);
+        ASSERT_EQ(box.matbox_zahl(), positive);
         for (int i = 1; i <= n; ++i) {
-            ASSERT_EQ(draw.z.mathaeufgk_box(i, 1), weight.at(draw.z.mathaeufgk_box(i, 0)));
+            ASSERT_EQ(weights(i, 1), weight.at(weights(i, 0)));
             if (i > 1) {
-                ASSERT_LE(draw.z.mathaeufgk_box(i, 1), draw.z.mathaeufgk_box(i - 1, 1));
+                ASSERT_LE(weights(i, 1), weights(i - 1, 1));
             }
         }
         if (positive >= n * 8 - 1 || positive == 0) {
-            ASSERT_EQ(draw.pool(), before);
+            ASSERT_EQ(pool(), before);
             ++left;
             continue;
         }
         const int shift = lowest < 1 ? 1 - lowest : 0;
-        const auto pool = draw.pool();
-        for (const auto& [code, w] : weight) ASSERT_EQ(pool.at(code), w + shift) << code;
-        ASSERT_EQ(pool.size(), weight.size()) << "no empty row";
-        ASSERT_EQ(draw.z.matbox(1, 0), draw.z.mathaeufgk_box(1, 0)) << "the heaviest in front";
+        const auto rebuiltPool = pool();
+        for (const auto& [code, w] : weight) ASSERT_EQ(rebuiltPool.at(code), w + shift) << code;
+        ASSERT_EQ(rebuiltPool.size(), weight.size()) << "no empty row";
+        ASSERT_EQ(box.code(1), weights(1, 0)) << "the heaviest in front";
         ++rebuilt;
         shifted += shift > 0 ? 1 : 0;
     }
@@ -87,21 +88,31 @@ TEST(MatNeu, TheRebuiltPoolHoldsEveryScale) {
     EXPECT_GT(left, 20);
 }
 
+/// A heavy scale among others of which nothing is left: the bar shows its weight alone.
 TEST(Training, OnlyNearTheGoalTheFrontOfThePoolIsPreferred) {
-    for (const auto& [flood, share] : {std::pair{100, 0.5}, {20, 0.5}, {19, 0.597}, {0, 0.905}}) {
-        Draw draw(flood);
-        begin(draw, 1, 2);
-        draw.box.TrainingBeginnen();
+    for (const auto& [weight, flood] : {std::pair{56, 50}, {22, 20}, {21, 19}, {1, 1}}) {
+        BareRun bare;
+        Matbox box = bare.begin(training).matbox();
+        for (int i = 1; i <= box.potSkala(); ++i)
+            bare.z.mathaeufgk_box(i, 1) = i == 1 ? weight : -50;
+        box.MatNeu();
+        ASSERT_EQ(box.prozent(), flood);
+        const int rows = box.matboxanz(), half = rows / 2;
         int front = 0;
         constexpr int draws = 20000;
         for (int n = 0; n < draws; ++n) {
-            const int row = draw.box.Ziehen(true, flood);
+            Aufgabe a;
+            const int row = box.Ziehen(true, a);
             ASSERT_GE(row, 1);
-            ASSERT_LE(row, draw.z.matboxanz);
-            front += row <= draw.z.matboxanz / 2 ? 1 : 0;
+            ASSERT_LE(row, rows);
+            front += row <= half ? 1 : 0;
         }
         // With x = 50 - flood, (2x - 19)% of the draws fall into the first (100 - x)% of the rows.
-        EXPECT_NEAR(static_cast<double>(front) / draws, share, 0.015) << flood;
+        const int x = 50 - flood;
+        const double evenly = static_cast<double>(half) / rows;
+        const double preferred = x > 30 ? (2 * x - 19) / 100.0 : 0;
+        EXPECT_NEAR(static_cast<double>(front) / draws,
+                    (1 - preferred) * evenly + preferred * evenly * 100 / (100 - x), 0.015);
     }
 }
 
@@ -110,29 +121,27 @@ TEST(Bag, EveryCodeComesInEachHalfOfAnExam) {
     for (int seed = 0; seed < 30; ++seed)
         for (const bool chosen : {false, true}) {
             SCOPED_TRACE(seed);
-            Draw draw(seed);
-            if (chosen) draw.choose({1, -1, 4, -6, 7});
-            begin(draw, 4, seed % 3);
-            const auto codes = draw.codes();
-            const int half = 2 * draw.z.potSkala + seed % 4;
-            draw.box.PruefungBeginnen(half);
+            BareRun bare(hearing, seed);
+            if (chosen) bare.choose({1, -1, 4, -6, 7});
+            bare.z.richtung = seed % 3;
+            Lauf& run = bare.begin(pruefung);
+            const auto codes = bare.codes();
+            const int half = run.stand().pruefAufgaben / 2;
             for (int which = 0; which < 2; ++which) {
-                const auto bag = draw.pool();
+                const auto bag = bare.pool();
                 EXPECT_EQ(bag.size(), codes.size());
                 for (const int code : codes) EXPECT_TRUE(bag.contains(code)) << code;
-                for (int i = 1; i <= draw.z.potSkala; ++i)
-                    EXPECT_EQ(std::ranges::count(codes, int(draw.z.matbox(i, 0))), 1);
                 std::map<int, int> drawn;
                 for (int n = 0; n < half; ++n) {
-                    draw.wahl.Ziehen(0);
-                    ++drawn[draw.code()];
+                    run.ziehen();
+                    ++drawn[bare.code()];
+                    const auto left = bare.pool();
+                    EXPECT_EQ(left.contains(0) ? left.at(0) : 0, n + 1);
+                    bare.answer(true);
                 }
-                EXPECT_EQ(drawn, bag);
-                EXPECT_EQ(draw.pool(), (std::map<int, int>{{0, half}})) << "all used up";
-                const int before = draw.code();
-                draw.box.MatFuellen(draw.z.richtung);
-                EXPECT_EQ(draw.code(), before) << "filling does not touch the task in hand";
+                EXPECT_EQ(drawn, bag) << "all used up";
             }
+            EXPECT_TRUE(run.zuEnde());
         }
 }
 

@@ -1,6 +1,6 @@
 #include "engine/melodik.h"
 
-#include "engine/draw.h"
+#include "engine/bare_run.h"
 
 #include <gtest/gtest.h>
 
@@ -13,15 +13,15 @@ TEST(MelodikFolge, EveryModeGivesSingableMelodiesOverAllDegrees) {
     std::map<int, int> starts, ends;
     for (const int typ : {0, 1, 2})
         for (int seed = 0; seed < 40; ++seed) {
-            Draw draw(seed);
+            BareRun draw(hearing, seed);
             draw.category(typ);
             draw.z.abfolge = 1;
-            draw.wahl.LaufBeginn();
+            draw.begin();
             for (int n = 0; n < 20; ++n) {
-                draw.wahl.Ziehen(50);
-                const auto& order = draw.a.ton_abfolg;
-                const auto& notes = draw.a.noten;
-                SCOPED_TRACE(testing::Message() << typ << ' ' << draw.z.skala_nr << ' ' << seed);
+                const Aufgabe& a = draw.run->ziehen();
+                const auto& order = a.ton_abfolg;
+                const auto& notes = a.noten;
+                SCOPED_TRACE(testing::Message() << typ << ' ' << a.skala_nr << ' ' << seed);
                 std::set<int> degrees;
                 for (int i = 0; i < 7; ++i) degrees.insert(order[i] % 7);
                 ASSERT_EQ(degrees.size(), 7U) << "each degree once, the octave as the final";
@@ -29,7 +29,7 @@ TEST(MelodikFolge, EveryModeGivesSingableMelodiesOverAllDegrees) {
                     ASSERT_FALSE(unsanglich(notes[order[i - 1]], notes[order[i]])) << i;
                 ++starts[order[0]];
                 ++ends[order[7]];
-                if (draw.z.skala_nr == 6) {
+                if (a.skala_nr == 6) {
                     ASSERT_NE(order[0], 4) << "no start on a diminished fifth";
                 }
                 if (order[0] == 4 && typ == 0) {
@@ -53,7 +53,7 @@ TEST(MelodikFolge, NotesThatAllowNoMelodyAreRefusedInsteadOfTriedForEver) {
     Aufgabe a;
     for (int i = 0; i < 9; ++i) a.noten[i] = i % 2 == 0 ? 60 : 66;
     base::Rnd rnd(1);
-    EXPECT_THROW(MelodikFolge(a, 0, rnd), base::RuntimeError);
+    EXPECT_THROW(MelodikFolge(a, rnd), base::RuntimeError);
 }
 
 }  // namespace

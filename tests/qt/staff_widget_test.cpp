@@ -99,7 +99,7 @@ TEST(StaffWidget, GrowsInTheMiddleAndTellsPlaces) {
 
 TEST(StaffWidget, ADragIsSeenOnTheVisibleSurfaceAloneAndDropsNowhereElse) {
     Sheet sheet(6, 0, 60);
-    staff::NotenZeigen(sheet.staff, sheet.task);
+    sheet.showTask();
     qt::StaffWidget widget(sheet.staff.PicBNot);
     widget.resize(900, 500);
     const form::Control& sharp = sheet.palette.NotP(3);

@@ -2,7 +2,7 @@
 #include "pictures.h"
 #include "qt/staff_widget.h"
 #include "sim/writer.h"
-#include "staff/schreib_blatt.h"
+#include "worksheets/arbeitsblatt.h"
 
 #include <QRegularExpression>
 
@@ -14,15 +14,15 @@ namespace {
 
 using engine::AufgZustand;
 
-staff::SchreibBlatt& writing(const Stage& stage) {
-    return dynamic_cast<staff::SchreibBlatt&>(stage.form(stage.sheet()));
+worksheets::Arbeitsblatt& writing(const Stage& stage) {
+    return dynamic_cast<worksheets::Arbeitsblatt&>(stage.form(stage.sheet()));
 }
 
 /// Hands in wrong versions until the solution stands there.
 void lose(Stage& stage) {
     auto& sheet = writing(stage);
     base::Rnd chance(1);
-    while (sheet.aufgZustand() != AufgZustand::Geschlossen) {
+    while (sheet.lauf().aufgZustand() != AufgZustand::Geschlossen) {
         sim::writeScale(sheet, sim::Writing::Wrong, chance);
         stage.on<form::Button>("cmdOK").click();
     }
@@ -69,7 +69,7 @@ TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
     stage.press(stage.sheet(), Qt::Key_Return);
     stage.wait(14000);
     for (int column = 1; column <= 6; ++column) {
-        const int accidental = staff::vorzeichen(sheet.erwartung().inSpalte(column).qz);
+        const int accidental = core::vorzeichen(sheet.lauf().aufgabe().tonAn(column).qz);
         if (column % 2 == 0 && accidental != 0) {
             press(static_cast<Qt::Key>(Qt::Key_3 + accidental));
             press(Qt::Key_Return);
@@ -79,14 +79,16 @@ TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
         }
         press(Qt::Key_Right);
     }
-    EXPECT_EQ(staff::falscheSpalten(sheet.notenzeile(), sheet.erwartung()), 0);
+    EXPECT_TRUE(engine::geschrieben(sheet.lauf().aufgabe(), [&](int c) {
+                    return sheet.notenzeile()->NotSelb(c).ton();
+                }).richtig);
     EXPECT_NE(staff.accessibleDescription().indexOf(QRegularExpression("flat|sharp")), -1);
     stage.press(stage.sheet(), Qt::Key_Return);
-    EXPECT_EQ(sheet.aufgZustand(), AufgZustand::Geschlossen);
+    EXPECT_EQ(sheet.lauf().aufgZustand(), AufgZustand::Geschlossen);
     EXPECT_EQ(stage.shown("zaehler", 0), "1");
-    const auto before = sheet.notenzeile().NotSelb(1).midi;
+    const auto before = sheet.notenzeile()->NotSelb(1).midi;
     press(Qt::Key_Up);
-    EXPECT_EQ(sheet.notenzeile().NotSelb(1).midi, before) << "a closed task stands";
+    EXPECT_EQ(sheet.notenzeile()->NotSelb(1).midi, before) << "a closed task stands";
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 TEST(Record, IsOneFileASecondOfTheLastRunWithItsSettingsMasked) {
     support::DrillFixture drill;
-    Skalaxml& xml = drill.wertung.xml;
+    Skalaxml& xml = drill.drill.xml;
     xml.SkalaXmlNeu();
     xml.LektionNeu("first");
     xml.SkalaXmlSichern({"0"});
@@ -32,10 +32,9 @@ TEST(Record, IsOneFileASecondOfTheLastRunWithItsSettingsMasked) {
     drill.programm.aufruf.tempOrdner.clear();
     xml.SkalaXmlNeu();
     EXPECT_EQ(xml.datei(), "RSX260102100101.xml") << "the current folder where no other is named";
-    drill.z.AntwDau = 9.9e7F;
     xml.LektionNeu("third");
     xml.AntwortNeu(xml.lektion(), 1);
-    xml.AntwortSchluss();
+    xml.AntwortSchluss(9.9e7F, 0);
     EXPECT_NE(xml.text().find("\"Dauer Antwort\" value=\"99000000\""), std::string::npos);
 }
 

@@ -1,6 +1,6 @@
 #include "results/wertung.h"
 
-#include "core/bench_programm.h"
+#include "base/rnd.h"
 
 #include <gtest/gtest.h>
 
@@ -28,9 +28,8 @@ float share(const core::Zustand& z, std::vector<float> booked, float best) {
 }
 
 TEST(Wertung, TheShareIsThatOfAnotherCalculation) {
-    core::BenchProgramm bench;
-    core::Zustand& z = bench.p.zustand;
-    Wertung wertung{bench.p};
+    core::Zustand z;
+    Wertung wertung{z};
     base::Rnd chance(5);
     for (int run = 0; run < 2000; ++run) {
         z.uebungsmodus = chance.below(5);

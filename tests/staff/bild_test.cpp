@@ -1,6 +1,6 @@
 #include "staff/bild.h"
 
-#include "engine/draw.h"
+#include "core/katalog.h"
 #include "staff/tonhoehe.h"
 #include "support/recording_surface.h"
 
@@ -39,7 +39,7 @@ TEST(Picture, ShowsTheScaleOfItsNumberAsItSoundsInProperSpelling) {
         ASSERT_EQ(int(anzahl), katalog::kategorien[static_cast<std::size_t>(typ)].tonAnz);
         std::multiset<int> letters;
         for (std::size_t i = 0; i < anzahl; ++i) {
-            EXPECT_EQ(toene[i].midi - toene[0].midi, engine::step(typ, nr, static_cast<int>(i)));
+            EXPECT_EQ(toene[i].midi - toene[0].midi, core::katalog::leiter(typ, nr)[i]);
             EXPECT_EQ(tonklasse(toene[i].qz), toene[i].midi % 12) << "the spelling sounds so";
             EXPECT_LE(std::abs(vorzeichen(toene[i].qz)), anzahl == 4 ? 2 : 1);
             if (i + 1 < anzahl) letters.insert(stammton(toene[i].qz));

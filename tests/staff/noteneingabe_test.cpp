@@ -14,7 +14,7 @@ constexpr int flat = 1, natural = 2, sharp = 3, doubleSharp = 4;
 /// F sharp major over the treble staff, its inner notes as letters.
 struct Task : Sheet {
     explicit Task(int key = 6, int mode = 0, int base = 60) : Sheet(key, mode, base) {
-        NotenZeigen(staff, task);
+        showTask();
         entry.abgelegt = [this] { ++taken; };
     }
     int taken = 0;

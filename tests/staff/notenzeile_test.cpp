@@ -76,13 +76,13 @@ TEST(Note, ShowsItsSignUnlessAnEarlierOneHolds) {
 
 TEST(Surface, ForgetsWhatIsWipedAndKeepsWhatIsSeen) {
     Sheet sheet(6, 0, 60);
-    NotenZeigen(sheet.staff, sheet.task);
+    sheet.showTask();
     Blatt& surface = sheet.staff.PicB(0);
     const std::string before = picture(surface);
     const int kept = surface.gemaltes();
     int told = 0;
     const auto watch = surface.changed.connect([&](form::Aspect) { ++told; });
-    for (int i = 0; i < 100; ++i) NotenZeigen(sheet.staff, sheet.task);
+    for (int i = 0; i < 100; ++i) sheet.showTask();
     EXPECT_EQ(picture(surface), before);
     EXPECT_LE(surface.gemaltes(), kept + 9);
     EXPECT_GT(told, 0);

@@ -32,7 +32,7 @@ DrillFixture::DrillFixture(std::int64_t seed)
 
 void DrillFixture::category(int skal_typ) {
     z.skal_typ = skal_typ;
-    z.skal_anz = core::katalog::kategorien.at(static_cast<std::size_t>(skal_typ)).skal_max;
+    z.skal_anz = base::at(core::katalog::kategorien, skal_typ).skal_max;
 }
 
 void DrillFixture::choose(std::initializer_list<int> codes) {
@@ -45,7 +45,7 @@ void DrillFixture::choose(std::initializer_list<int> codes) {
 void DrillFixture::run() {
     programm.forms.show("einstellung1");
     wertung.vorbereiten();
-    wertung.xml.SkalaXmlNeu();
+    drill.xml.SkalaXmlNeu();
     programm.forms.hide("einstellung1");
     programm.forms.show("arbeitsblatt1");
     wait(2);
@@ -71,8 +71,8 @@ void DrillFixture::dismissResults() {
     });
 }
 
-determine::Arbeitsblatt1* DrillFixture::sheet() const {
-    return static_cast<determine::Arbeitsblatt1*>(programm.forms.loaded("arbeitsblatt1"));
+worksheets::Arbeitsblatt* DrillFixture::sheet() const {
+    return static_cast<worksheets::Arbeitsblatt*>(programm.forms.loaded("arbeitsblatt1"));
 }
 
 void DrillFixture::later(int milliseconds, std::function<void()> what) {

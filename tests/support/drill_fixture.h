@@ -1,5 +1,4 @@
 #pragma once
-#include "determine/arbeitsblatt1.h"
 #include "results/testergebnis.h"
 #include "sim/alarm.h"
 #include "sim/temp_folder.h"
@@ -32,7 +31,7 @@ struct DrillFixture : WithHost, private sim::TempFolder, WholeDrill {
     void dismissResults();
 
     /// nullptr when it is not loaded.
-    determine::Arbeitsblatt1* sheet() const;
+    worksheets::Arbeitsblatt* sheet() const;
     form::Control& control(const std::string& name, int index = form::Place::noIndex) const {
         return on<form::Control>(name, index);
     }

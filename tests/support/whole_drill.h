@@ -1,12 +1,12 @@
 #pragma once
 #include "drill/drill.h"
-#include "engine/arbeitsblatt.h"
 #include "form/controls.h"
 #include "form/virtual_time.h"
 #include "support/fake_host.h"
 #include "support/fake_ports.h"
 #include "support/fake_words.h"
 #include "support/recording_midi.h"
+#include "worksheets/arbeitsblatt.h"
 
 #include <functional>
 #include <map>
@@ -128,25 +128,26 @@ struct WholeDrill {
             on<form::Panel>("tonart", scale).click();
         return true;
     }
-    void answerRight() { answer(z.skala_nr); }
+    void answerRight() { answer(task().skala_nr); }
     /// A wrong answer that is still open. @return false when none is.
     bool answerWrong() {
         for (int i = 0; i <= z.skal_anz; ++i)
-            if (i != z.skala_nr && answer(i)) return true;
+            if (i != task().skala_nr && answer(i)) return true;
         return false;
     }
     bool running() const { return loaded(sheet_); }
-    template <class Sheet = engine::Arbeitsblatt>
-    Sheet& sheet() {
-        return dynamic_cast<Sheet&>(form(sheet_));
+    worksheets::Arbeitsblatt& sheet() const {
+        return dynamic_cast<worksheets::Arbeitsblatt&>(form(sheet_));
     }
-    engine::AufgZustand turn() { return sheet().aufgZustand(); }
+    const engine::Lauf& lauf() const { return sheet().lauf(); }
+    const engine::Aufgabe& task() const { return lauf().aufgabe(); }
+    engine::AufgZustand turn() const { return lauf().aufgZustand(); }
     std::string shown(const std::string& label, int index = form::Place::noIndex) {
         return on<form::Label>(label, index).caption();
     }
     bool ready() {
         return sheet_.starts_with("arbeitsblatt4") ? on<form::Button>("cmdOK").usable()
-                                                   : open(z.skala_nr);
+                                                   : open(task().skala_nr);
     }
     /// Goes to the next task, unless it comes by itself, and waits until it is ready.
     void next() {
@@ -167,7 +168,8 @@ struct WholeDrill {
     }
     std::map<int, int> weights() const {
         std::map<int, int> all;
-        for (int i = 1; i <= z.potSkala; ++i) all[z.mathaeufgk_box(i, 0)] = z.mathaeufgk_box(i, 1);
+        for (int i = 1; i < z.mathaeufgk_box.rows(); ++i)
+            all[z.mathaeufgk_box(i, 0)] = z.mathaeufgk_box(i, 1);
         return all;
     }
 

@@ -1,0 +1,96 @@
+#pragma once
+#include "core/katalog.h"
+#include "engine/lauf.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace engine {
+
+namespace katalog = core::katalog;
+
+inline constexpr const Uebung& hearing = uebungen[0];
+inline constexpr const Uebung& reading = uebungen[1];
+inline constexpr const Uebung& writing = uebungen[2];
+
+/// A run without form, sound or time: church modes in both directions, one octave.
+struct BareRun {
+    explicit BareRun(const Uebung& exercise = hearing, std::int64_t seed = 1)
+        : exercise_(exercise), seed_(seed) {
+        z.theoriewahl = exercise.theoriewahl;
+        z.ueb_typ = exercise.ueb_typ;
+        wertung.vorbereiten();
+        category(0);
+    }
+    BareRun(const BareRun&) = delete;
+    BareRun& operator=(const BareRun&) = delete;
+
+    void category(int skal_typ) {
+        z.skal_typ = skal_typ;
+        z.skal_anz = base::at(katalog::kategorien, skal_typ).skal_max;
+    }
+    void choose(const std::vector<int>& codes) {
+        z.ska_ausw = 1;
+        z.einzelAnz = codes.size() - 1;
+        for (int i = 0; const int code : codes) z.einzel_wahl[i++] = code;
+    }
+    Lauf& begin(int uebungsmodus = core::modus::ausprobieren) {
+        z.uebungsmodus = uebungsmodus;
+        run.emplace(z, rnd, wertung, exercise_);
+        run->beginnen({.vorfuehrung = 4000}, [this] { return seed_; });
+        return *run;
+    }
+    /// Answers the task in hand. @return what the answer has led to.
+    AufgZustand answer(bool right, float seconds = 0) {
+        run->antwortOffen(0);
+        const int asked = run->aufgabe().skala_nr;
+        const int named = right ? asked : (asked + 1) % (int(z.skal_anz) + 1);
+        return run->werten({named, right}, seconds);
+    }
+    /// A task to its end, at once right or wrong until it is lost.
+    AufgZustand task(bool right) {
+        run->ziehen();
+        AufgZustand state = answer(right);
+        while (state == AufgZustand::Weiter) state = answer(false);
+        return state;
+    }
+    int code() const { return run->aufgabe().code(); }
+    /// How often each code stands in the pool; 0 for rows that are used up.
+    std::map<int, int> pool() const {
+        std::map<int, int> count;
+        for (int i = 1; i <= run->matbox().matboxanz(); ++i) ++count[run->matbox().code(i)];
+        return count;
+    }
+    std::map<int, int> weights() const {
+        std::map<int, int> all;
+        for (int i = 1; i < z.mathaeufgk_box.rows(); ++i)
+            all[z.mathaeufgk_box(i, 0)] = z.mathaeufgk_box(i, 1);
+        return all;
+    }
+    /// Codes that the run may draw.
+    std::vector<int> codes() const {
+        std::vector<int> all;
+        if (z.ska_ausw != 0)
+            for (int i = 0; i <= z.einzelAnz; ++i) all.push_back(z.einzel_wahl[i]);
+        else
+            for (int nr = 1; nr <= z.skal_anz + 1; ++nr) {
+                if (z.richtung != 1) all.push_back(nr);
+                if (z.richtung != 0) all.push_back(-nr);
+            }
+        std::ranges::sort(all);
+        return all;
+    }
+
+    core::Zustand z;
+    base::Rnd rnd;
+    results::Wertung wertung{z};
+    std::optional<Lauf> run;
+
+  private:
+    const Uebung& exercise_;
+    std::int64_t seed_;
+};
+
+}  // namespace engine

@@ -1,0 +1,204 @@
+// The laws of a run, without form, sound or time.
+#include "engine/lauf.h"
+
+#include "engine/bare_run.h"
+#include "engine/fortschritt.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace engine {
+namespace {
+
+using core::modus::pruefung;
+using core::modus::training;
+
+TEST(Draw, NeverTheSameScaleOnTheSameFirstNoteTwiceRunning) {
+    for (const int mode : {0, 1, 3, 4})
+        for (int final = 0; final <= 2; ++final)
+            for (const int octaves : {0, 2}) {
+                SCOPED_TRACE(testing::Message() << mode << ' ' << final << ' ' << octaves);
+                BareRun bare(hearing, mode * 10 + final);
+                bare.z.final = final;
+                bare.z.oktAnz = octaves;
+                bare.choose({1, -1, 2});
+                Lauf& run = bare.begin(mode);
+                for (int n = 0; n < 120; ++n) {
+                    const int scale = run.aufgabe().skala_nr, first = run.aufgabe().noten[0];
+                    run.ziehen();
+                    ASSERT_FALSE(run.aufgabe().skala_nr == scale &&
+                                 run.aufgabe().noten[0] == first);
+                    ASSERT_EQ(std::ranges::count(bare.codes(), bare.code()), 1);
+                    if (bare.answer(true) != AufgZustand::Geschlossen) bare.begin(mode);
+                }
+            }
+}
+
+TEST(Draw, ARunThatCouldOnlyRepeatItselfIsRefused) {
+    struct Row {
+        const char* name;
+        std::vector<int> codes;
+        int final, octaves;
+        bool refused;
+    };
+    for (const Row& row : {Row{"one scale, one key, one octave", {3}, 0, 0, true},
+                           {"one final", {3}, 1, 0, true},
+                           {"both directions of one scale", {3, -3}, 0, 0, true},
+                           {"the same one twice", {3, 3}, 1, 0, true},
+                           {"keys change", {3}, 2, 0, false},
+                           {"octaves change", {3}, 0, 1, false},
+                           {"two scales", {3, 4}, 1, 0, false}}) {
+        SCOPED_TRACE(row.name);
+        BareRun bare;
+        bare.choose(row.codes);
+        bare.z.final = row.final;
+        bare.z.oktAnz = row.octaves;
+        if (row.refused) {
+            EXPECT_THROW(bare.begin(), base::RuntimeError);
+            continue;
+        }
+        bare.begin();
+        for (int n = 0; n < 50; ++n) bare.run->ziehen();
+    }
+}
+
+TEST(TryingOut, DrawsEvenlyAndACodeEnteredTwiceDoubly) {
+    BareRun bare;
+    bare.choose({1, -2, -2});
+    bare.z.oktAnz = 3;
+    bare.begin();
+    std::map<int, int> drawn;
+    for (int n = 0; n < 6000; ++n) {
+        bare.run->ziehen();
+        ++drawn[bare.code()];
+    }
+    EXPECT_NEAR(drawn[-2], 4000, 150);
+    EXPECT_NEAR(drawn[1], 2000, 150);
+}
+
+TEST(Penalty, GrowsByATenthForEveryTwoTenthsOver) {
+    for (const auto& [took, penalty] :
+         {std::pair{20.0F, 0.0F}, {20.5F, 1.0F}, {21.9F, 1.0F}, {22.0F, 1.1F}, {40.0F, 2.0F}})
+        EXPECT_FLOAT_EQ(ZeitStrafeBerechnen(took, 20), penalty) << took;
+}
+
+TEST(Task, BooksAndWeighsWhatTheLearnerDid) {
+    struct Row {
+        const char* name;
+        int wrong, repeats;
+        float seconds, booked;
+        int weight;
+    };
+    for (const Row& row : {Row{"right at once", 0, 0, 1, -16, 0},
+                           {"right, one repetition", 0, 1, 1, -14, 1},
+                           {"right, slow and repeated", 0, 1, 2.2F, -11.8F, 2},
+                           {"right, half a point left", 0, 0, 7, -9, 4},
+                           {"right, more than used up", 0, 9, 1, -8, 4},
+                           {"one wrong", 1, 0, 1, -6, 6},
+                           {"two wrong, one repetition", 2, 1, 1, -3, 9},
+                           {"lost", 4, 0, 1, 0, 12},
+                           {"lost, many repetitions", 4, 9, 1, 0, 12}}) {
+        for (const int mode : {training, pruefung}) {
+            SCOPED_TRACE(testing::Message() << row.name << " in mode " << mode);
+            BareRun bare;
+            Lauf& run = bare.begin(mode);
+            const int code = (run.ziehen(), bare.code());
+            run.antwortOffen(0);
+            for (int n = 0; n < row.repeats; ++n) run.wiederholt(0);
+            for (int n = 0; n < row.wrong; ++n) bare.answer(false);
+            if (row.wrong < 4) bare.answer(true, row.seconds);
+            EXPECT_EQ(run.stand().zaehler.falsch, row.wrong);
+            EXPECT_EQ(run.stand().zaehler.richtig, row.wrong < 4 ? 1 : 0);
+            EXPECT_EQ(run.stand().zaehler.wiederholungen, row.repeats);
+            const int slot = core::skalaSlot(code, 6);
+            if (mode == pruefung) {
+                EXPECT_FLOAT_EQ(bare.wertung.auswertung.read(slot, 1), row.booked);
+                continue;
+            }
+            EXPECT_EQ(bare.wertung.auswertung.read(slot, 0), 1);
+            EXPECT_FLOAT_EQ(bare.wertung.auswertung.read(slot, 1), row.booked);
+            EXPECT_EQ(bare.weights().at(code), row.weight);
+            EXPECT_EQ(bare.weights().at(-code), 4);
+        }
+    }
+}
+
+/// Everything that a learner of any kind can do, in every mode, leads to its end and replays
+/// itself.
+TEST(Run, IsReplayedByItsSeedAndItsAnswers) {
+    for (const Uebung& exercise : uebungen)
+        for (const int mode : {training, pruefung})
+            for (const int percent : {100, 80, 0}) {
+                SCOPED_TRACE(testing::Message() << exercise.blatt << mode << percent);
+                std::vector<std::vector<int>> told;
+                for (int again = 0; again < 2; ++again) {
+                    BareRun bare(exercise, percent);
+                    Lauf& run = bare.begin(mode);
+                    base::Rnd pupil(percent);
+                    std::vector<int> all;
+                    while (!run.zuEnde() && all.size() < 4000) {
+                        bare.task(pupil.below(100) < percent);
+                        all.insert(all.end(), {bare.code(), int(run.aufgabe().noten[0]),
+                                               run.matbox().prozent(), run.stand().restAufgaben});
+                    }
+                    told.push_back(all);
+                    if (mode == pruefung) {
+                        EXPECT_EQ(run.aufgZustand(), AufgZustand::PruefungBeendet);
+                        EXPECT_EQ(all.size(), 4U * run.stand().pruefAufgaben);
+                    } else if (percent != 80) {
+                        EXPECT_EQ(run.aufgZustand(), AufgZustand::TrainingBeendet);
+                        EXPECT_EQ(run.zielErreicht(), percent == 100);
+                        EXPECT_EQ(run.matbox().prozent(), 100 - percent);
+                    }
+                }
+                EXPECT_EQ(told[0], told[1]);
+            }
+}
+
+TEST(Run, IsTakenUpWhereItWasLeft) {
+    for (const Uebung& exercise : uebungen) {
+        SCOPED_TRACE(exercise.blatt);
+        BareRun left(exercise), again(exercise, 2);
+        left.begin(training);
+        for (int n = 0; n < 9; ++n) left.task(n % 3 != 0);
+        const core::Value saved = left.run->sichern();
+        Lauf& run = again.begin(core::modus::fortsetzung);
+        run.aufnehmen(saved);
+        EXPECT_EQ(run.sichern(), saved.items());
+        EXPECT_EQ(again.weights(), left.weights());
+        EXPECT_EQ(run.matbox().prozent(), left.run->matbox().prozent());
+        core::Value::Array broken = saved.items();
+        broken[1] = "99";
+        EXPECT_THROW(run.aufnehmen(broken), base::RuntimeError);
+        EXPECT_EQ(run.sichern(), saved.items()) << "what does not fit changes nothing";
+    }
+}
+
+TEST(Judgement, ComparesTheInnerNotesInSoundAndSpellingInTheOrderOfTheTask) {
+    for (const int melody : {0, 1})
+        for (int seed = 0; seed < 20; ++seed) {
+            BareRun bare(writing, seed);
+            bare.z.abfolge = melody;
+            const Aufgabe& a = bare.begin().ziehen();
+            const auto written = [&](int place, core::Ton instead) {
+                return geschrieben(a, [&](int c) { return c == place ? instead : a.tonAn(c); });
+            };
+            EXPECT_TRUE(written(0, {1, 1}).richtig && written(7, {1, 1}).richtig);
+            const core::Ton third = a.tonAn(3);
+            EXPECT_EQ(written(3, {third.midi + 12, third.qz}).index, 1) << "another octave";
+            EXPECT_EQ(written(3, {third.midi, third.qz + 12}).index, 1) << "another letter";
+            int missing = 0;
+            for (int c = 1; c < 7; ++c) {
+                missing += core::vorzeichen(a.tonAn(c).qz) != 0 ? 1 : 0;
+                EXPECT_EQ(core::vorzeichen(a.gezeigt(c).qz), 0);
+                EXPECT_EQ(core::stammton(a.gezeigt(c).qz), core::stammton(a.ton(c).qz));
+            }
+            EXPECT_EQ(a.gezeigt(0), a.ton(0));
+            const int first = Tonartwahl::stufenQz(0, a.skala_nr);
+            EXPECT_EQ(vorzeichenAnzahl(a.quintLage, first), std::max(missing, 1));
+        }
+}
+
+}  // namespace
+}  // namespace engine
