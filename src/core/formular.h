@@ -18,7 +18,6 @@ class Formular : public form::Form {
     /// F1 opens the help page of the form.
     bool key(form::Key key) override;
 
-  protected:
     /// A caption and the number of its word.
     struct Beschriftung {
         form::Control& control;
@@ -27,6 +26,8 @@ class Formular : public form::Form {
     void beschriften(std::initializer_list<Beschriftung> beschriftungen);
     /// The same for what a screen reader says.
     void benennen(std::initializer_list<Beschriftung> namen);
+
+  protected:
     const std::string& Wort(int id) { return p.Wort(id); }
     void HilfeZeigen();
 

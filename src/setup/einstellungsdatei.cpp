@@ -4,7 +4,7 @@
 #include "base/whole_file.h"
 #include "core/zustand.h"
 #include "form/controls.h"
-#include "setup/regeln.h"
+#include "setup/groups.h"
 #include "setup/wohlgeformt.h"
 
 #include <pugixml.hpp>

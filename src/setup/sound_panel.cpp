@@ -1,0 +1,138 @@
+#include "setup/sound_panel.h"
+
+#include "base/rounding.h"
+#include "core/katalog.h"
+#include "sound/klang.h"
+
+#include <array>
+
+namespace setup {
+
+namespace {
+
+namespace katalog = core::katalog;
+
+/// Tuning correction of a note in bend steps: of the white key's degree in Pythagorean tuning, of
+/// the pitch class in meantone.
+int verstimmung(int stimmung, int note) {
+    const int klasse = note % 12;
+    if (stimmung == 2) return katalog::mittelTab[static_cast<std::size_t>(klasse)];
+    for (std::size_t grad = 0; grad < katalog::diatonisch.size(); ++grad)
+        if (katalog::diatonisch[grad] == klasse) return katalog::stufenStimm(0)[grad];
+    return 0;
+}
+
+}  // namespace
+
+SoundPanel::SoundPanel(core::Formular& form, core::Programm& programm, sound::Midi& midi,
+                       sound::MidiOutput& ausgabe, const Groups& groups, Zweig zweig,
+                       const bool& abbruch)
+    : form_(form),
+      p(programm),
+      z(programm.zustand),
+      midi_(midi),
+      MIDI(ausgabe),
+      abbruch_(abbruch),
+      ComboPatch(form, {"ComboPatch", &groups(group::sound)}),
+      lb15(form, "lb15", klingt(zweig) ? 2 : 4, &groups(group::sound)),
+      temp_Combo(form, {"temp_Combo", &groups(group::sound)}),
+      pic15(form, {"pic15", &groups(group::sound)}),
+      klang_contr(form, {"klang_contr", &groups(group::check)}),
+      lb14(form, "lb14", wennKlang(zweig, {0, 1}), &groups(group::check)),
+      HSliderVolume(form, {"HSliderVolume", &groups(group::check)}, 0, 127),
+      tonHinweis(form, {"tonHinweis"}) {
+    openTempo();
+    form.benennen({{ComboPatch, 365}, {temp_Combo, 547}, {HSliderVolume, 372}});
+    if (klingt(zweig)) {
+        form.beschriften({{klang_contr, 366}, {lb14(0), 372}, {lb15(0), 547}});
+        lb15(1).caption = "=MM";
+    }
+    temp_Combo.onSelect = {"temp_Combo_click.", [this] { z.tempoIdx = temp_Combo.listIndex(); }};
+    ComboPatch.onSelect = {"ComboPatch_click.", [this] { ComboPatch_click(); }};
+    HSliderVolume.onChange = {"HSliderVolume_change.", [this] { HSliderVolume_change(); }};
+    klang_contr.onClick = {"klang_contr_click.", [this] { klang_contr_click(); }};
+    formularFort_ =
+        form.forms().gone.connect([this](form::Form&) { KlangKontrolleAbschliessen(); });
+}
+
+void SoundPanel::KlangEinrichten() {
+    midi_.MidiGeraete(MIDI);
+    midi_.MidiInit(MIDI);
+    MIDI.queueEmpty = [this] { form_.guard("QueueEmpty.", [this] { QueueEmpty(); }); };
+    MIDI.problemChanged = [this] { TonHinweisZeigen(); };
+    sound::Klangliste(ComboPatch);
+    ComboPatch.setListIndex(0);
+    for (const char* tempo : katalog::tempo_name) temp_Combo.add(tempo);
+    temp_Combo.setListIndex(1);
+    HSliderVolume.setValue(100);
+    TonHinweisZeigen();
+}
+
+void SoundPanel::disconnect() const {
+    MIDI.queueEmpty = nullptr;
+    MIDI.problemChanged = nullptr;
+}
+
+void SoundPanel::openTempo() {
+    temp_Combo.enabled = true;
+    temp_Combo.backColour = farben::tempoOffen;
+    temp_Combo.foreColour = base::colours::white;
+}
+
+void SoundPanel::ComboPatch_click() {
+    for (int kanal = 0; kanal < sound::kanaele; ++kanal) {
+        midi_.SetzeKlangfarbe(ComboPatch.listIndex(), kanal);
+        z.patch[kanal] = ComboPatch.listIndex();
+    }
+}
+
+void SoundPanel::HSliderVolume_change() {
+    midi_.setLautstaerke(HSliderVolume.value());
+    lb14(1).caption = " " + std::to_string(HSliderVolume.value());
+}
+
+void SoundPanel::klang_contr_click() {
+    constexpr int noten = 6;
+    const int d = base::rounded((z.FrquMaxAkt - z.FrquMinAkt) / 5.0);
+    verklungen_ = false;
+    klang_contr.enabled = false;
+    onCheck(true);
+    midi_.MidiReset();
+    TonHinweisZeigen();
+    for (int kanal = 0; kanal < sound::kanaele; ++kanal)
+        midi_.SetzeKlangfarbe(z.patch[kanal], kanal);
+    const int dauer = z.tempo_dauer[z.tempoIdx];
+    for (int i = 0; i < noten; ++i) {
+        const base::i16 note = z.FrquMinAkt + i * (d - 1);
+        const int kanal = z.stimmung == 0 ? 0 : i + 1;
+        if (z.stimmung != 0)
+            midi_.MidiPitchBend(kanal, sound::Midi::bendMitte + verstimmung(z.stimmung, note));
+        midi_.MidiNote(note, i * dauer, base::rounded(dauer * 0.9), kanal, i);
+    }
+    midi_.Delay(100, abbruch_);
+    if (!abbruch_) midi_.ausgabe().start();
+}
+
+void SoundPanel::QueueEmpty() {
+    checkEnded();
+    KlangKontrolleAbschliessen();
+}
+
+/// While another form is on top it waits: what is enabled behind that form's back could be pressed.
+void SoundPanel::KlangKontrolleAbschliessen() {
+    if (!verklungen_ || abbruch_) return;
+    const form::Form* vorn = form_.forms().last();
+    if (!vorn || vorn->caption() != form_.caption()) return;
+    verklungen_ = false;
+    klang_contr.enabled = true;
+    onCheck(false);
+}
+
+void SoundPanel::TonHinweisZeigen() {
+    constexpr std::array hinweise{0, 810, 811, 812, 890};  // words
+    const int wort = hinweise.at(static_cast<std::size_t>(MIDI.problem()));
+    tonHinweis.caption = wort == 0 ? std::string() : p.Wort(wort);
+    tonHinweis.visible = wort != 0;
+}
+
+}  // namespace setup
