@@ -38,9 +38,10 @@ inline constexpr std::array<Kategorie, kategorienAnz> kategorien{{
     {553, 9, 4, {70, 70}, false},  // tetrachords
 }};
 
-constexpr bool rotiert(int skal_typ) {
-    return kategorien[static_cast<std::size_t>(skal_typ)].rotiert;
+constexpr const Kategorie& kategorie(int skal_typ) {
+    return kategorien.at(static_cast<std::size_t>(skal_typ));
 }
+constexpr bool rotiert(int skal_typ) { return kategorie(skal_typ).rotiert; }
 
 inline constexpr std::array diatonisch{0, 2, 4, 5, 7, 9, 11};
 inline constexpr std::array melodischMoll{0, 2, 3, 5, 7, 9, 11};

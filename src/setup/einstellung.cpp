@@ -118,7 +118,7 @@ void Einstellung::CombosFuellen() {
 
 void Einstellung::skal_typ_cmb_click() {
     z.skal_typ = skal_typ_cmb.listIndex();
-    z.skal_anz = core::katalog::kategorien.at(static_cast<std::size_t>(z.skal_typ)).skal_max;
+    z.skal_anz = core::katalog::kategorie(z.skal_typ).skal_max;
     RegelnAnwenden();
 }
 

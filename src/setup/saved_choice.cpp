@@ -76,11 +76,9 @@ void SavedChoice::WahlWiederherstellen(const core::Value& satz) const {
 }
 
 void SavedChoice::SkalenWiederherstellen(const core::Value& satz) const {
-    const std::size_t erste = wahlenAnz(zweig_) + 1;
-    const int letzte = base::parseInt(satz.at(erste - 1).text());
-    for (int i = 0; i <= letzte; ++i) {
-        const auto stelle = erste + static_cast<std::size_t>(i);
-        if (stelle >= satz.items().size()) base::throwSubscript();
+    std::size_t stelle = wahlenAnz(zweig_);
+    for (int mehr = base::parseInt(satz.at(stelle).text()); mehr >= 0; --mehr) {
+        if (++stelle >= satz.items().size()) base::throwSubscript();
         scales_.choose(satz.at(stelle).text());
     }
 }
