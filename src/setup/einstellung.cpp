@@ -11,7 +11,6 @@ Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung, so
                          sound::MidiOutput& ausgabe, Zweig zweig)
     : Formular(programm, core::setUpForm(static_cast<int>(zweig))),
       wertung_(wertung),
-      midi_(midi),
       zweig_(zweig),
       sound_(*this, programm, midi, ausgabe, groups_, zweig, abbruch_) {
     setCaption(klingt() ? "GHB: Einstellung: Skalen bestimmen"
@@ -83,7 +82,7 @@ void Einstellung::start_timer() {
     setCaption(p.katalog.typ_name[z.ueb_typ] + Wort(700) + p.katalog.bereich_name[1]);
     wertung_.vorbereiten();
     LadewerteSetzen();
-    if (klingt()) sound_.KlangEinrichten();
+    sound_.KlangEinrichten();
     CombosFuellen();
     scales_.writeHint(0);
     forms().show(name());
@@ -188,13 +187,9 @@ void Einstellung::EinstDatSave() { z.einst_liste = recap(*this, z, zweig_, scale
 void Einstellung::cmdZurueck_click() {
     cmdZurueck.enabled = false;
     abbruch_ = true;
-    if (klingt()) midi_.MidiReset();
+    sound_.silence();
     forms().show("grd_einst");
     forms().unload(name());
-}
-
-void Einstellung::unloading() {
-    if (klingt()) sound_.disconnect();
 }
 
 void Einstellung::nachFehler(const std::string& prozedur) {

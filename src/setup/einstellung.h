@@ -26,7 +26,7 @@ class Einstellung final : public core::Formular {
 
     void load() override { start.start(); }
     void closeBox() override { cmdZurueck_click(); }
-    void unloading() override;
+    void unloading() override { sound_.disconnect(); }
     bool key(form::Key key) override;
 
   protected:
@@ -56,7 +56,6 @@ class Einstellung final : public core::Formular {
     bool namingByEar() const { return klingt() && z.ueb_typ == core::uebung::bestimmen; }
 
     results::Wertung& wertung_;
-    sound::Midi& midi_;
     Zweig zweig_;
     bool abbruch_ = false;
 

@@ -77,7 +77,7 @@ void ModeChoice::PruefungVorgeben() {
     z.final = 2;
     z.ska_ausw = 0;
     choose(form_, "abfrage", 1);
-    if (klingt(zweig_)) choose(form_, "temp_Combo", vorgabe.tempoIdx);
+    sound_.chooseTempo(vorgabe.tempoIdx);
     choose(form_, "Combo_richtung", vorgabe.richtung);
     choose(form_, "final", 2);
     groups_.lockForExam();

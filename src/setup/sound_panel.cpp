@@ -32,6 +32,7 @@ SoundPanel::SoundPanel(core::Formular& form, core::Programm& programm, sound::Mi
       z(programm.zustand),
       midi_(midi),
       MIDI(ausgabe),
+      zweig_(zweig),
       abbruch_(abbruch),
       ComboPatch(form, {"ComboPatch", &groups(group::sound)}),
       lb15(form, "lb15", klingt(zweig) ? 2 : 4, &groups(group::sound)),
@@ -56,6 +57,7 @@ SoundPanel::SoundPanel(core::Formular& form, core::Programm& programm, sound::Mi
 }
 
 void SoundPanel::KlangEinrichten() {
+    if (!klingt(zweig_)) return;
     midi_.MidiGeraete(MIDI);
     midi_.MidiInit(MIDI);
     MIDI.queueEmpty = [this] { form_.guard("QueueEmpty.", [this] { QueueEmpty(); }); };
@@ -68,9 +70,18 @@ void SoundPanel::KlangEinrichten() {
     TonHinweisZeigen();
 }
 
-void SoundPanel::disconnect() const {
+void SoundPanel::silence() {
+    if (klingt(zweig_)) midi_.MidiReset();
+}
+
+void SoundPanel::disconnect() {
+    if (!klingt(zweig_)) return;
     MIDI.queueEmpty = nullptr;
     MIDI.problemChanged = nullptr;
+}
+
+void SoundPanel::chooseTempo(int index) {
+    if (klingt(zweig_)) temp_Combo.setListIndex(index);
 }
 
 void SoundPanel::openTempo() {

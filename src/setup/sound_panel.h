@@ -20,8 +20,11 @@ class SoundPanel {
 
     /// Opens the device, offers what can be chosen and chooses.
     void KlangEinrichten();
+    /// Ends all sound.
+    void silence();
     /// The device tells this form nothing more.
-    void disconnect() const;
+    void disconnect();
+    void chooseTempo(int index);
     void openTempo();
     void lockTempo() { sperren(temp_Combo); }
     /// What was under way has been heard, or nobody will wait for its end.
@@ -40,6 +43,7 @@ class SoundPanel {
     core::Zustand& z;
     sound::Midi& midi_;
     sound::MidiOutput& MIDI;
+    Zweig zweig_;
     const bool& abbruch_;
     bool verklungen_ = false;  ///< a check has ended and was not closed yet
     form::Connection formularFort_;
