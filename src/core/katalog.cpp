@@ -42,7 +42,7 @@ constexpr std::array modusWorte{136, 564, 565, 550, 438};  // words
 void Katalog::KatalogInit(Worte& worte) {
     const auto Wort = [&](int id) { return worte.Wort(id); };
     for (int typ = 0; typ < katalog::kategorienAnz; ++typ) {
-        const auto& kategorie = katalog::kategorien[static_cast<std::size_t>(typ)];
+        const auto& kategorie = katalog::kategorie(typ);
         skal_typ_name[typ] = Wort(kategorie.wort);
         for (int nr = 0; nr <= kategorie.skal_max; ++nr)
             skal_name[typ][nr] = Wort(nummerWort) + " " + std::to_string(nr + 1);

@@ -38,7 +38,8 @@ inline constexpr std::array<Kategorie, kategorienAnz> kategorien{{
     {553, 9, 4, {70, 70}, false},  // tetrachords
 }};
 
-constexpr bool rotiert(int skal_typ) { return base::at(kategorien, skal_typ).rotiert; }
+constexpr const Kategorie& kategorie(int skal_typ) { return base::at(kategorien, skal_typ); }
+constexpr bool rotiert(int skal_typ) { return kategorie(skal_typ).rotiert; }
 
 inline constexpr std::array diatonisch{0, 2, 4, 5, 7, 9, 11};
 inline constexpr std::array melodischMoll{0, 2, 3, 5, 7, 9, 11};
@@ -131,10 +132,9 @@ constexpr Leiter muster(int skal_typ, int skala_nr) {
 /// pattern read from degree `skala_nr`, and once more around.
 constexpr Leiter leiter(int skal_typ, int skala_nr) {
     Leiter toene = muster(skal_typ, skala_nr);
-    const auto& kategorie = base::at(kategorien, skal_typ);
-    if (!kategorie.rotiert) return toene;
+    if (!rotiert(skal_typ)) return toene;
     const Leiter m = toene;
-    const int grade = kategorie.tonAnz - 1;
+    const int grade = kategorie(skal_typ).tonAnz - 1;
     for (int i = 0; i < maxToene; ++i) {
         const int grad = skala_nr + i;
         base::at(toene, i) =
@@ -173,14 +173,14 @@ constexpr int stimmKorrektur(int stimmung, int skal_typ, int grad, int tonklasse
 // Laws of the tables: every scale that should close on the octave does, none falls, and every
 // category has as many scales as it says.
 static_assert(std::ranges::all_of(eigeneMuster, [](const Skala& s) {
-    const int n = base::at(kategorien, s.skal_typ).tonAnz;
+    const int n = kategorie(s.skal_typ).tonAnz;
     return (s.skal_typ == 6 || base::at(s.stufe, n - 1) == 12) && s.stufe[0] == 0 &&
            std::is_sorted(s.stufe.begin(), s.stufe.begin() + n);
 }));
 static_assert([] {
     int scales = 0;
     for (int typ = 0; typ < kategorienAnz; ++typ)
-        for (int nr = 0; nr <= base::at(kategorien, typ).skal_max; ++nr) {
+        for (int nr = 0; nr <= kategorie(typ).skal_max; ++nr) {
             ++scales;
             const bool eigen = std::ranges::any_of(eigeneMuster, [&](const Skala& s) {
                 return s.skal_typ == typ && s.skala_nr == nr;

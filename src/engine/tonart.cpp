@@ -40,7 +40,7 @@ bool Tonartwahl::fest() const {
 }
 
 void Tonartwahl::LaufBeginn(Aufgabe& a) {
-    const auto& kategorie = base::at(katalog::kategorien, z.skal_typ);
+    const auto& kategorie = katalog::kategorie(z.skal_typ);
     a.tonAnz = kategorie.tonAnz;
     oktSpanne_ = base::at(oktTab, z.oktAnz) - 2;
     for (int nr = 0; nr <= kategorie.skal_max; ++nr) {

@@ -183,7 +183,6 @@ void layoutEinstellung(FormWindow& window) {
     actions->addWidget(bind("cmdZurueck"));
     QWidget* ok = bind("cmdOK");
     look::font(*ok, 1, true);
-    ok->setMinimumWidth(120);
     actions->addWidget(ok);
     page->addWidget(box);
     bind("popPruefung");

@@ -22,7 +22,7 @@ form::ItemList::Item eintrag(const core::Katalog& katalog, int skal_typ, int nr,
 std::vector<form::ItemList::Item> skalenZurWahl(const core::Katalog& katalog, int skal_typ,
                                                 Richtungen richtungen) {
     std::vector<form::ItemList::Item> liste;
-    const int letzte = core::katalog::kategorien.at(static_cast<std::size_t>(skal_typ)).skal_max;
+    const int letzte = core::katalog::kategorie(skal_typ).skal_max;
     for (int nr = 0; nr <= letzte; ++nr) {
         if (richtungen.abfolge == 1) {
             liste.push_back({katalog.skal_name[skal_typ][nr], nr + 1});

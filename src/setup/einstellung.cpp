@@ -1,180 +1,94 @@
-// Opening of the set-up form: wiring, load values, contents and captions.
 #include "setup/einstellung.h"
 
+#include "core/formnamen.h"
 #include "core/fortsetzung.h"
-#include "sound/klang.h"
+#include "setup/choices.h"
+#include "setup/recap.h"
 
 namespace setup {
-
-namespace {
-
-/// Groups by heading; the colour is the one they open with.
-struct Gruppe {
-    int index;
-    int wort;  // words
-    base::Colour farbe;
-};
-constexpr std::array gruppen{
-    // words
-    Gruppe{0, 107, farben::offen},  Gruppe{1, 494, farben::offen},  Gruppe{2, 243, farben::offen},
-    Gruppe{3, 504, farben::offen},  Gruppe{4, 558, farben::offen},  Gruppe{5, 78, farben::offen},
-    Gruppe{7, 622, farben::offen},  Gruppe{8, 587, farben::modus},  Gruppe{9, 619, farben::offen},
-    Gruppe{10, 222, farben::offen}, Gruppe{11, 113, farben::offen}, Gruppe{15, 365, farben::klang},
-};
-
-constexpr int ohneDaten = -999;
-
-}  // namespace
 
 Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung,
                          results::Skalaxml& xml, sound::Midi& midi, sound::MidiOutput& ausgabe,
                          Zweig zweig)
-    : Formular(programm, zweig == Zweig::Gehoerbildung ? "einstellung1" : "einstellung1b"),
+    : Formular(programm, core::setUpForm(static_cast<int>(zweig))),
       wertung_(wertung),
       xml_(xml),
-      midi_(midi),
-      MIDI(ausgabe),
-      zweig_(zweig) {
+      zweig_(zweig),
+      sound_(*this, programm, midi, ausgabe, groups_, zweig, abbruch_) {
     setCaption(klingt() ? "GHB: Einstellung: Skalen bestimmen"
                         : "ML: Einstellung: Skalen bestimmen");
-    for (const Gruppe& g : gruppen) {
-        if (!find("grdeinst", g.index)) continue;
-        grdeinst(g.index).backColour = g.farbe;
-        geinst_lb(g.index).setContainer(grdeinst(g.index));
-    }
-    grdeinst(14).backColour = farben::klang;
-    grdeinst(14).setContainer(grdeinst(15));
-    grdeinst(10).visible = false;
-    if (Combo_mt) {
-        Combo_mt->visible = false;
-        Combo_mt->tag = "Combo_mt#var";
-    }
-    prfnr_Comb.visible = false;
-    lb10(0).foreColour = base::colours::red;
-    temp_Combo.backColour = farben::tempoOffen;
-    temp_Combo.foreColour = base::colours::white;
-
-    for (const auto& [control, tag] : std::initializer_list<std::pair<form::Control&, const char*>>{
-             {lst_ska1, "Skalen ausgewählt"},
-             {lst_ska0, "Skalen auswählen"},
-
-             {skal_typ_cmb, "Skalentyp#var"},
-             {temp_Combo, "Tempo#var"},
-             {Combo_richtung, "Richtung#var"},
-             {CmbOktAnz, "Tonraum#var"},
-             {CmbOktBer, "Oktav-Bereich#var"}})
-        control.tag = tag;
-    for (const auto& [optionen, tag] : {std::pair{&stimm_g, "Stimmung"},
-                                        {&an_zeig, "Anzeige"},
-                                        {&ska_ausw, "Vorkommen"},
-                                        {&final, "Vorzeichen/Finalis"},
-                                        {&abfrage, "Abfolge"},
-                                        {&abfolge, "Tonfolge"},
-                                        {&frequenz, "Frequenz"}})
-        for (form::Option& option : *optionen) option.tag = tag;
-    // What stands chosen at design; nothing is stored by it.
-    for (form::Option* option : {&an_zeig(0), &ska_ausw(0), &final(2), &abfrage(0), &abfolge(0)})
-        option->choose();
     if (klingt()) {
-        stimm_g(0).choose();
-        frequenz(0).choose();
-    } else {
-        OhneKlang();
+        Combo_mt.emplace(*this, form::Place{"Combo_mt", &groups_(group::tuning)});
+        Combo_mt->visible = false;
     }
+    Beschriften();
+    hideWhatIsNotOffered();
     Verbinden();
 }
 
-/// The groups that a branch has with or without their headings, in the order of the form.
-std::vector<int> Einstellung::gruppenIndices(Zweig zweig, bool ueberschrift) {
-    std::vector<int> indices{0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 14, 15};
-    std::erase_if(indices, [&](int i) {
-        return (zweig == Zweig::Musiklehre && (i == 2 || i == 3)) || (ueberschrift && i == 14);
-    });
-    return indices;
+void Einstellung::Beschriften() {
+    beschriften({{abfolge(0), 489},
+                 {abfolge(1), 385},
+                 {lb4, 469},
+                 {abfrage(0), 383},
+                 {abfrage(1), 142},
+                 {final(0), 621},
+                 {final(1), 240},
+                 {final(2), 151},
+                 {an_zeig(0), 505},
+                 {an_zeig(1), 157},
+                 {cmdHilfe, 816},
+                 {cmdZurueck, 640},
+                 {cmdOK, 432},
+                 {copyright, 6}});
+    benennen({{skal_typ_cmb, 494}, {Combo_richtung, 469}});
+    if (!klingt()) return;
+    beschriften({{frequenz(0), 238},
+                 {frequenz(1), 603},
+                 {stimm_g(0), 546},
+                 {stimm_g(1), 458},
+                 {stimm_g(2), 401}});
 }
 
-/// In music theory nothing sounds, and the scale is always written with its own key.
-void Einstellung::OhneKlang() {
-    for (form::Control* nie :
-         std::initializer_list<form::Control*>{&grdeinst(15), &grdeinst(11), &final(0), &final(1)})
-        nie->visible = false;
+/// In music theory nothing sounds; what is not named by ear is written, and has its own key.
+void Einstellung::hideWhatIsNotOffered() {
+    groups_(group::sound).visible = klingt();
+    groups_(group::answers).visible = klingt();
+    for (form::Option* option : {&final(0), &final(1), &an_zeig(1)})
+        option->visible = namingByEar();
 }
 
 void Einstellung::Verbinden() {
-    struct Wahl {
-        form::ControlArray<form::Option>& optionen;
-        i16& feld;
-        const char* prozedur;
-        void (Einstellung::*folge)() = nullptr;
-    };
-    for (const Wahl& wahl :
-         {Wahl{abfrage, z.abfrage, "abfrage_click."},
-          {frequenz, z.frequenz, "frequenz_click."},
-          {stimm_g, z.stimmung, "stimm_g_click."},
-          {an_zeig, z.an_zeig, "an_zeig_click."},
-          {final, z.final, "final_click.", &Einstellung::final_click},
-          {abfolge, z.abfolge, "abfolge_click.", &Einstellung::abfolge_click},
-          {ska_ausw, z.ska_ausw, "ska_ausw_click.", &Einstellung::ska_ausw_click}})
-        for (form::Option& option : wahl.optionen) {
-            option.store = [&feld = wahl.feld, &option] { feld = option.index(); };
-            option.onClick.procedure = wahl.prozedur;
-            if (wahl.folge) option.onClick.run = [this, folge = wahl.folge] { (this->*folge)(); };
-        }
-    // An exam stores "all" over lists that stay open.
-    ska_ausw(1).store = [this] {
-        const bool nochOffen = z.ska_ausw == 0 && grdeinst(10).visible();
-        z.ska_ausw = 1;
-        if (nochOffen) AuswahlWiederaufnehmen();
-    };
-
-    temp_Combo.onSelect = {"temp_Combo_click.", [this] { z.tempoIdx = temp_Combo.listIndex(); }};
+    connect(abfrage, z);
+    connect(frequenz, z);
+    connect(stimm_g, z);
+    connect(an_zeig, z);
+    connect(final, z, [this] { final_click(); });
+    connect(abfolge, z, [this] { abfolge_click(); });
+    skal_typ_cmb.onSelect = {"skal_typ_cmb_click.", [this] { skal_typ_cmb_click(); }};
     Combo_richtung.onSelect = {"Combo_richtung_click.", [this] {
                                    z.richtung = Combo_richtung.listIndex();
-                                   writeHint(z.richtung);
+                                   scales_.writeHint(z.richtung);
                                }};
-    lst_ska0.onClick = {"lst_ska_click.", [this] { lst_ska_click(lst_ska0, lst_ska1); }};
-    lst_ska1.onClick = {"lst_ska_click.", [this] { lst_ska_click(lst_ska1, lst_ska0); }};
-    skal_typ_cmb.onSelect = {"skal_typ_cmb_click.", [this] { skal_typ_cmb_click(); }};
-    CmbOktAnz.onSelect = {"CmbOktAnz_click.", [this] { CmbOktAnz_click(); }};
-    CmbOktBer.onSelect = {"CmbOktBer_click.", [this] { CmbOktBer_click(); }};
-    ComboPatch.onSelect = {"ComboPatch_click.", [this] { ComboPatch_click(); }};
-    HSliderVolume.onChange = {"HSliderVolume_change.", [this] { HSliderVolume_change(); }};
-    training_Combo.onSelect = {"training_Combo_click.", [this] { training_Combo_click(); }};
-    prfnr_Comb.onSelect = {"prfnr_Comb_click.", [this] { prfnr_Comb_click(); }};
-    klang_contr.onClick = {"klang_contr_click.", [this] { klang_contr_click(); }};
+    scales_.onShown = [this](bool shown) { pickingShown(shown); };
+    scales_.onJudged = [this](bool enough) { cmdOK.enabled = enough; };
+    sound_.onCheck = [this](bool running) { checkRuns(running); };
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
     cmdZurueck.onClick = {"cmdZurueck_click.", [this] { cmdZurueck_click(); }};
-    cmdOptionSave.onClick = {"cmdOptionSave_click.", [this] { cmdOptionSave_click(); }};
-    cmdOptionRead.onClick = {"cmdOptionRead_click.", [this] { cmdOptionRead_click(); }};
-    for (form::Group& gruppe : grdeinst)
-        gruppe.onContext = {"grdeinst_MouseUp.", [this, &gruppe] { PruefungMarkieren(gruppe); }};
-    popExamToggle.onClick = {"popExamToggle_click.", [this] { popExamToggle_click(); }};
     cmdHilfe.onClick = {"cmdHilfe_click.", [this] { HilfeZeigen(); }};
     start.onTick = {"start_timer.", [this] { start_timer(); }};
-    listeGeaendert_ = lst_ska1.changed.connect([this](form::Aspect aspect) {
-        if (aspect == form::Aspect::Items) AuswahlStandZeigen();
-    });
-    formularFort_ = forms().gone.connect([this](form::Form&) { KlangKontrolleAbschliessen(); });
 }
 
 void Einstellung::start_timer() {
     start.stop();
     setCaption(p.katalog.typ_name[z.ueb_typ] + Wort(700) + p.katalog.bereich_name[1]);
-    bereit_ = false;
     wertung_.vorbereiten();
     LadewerteSetzen();
-    if (klingt()) KlangEinrichten();
-    if (klingt() && z.ueb_typ == core::uebung::schreiben)
-        for (form::Option* option : {&final(0), &final(1), &an_zeig(1)}) option->visible = false;
+    sound_.KlangEinrichten();
     CombosFuellen();
-    writeHint(0);
-    bereit_ = true;
-    Beschriften();
-    const bool dateien = p.aufruf.pruefEdit && klingt();
-    cmdOptionRead.visible = dateien;
-    cmdOptionSave.visible = dateien;
+    scales_.writeHint(0);
     forms().show(name());
-    StartdateiAnwenden();
+    files_.StartdateiAnwenden();
 }
 
 void Einstellung::LadewerteSetzen() {
@@ -190,90 +104,94 @@ void Einstellung::LadewerteSetzen() {
     z.zufallsNr = 0;
 }
 
-void Einstellung::KlangEinrichten() {
-    midi_.MidiGeraete(MIDI);
-    midi_.MidiInit(MIDI);
-    MIDI.queueEmpty = [this] { guard("QueueEmpty.", [this] { QueueEmpty(); }); };
-    MIDI.problemChanged = [this] { TonHinweisZeigen(); };
-    sound::Klangliste(ComboPatch);
-    ComboPatch.setListIndex(0);
-    for (const char* tempo : core::katalog::tempo_name) temp_Combo.add(tempo, ohneDaten);
-    temp_Combo.setListIndex(1);
-    HSliderVolume.setValue(100);
-    TonHinweisZeigen();
-}
-
 void Einstellung::CombosFuellen() {
-    const int kleinste = klingt() ? 2 : 1;  // octaves
-    for (int n = kleinste; n < kleinste + 4; ++n)
-        CmbOktAnz.add(zahl(n) + " " + Wort(n == 1 ? 433 : 41), n - kleinste);
-    CmbOktAnz.setListIndex(0);
-    for (const int wort : {132, 83, 623}) Combo_richtung.add(Wort(wort), ohneDaten);
+    range_.fill();
+    for (const int wort : {132, 83, 623}) Combo_richtung.add(Wort(wort));
     Combo_richtung.setListIndex(2);
-    const bool alleTypen = klingt() && z.ueb_typ == core::uebung::bestimmen;
-    const int typen = alleTypen ? core::katalog::kategorienAnz : 1;
-    for (int typ = 0; typ < typen; ++typ) skal_typ_cmb.add(p.katalog.skal_typ_name[typ], ohneDaten);
+    const int typen = namingByEar() ? core::katalog::kategorienAnz : 1;
+    for (int typ = 0; typ < typen; ++typ) skal_typ_cmb.add(p.katalog.skal_typ_name[typ]);
     skal_typ_cmb.setListIndex(0);
-    for (int modus = 0; modus < 5; ++modus)
-        training_Combo.add(modus == core::modus::fortsetzung && !FortsetzungVorhanden()
-                               ? core::keineFortsetzung
-                               : p.katalog.modus_name[modus]);
-    training_Combo.setListIndex(0);
-    for (int n = 1; n <= 5; ++n) prfnr_Comb.add(Wort(426) + zahl(n), ohneDaten);
-    prfnr_Comb.setListIndex(0);
+    mode_.fill();
     if (!Combo_mt) return;
-    Combo_mt->add(Wort(355), ohneDaten);
+    Combo_mt->add(Wort(355));
     Combo_mt->setListIndex(0);
 }
 
-void Einstellung::Beschriften() {
-    for (const Gruppe& g : gruppen)
-        if (find("geinst_lb", g.index)) geinst_lb(g.index).caption = Wort(g.wort);
-    beschriften(
-        {{lb0, 153},           {abfolge(0), 489},    {abfolge(1), 385},  {lb4, 469},
-         {abfrage(0), 383},    {abfrage(1), 142},    {final(0), 621},    {final(1), 240},
-         {final(2), 151},      {ska_ausw(0), 103},   {ska_ausw(1), 413}, {an_zeig(0), 505},
-         {an_zeig(1), 157},    {lb10(1), 140},       {lb10(2), 135},     {popExamToggle, 843},
-         {cmdOptionRead, 829}, {cmdOptionSave, 830}, {cmdHilfe, 816},    {cmdZurueck, 640},
-         {cmdOK, 432},         {copyright, 6}});
-    AuswahlStandZeigen();
-    if (klingt()) KlangBeschriften();
-    benennen({{CmbOktAnz, 107},
-              {CmbOktBer, 153},
-              {skal_typ_cmb, 494},
-              {Combo_richtung, 469},
-              {training_Combo, 587},
-              {prfnr_Comb, 438},
-              {ComboPatch, 365},
-              {temp_Combo, 547},
-              {HSliderVolume, 372},
-              {lst_ska0, 140},
-              {lst_ska1, 135}});
+void Einstellung::skal_typ_cmb_click() {
+    z.skal_typ = skal_typ_cmb.listIndex();
+    z.skal_anz = core::katalog::kategorie(z.skal_typ).skal_max;
+    RegelnAnwenden();
 }
 
-void Einstellung::KlangBeschriften() {
-    beschriften({{frequenz(0), 238},
-                 {frequenz(1), 603},
-                 {stimm_g(0), 546},
-                 {stimm_g(1), 458},
-                 {stimm_g(2), 401},
-                 {klang_contr, 366},
-                 {lb14(0), 372},
-                 {lb15(0), 547}});
-    lb15(1).caption = "=MM";
+/// What the category does not allow is disabled, and what was chosen of it falls back.
+void Einstellung::RegelnAnwenden() {
+    const Regel& r = regel(z.skal_typ);
+    an_zeig(1).enabled = r.namen;
+    if (!r.namen) an_zeig(0).choose();
+
+    final(0).enabled = r.vorzeichen;
+    final(1).caption = Wort(r.vorzeichen ? 240 : 298);
+    final(2).caption = Wort(r.vorzeichen ? 151 : 299);
+    if (!r.vorzeichen && final(0).value()) final(1).choose();
+
+    abfolge(1).enabled = r.melodieStimmung;
+    for (form::Option& stimmung : stimm_g)
+        if (stimmung.index() != 0) stimmung.enabled = r.melodieStimmung;
+    if (r.melodieStimmung) return;
+    abfolge(0).choose();
+    stimm_g(0).choose();
 }
 
-void Einstellung::TonHinweisZeigen() {
-    constexpr std::array hinweise{0, 810, 811, 812, 890};  // words
-    const int wort = hinweise.at(static_cast<std::size_t>(MIDI.problem()));
-    tonHinweis.caption = wort == 0 ? std::string() : Wort(wort);
-    tonHinweis.visible = wort != 0;
+void Einstellung::final_click() {
+    scales_.writeHint(0);
+    if (z.ska_ausw == 1) scales_.selectionCheck();
 }
 
-void Einstellung::unloading() {
-    if (!klingt()) return;
-    MIDI.queueEmpty = nullptr;
-    MIDI.problemChanged = nullptr;
+void Einstellung::abfolge_click() {
+    const bool melodie = z.abfolge == 1;
+    Combo_richtung.setListIndex(melodie ? 0 : 2);
+    Combo_richtung.visible = !melodie;
+    lb4.visible = !melodie;
+    scales_.writeHint(0);
+}
+
+/// While scales are being picked, their category and the direction cannot change.
+void Einstellung::pickingShown(bool shown) {
+    groups_.enableForPicking(!shown);
+    lb4.enabled = !shown;
+    if (!shown) cmdOK.enabled = true;
+}
+
+void Einstellung::checkRuns(bool running) {
+    if (!running && z.ska_ausw == 1) return scales_.selectionCheck();
+    cmdOK.enabled = !running;
+}
+
+void Einstellung::cmdOK_click() {
+    cmdOK.enabled = false;
+    xml_.SkalaXmlNeu();
+    scales_.AuswahlUebernehmen();
+    guard("EinstDatSave", [this] { EinstDatSave(); });
+    mode_.ModusSchritt();
+    setPointer(form::Pointer::Hourglass);
+    p.ports.loop.doEvents();
+    setPointer(form::Pointer::Arrow);
+    if (abbruch_) return;
+    cmdOK.enabled = true;
+    // A sound check that is still under way ends with the run's first silence.
+    sound_.checkEnded();
+    forms().hide(name());
+    forms().show("arbeitsblatt" + core::satz(z));
+}
+
+void Einstellung::EinstDatSave() { z.einst_liste = recap(*this, z, zweig_, scales_.chosen()); }
+
+void Einstellung::cmdZurueck_click() {
+    cmdZurueck.enabled = false;
+    abbruch_ = true;
+    sound_.silence();
+    forms().show("grd_einst");
+    forms().unload(name());
 }
 
 void Einstellung::nachFehler(const std::string& prozedur) {

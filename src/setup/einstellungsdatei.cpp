@@ -4,11 +4,12 @@
 #include "base/whole_file.h"
 #include "core/zustand.h"
 #include "form/controls.h"
-#include "setup/regeln.h"
+#include "setup/groups.h"
 #include "setup/wohlgeformt.h"
 
 #include <pugixml.hpp>
 
+#include <array>
 #include <exception>
 #include <string_view>
 #include <utility>
@@ -20,6 +21,35 @@ namespace {
 constexpr const char* modul = "VESHNA";
 /// A file with every group marked has less than 4 KB.
 constexpr std::size_t groesste = 1 << 19;
+
+/// A choice that a file can hold: its control, or the options of this name.
+struct FileChoice {
+    const char* name;
+    const char* titel;
+    int index = -1;  ///< that of a list
+
+    bool means(const form::Control& control) const {
+        return control.name() == name && (index < 0 || control.index() == index);
+    }
+};
+/// In the order of the file.
+constexpr std::array fileChoices{
+    FileChoice{"lst_ska", "Skalen ausgewählt", 1},
+    FileChoice{"lst_ska", "Skalen auswählen", 0},
+    FileChoice{"Combo_mt", "Combo_mt#var"},
+    FileChoice{"stimm_g", "Stimmung"},
+    FileChoice{"skal_typ_cmb", "Skalentyp#var"},
+    FileChoice{"temp_Combo", "Tempo#var"},
+    FileChoice{"an_zeig", "Anzeige"},
+    FileChoice{"ska_ausw", "Vorkommen"},
+    FileChoice{"final", "Vorzeichen/Finalis"},
+    FileChoice{"abfrage", "Abfolge"},
+    FileChoice{"Combo_richtung", "Richtung#var"},
+    FileChoice{"abfolge", "Tonfolge"},
+    FileChoice{"frequenz", "Frequenz"},
+    FileChoice{"CmbOktAnz", "Tonraum#var"},
+    FileChoice{"CmbOktBer", "Oktav-Bereich#var"},
+};
 
 /// UTF-8 to ISO 8859-1.
 std::string latin1(std::string_view utf8) {
@@ -73,21 +103,14 @@ void werte(Schreiber& s, const form::Control& control) {
             s.wert(item.text, item.text);
 }
 
-/// Of an option group only the option that is chosen is written.
-bool geschrieben(const form::Control& control) {
-    switch (control.kind()) {
-        case form::Kind::Option:
-            return static_cast<const form::Option&>(control).value();
-        case form::Kind::Combo:
-        case form::Kind::ListBox:
-            return true;
-        default:
-            return false;
-    }
+/// Of options only the one that is chosen is written.
+bool gilt(const form::Control& control) {
+    return control.kind() != form::Kind::Option ||
+           static_cast<const form::Option&>(control).value();
 }
 
-void block(Schreiber& s, const form::Control& control) {
-    s.zeile("    <control title=\"" + control.tag + "\">");
+void block(Schreiber& s, const std::string& titel, const form::Control& control) {
+    s.zeile("    <control title=\"" + titel + "\">");
     s.element(6, "cname", control.name());
     if (control.inArray()) s.element(6, "index", std::to_string(control.index()));
     werte(s, control);
@@ -180,9 +203,10 @@ std::string EinstellungenText(const form::Form& form, int ueb_typ,
     s.element(4, "description", beschreibung);
     s.zeile("  </basic>");
     s.zeile("  <setting>");
-    for (const form::Control* control : form.controls())
-        if (!control->tag.empty() && markiert(*control) && geschrieben(*control))
-            block(s, *control);
+    for (const FileChoice& choice : fileChoices)
+        for (const form::Control* control : form.controls())
+            if (choice.means(*control) && markiert(*control) && gilt(*control))
+                block(s, choice.titel, *control);
     s.zeile("  </setting>");
     s.zeile("</test>");
     return latin1(s.text());

@@ -27,8 +27,8 @@ struct Einstellungssatz {
     bool leer() const { return kopf.empty() && eintraege.empty(); }
 };
 
-/// The file's text, in ISO 8859-1 with CR LF: the header, and the marked choices of a form in the
-/// order of its controls. A character that the encoding lacks becomes "?"; nothing is escaped.
+/// The file's text, in ISO 8859-1 with CR LF: the header, and the marked choices of a form in an
+/// order of their own. A character that the encoding lacks becomes "?"; nothing is escaped.
 std::string EinstellungenText(const form::Form& form, int ueb_typ, const std::string& beschreibung);
 
 /// Writes the file as a whole. @throws std::system_error, and what was there stays.

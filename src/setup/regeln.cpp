@@ -18,12 +18,6 @@ constexpr std::array<Regel, core::katalog::kategorienAnz> regeln{{
 
 }  // namespace
 
-void sperren(form::Control& control) {
-    control.enabled = false;
-    control.backColour = farben::gesperrt;
-    control.foreColour = base::colours::black;
-}
-
 const Regel& regel(int skal_typ) { return regeln.at(static_cast<std::size_t>(skal_typ)); }
 
 }  // namespace setup

@@ -107,7 +107,7 @@ core::Zustand exerciseState(const engine::Uebung& exercise,
                          std::to_string(exercise.ueb_typ));
     if (exercise.tonart != engine::Tonart::Klingend && z.skal_typ != 0)
         throw UsageError(std::string(exercise.blatt) + " is for skal_typ 0 only");
-    z.skal_anz = base::at(core::katalog::kategorien, z.skal_typ).skal_max;
+    z.skal_anz = core::katalog::kategorie(z.skal_typ).skal_max;
     if (z.ska_ausw == 1 && !given.contains("einzel_wahl"))
         throw UsageError("ska_ausw=1 needs einzel_wahl");
     if (z.ska_ausw == 1) checkScales(z);

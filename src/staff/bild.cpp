@@ -58,8 +58,7 @@ static_assert([] {
         bool gleich = true;
         jederTon(s.toene,
                  [&](int qz) { gleich = gleich && tonklasse(qz) == skala->stufe[i++] % 12; });
-        if (!gleich ||
-            i != static_cast<std::size_t>(base::at(katalog::kategorien, s.skal_typ).tonAnz))
+        if (!gleich || i != static_cast<std::size_t>(katalog::kategorie(s.skal_typ).tonAnz))
             return false;
     }
     return true;
@@ -93,7 +92,7 @@ std::vector<Ton> rotierteToene(const Bild& bild) {
 
 bool bildVon(int nummer, Bild& bild) {
     for (int typ = 0; typ < katalog::kategorienAnz; ++typ) {
-        const auto& kategorie = base::at(katalog::kategorien, typ);
+        const auto& kategorie = katalog::kategorie(typ);
         for (std::size_t spalte = 0; spalte < 2; ++spalte) {
             const int nr = nummer - kategorie.bild_basis[spalte];
             if (nr < 0 || nr > kategorie.skal_max) continue;
@@ -115,7 +114,7 @@ std::vector<Ton> bildToene(const Bild& bild) {
             });
     if (!toene.empty()) return toene;
     // Seven tones or four: one letter after the other.
-    const int anzahl = base::at(katalog::kategorien, bild.skal_typ).tonAnz;
+    const int anzahl = katalog::kategorie(bild.skal_typ).tonAnz;
     for (int i = 0; i < anzahl; ++i) {
         const int stufe = base::at(skala.stufe, i);
         toene.push_back({c4 + stufe, aufStammton(i % 7, stufe - 12 * (i / 7))});

@@ -40,7 +40,7 @@ void KlangVorfuehrung::EigeneFassungAnbieten(std::function<Fassung()> fassung) {
 }
 
 int KlangVorfuehrung::dauer() const {
-    return z.tempo_dauer[z.tempoIdx] * base::at(core::katalog::kategorien, z.skal_typ).tonAnz;
+    return z.tempo_dauer[z.tempoIdx] * core::katalog::kategorie(z.skal_typ).tonAnz;
 }
 
 void KlangVorfuehrung::LaufBeginn() {

@@ -52,7 +52,7 @@ bool NamenFeld::gewaehlt(int Index) const {
 }
 
 void NamenFeld::vorbereiten() {
-    const auto& kategorie = base::at(core::katalog::kategorien, z.skal_typ);
+    const auto& kategorie = core::katalog::kategorie(z.skal_typ);
     const int basis = kategorie.bild_basis[z.final == 1 ? 0 : 1];
     const bool bilder = z.an_zeig == 0;
     tonarten.caption = p.katalog.skal_typ_name[z.skal_typ];

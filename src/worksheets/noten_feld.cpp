@@ -47,7 +47,7 @@ void NotenFeld::vorbereiten() {
     for (int i = 0; i < staff::quelle::anzahl; ++i)
         palette_.NotP(i).accessibleName = p.Wort(base::at(zeichenWorte, i));
     palette_.PaletteMalen();
-    bild_.vorbereiten(base::at(core::katalog::kategorien, z.skal_typ).tonAnz, false);
+    bild_.vorbereiten(core::katalog::kategorie(z.skal_typ).tonAnz, false);
     HinweisLaden();
     if (!aufg) return;
     form_.beschriften({{*Label2, 802}});

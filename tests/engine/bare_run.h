@@ -29,7 +29,7 @@ struct BareRun {
 
     void category(int skal_typ) {
         z.skal_typ = skal_typ;
-        z.skal_anz = base::at(katalog::kategorien, skal_typ).skal_max;
+        z.skal_anz = katalog::kategorie(skal_typ).skal_max;
     }
     void choose(const std::vector<int>& codes) {
         z.ska_ausw = 1;

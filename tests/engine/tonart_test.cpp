@@ -36,7 +36,7 @@ TEST(Tones, EveryTaskSoundsAsTheCatalogueSaysWithinItsRangeAndDirection) {
                     for (int n = 0; n < 60; ++n) {
                         const Aufgabe& a = bare.run->ziehen();
                         drawn.insert(a.akt_richtung);
-                        ASSERT_EQ(a.tonAnz, base::at(katalog::kategorien, typ).tonAnz);
+                        ASSERT_EQ(a.tonAnz, katalog::kategorie(typ).tonAnz);
                         for (int j = 0; j < a.tonAnz; ++j) {
                             ASSERT_EQ(a.noten[j] - a.noten[0], step(typ, a.skala_nr, j));
                             ASSERT_EQ(a.index(j), a.akt_richtung == 1 ? j : int(a.tonAnz) - 1 - j);

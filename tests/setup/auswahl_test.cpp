@@ -1,6 +1,7 @@
 // Scales after choice: which are on offer, where they stand, and when they are enough.
 #include "setup/auswahl.h"
 
+#include "setup/scale_choice.h"
 #include "setup/set_up.h"
 
 #include <cstdlib>
@@ -33,9 +34,17 @@ TEST_F(SetUp, TheListsHoldWhatTheDirectionsAllow) {
 }
 
 /// Whatever is moved in whatever order, both lists stay in catalogue order, ascending above
-/// descending; what has no code, from a file, stands behind its like.
+/// descending, and each move is judged; what has no code, from a file, stands behind its like.
 TEST_F(SetUp, BothListsStaySorted) {
-    option("ska_ausw", 1).click();
+    BareForm bare(drill.programm);
+    ScaleChoice scales(bare, drill.programm, bare.groups(0), bare.groups(1));
+    bool shown = false, enough = true;
+    scales.onShown = [&](bool now) { shown = now; };
+    scales.onJudged = [&](bool now) { enough = now; };
+    bare.get<form::Option>("ska_ausw", 1).click();
+    EXPECT_TRUE(shown);
+    EXPECT_FALSE(enough);
+    const auto list = [&](int index) -> auto& { return bare.get<form::ListBox>("lst_ska", index); };
     base::Rnd chance(5);
     const auto rank = [](int code) { return 2 * std::abs(code) + (code < 0 ? 1 : 0); };
     for (int move = 0; move < 300; ++move) {
@@ -43,7 +52,8 @@ TEST_F(SetUp, BothListsStaySorted) {
         if (list(from).count() == 0) continue;
         list(from).click(chance.below(list(from).count()));
         EXPECT_EQ(list(0).count() + list(1).count(), 14);
-        EXPECT_EQ(z.einzelAnz, list(1).count() - 1);
+        EXPECT_EQ(scales.chosen().size(), list(1).items().size());
+        EXPECT_EQ(enough, auswahlBeurteilen(list(1).items(), 2, {0, 2}) == Urteil::Genug);
         for (const int l : {0, 1})
             for (int i = 1; i < list(l).count(); ++i)
                 ASSERT_LT(rank(list(l).item(i - 1).data), rank(list(l).item(i).data));

@@ -1,5 +1,8 @@
 // The set-up form as a user meets it: what each choice stores, locks and forces.
 #include "setup/set_up.h"
+#include "setup/tone_range.h"
+
+#include <tuple>
 
 namespace setup::test {
 
@@ -39,17 +42,20 @@ TEST_F(SetUp, AChoiceIsStoredEveryTimeAndHasConsequencesOnce) {
     EXPECT_EQ(list(1).count(), 0) << "scales of another category";
 }
 
-TEST_F(OnHost, TheRangeOffersWhatItsSizeLeaves) {
-    for (const bool theory : {false, true}) {
-        Practice run(host, Practice::Way{theory, 1});
+TEST_F(SetUp, TheRangeOffersWhatItsSizeLeaves) {
+    for (const auto& [branch, smallest, highest] :
+         {std::tuple{Zweig::Gehoerbildung, 2, 96}, {Zweig::Musiklehre, 1, 84}}) {
+        BareForm bare(drill.programm);
+        ToneRange range(bare, drill.programm, branch, bare.groups(0));
+        range.fill();
+        auto& ranges = bare.get<form::Combo>("CmbOktBer");
         for (int size = 0; size < 4; ++size) {
-            run.combo("CmbOktAnz").setListIndex(size);
-            auto& ranges = run.combo("CmbOktBer");
-            EXPECT_EQ(run.z.FrquMaxAkt - run.z.FrquMinAkt, 12 * (theory ? size + 1 : size + 2));
+            bare.get<form::Combo>("CmbOktAnz").setListIndex(size);
+            EXPECT_EQ(z.FrquMaxAkt - z.FrquMinAkt, 12 * (smallest + size));
             ranges.setListIndex(0);
-            EXPECT_EQ(run.z.FrquMinAkt, 36);
+            EXPECT_EQ(z.FrquMinAkt, 36);
             ranges.setListIndex(ranges.count() - 1);
-            EXPECT_EQ(run.z.FrquMaxAkt, theory ? 84 : 96);
+            EXPECT_EQ(z.FrquMaxAkt, highest);
         }
     }
 }

@@ -40,7 +40,7 @@ struct Datei : OnHost {
     }
 };
 
-TEST_F(Datei, HoldsTheMarkedChoicesInTheOrderOfTheForm) {
+TEST_F(Datei, HoldsTheMarkedChoicesInAnOrderOfTheirOwn) {
     for (const int group : {3, 1, 1}) teacher.mark(group);
     EXPECT_EQ(teacher.group(3).backColour(), base::rgb(128, 255, 128));
     EXPECT_EQ(teacher.group(1).backColour(), base::rgb(255, 255, 192)) << "the mark is off again";
@@ -60,6 +60,13 @@ TEST_F(Datei, HoldsTheMarkedChoicesInTheOrderOfTheForm) {
                           "      <cname>lst_ska</cname>\r\n      <index>1</index>\r\n"
                           "      <value text=\"+ W377\">+ W377</value>\r\n    </control>\r\n"),
               std::string::npos);
+    for (const int group : {0, 1, 2, 4, 5, 7, 8, 9, 11, 15}) teacher.mark(group);
+    std::string order;
+    for (const auto& entry : EinstellungenLesenAus(text()).eintraege)
+        order += entry.cname + (entry.hasIndex ? std::to_string(entry.index) : "") + " ";
+    EXPECT_EQ(order,
+              "lst_ska1 lst_ska0 Combo_mt stimm_g2 skal_typ_cmb temp_Combo an_zeig0 ska_ausw1 "
+              "final2 abfrage0 Combo_richtung abfolge0 frequenz0 CmbOktAnz CmbOktBer ");
 }
 
 TEST_F(Datei, ReadBackOnAnotherMachineItSetsAndLocks) {

@@ -28,6 +28,17 @@ struct Practice : support::WholeDrill {
     }
 };
 
+/// A form with two groups and nothing else, for a part alone.
+struct BareForm final : core::Formular {
+    explicit BareForm(core::Programm& programm) : Formular(programm, "bare") {}
+    void closeBox() override {}
+    template <class C>
+    C& get(const char* name, int index = form::Place::noIndex) const {
+        return dynamic_cast<C&>(*find(name, index));
+    }
+    form::ControlArray<form::Group> groups{*this, "group", 2};
+};
+
 struct OnHost : ::testing::Test, support::WithHost {};
 struct SetUp : OnHost, Practice {
     SetUp() : Practice(host) {}

@@ -19,7 +19,7 @@ namespace katalog = core::katalog;
 template <class F>
 void everyPicture(F f) {
     for (int typ = 0; typ < katalog::kategorienAnz; ++typ) {
-        const auto& category = katalog::kategorien[static_cast<std::size_t>(typ)];
+        const auto& category = katalog::kategorie(typ);
         for (std::size_t column = 0; column < 2; ++column)
             for (int nr = 0; nr <= category.skal_max; ++nr) {
                 SCOPED_TRACE(testing::Message() << typ << ' ' << nr << " column " << column);
@@ -36,7 +36,7 @@ TEST(Picture, ShowsTheScaleOfItsNumberAsItSoundsInProperSpelling) {
         EXPECT_EQ(bild.skala_nr, nr);
         const auto toene = bildToene(bild);
         const std::size_t anzahl = toene.size();
-        ASSERT_EQ(int(anzahl), katalog::kategorien[static_cast<std::size_t>(typ)].tonAnz);
+        ASSERT_EQ(int(anzahl), katalog::kategorie(typ).tonAnz);
         std::multiset<int> letters;
         for (std::size_t i = 0; i < anzahl; ++i) {
             EXPECT_EQ(toene[i].midi - toene[0].midi, core::katalog::leiter(typ, nr)[i]);

@@ -32,7 +32,7 @@ DrillFixture::DrillFixture(std::int64_t seed)
 
 void DrillFixture::category(int skal_typ) {
     z.skal_typ = skal_typ;
-    z.skal_anz = base::at(core::katalog::kategorien, skal_typ).skal_max;
+    z.skal_anz = core::katalog::kategorie(skal_typ).skal_max;
 }
 
 void DrillFixture::choose(std::initializer_list<int> codes) {

@@ -1,0 +1,107 @@
+#include "setup/groups.h"
+
+#include <array>
+
+namespace setup {
+
+namespace {
+
+/// What is to be known of a group.
+enum Trait : unsigned {
+    nurKlang = 1,  ///< only a branch with sound has it
+    modus = 2,     ///< a mode opens it, a continued training locks it
+    pruefung = 4,  ///< an exam locks it
+    wahl = 8       ///< single scales depend on it: disabled while they are being picked
+};
+/// A group as it opens, and its heading.
+struct Gruppe {
+    int index;
+    int wort;  ///< 0 without a heading
+    unsigned traits = 0;
+    base::Colour farbe = farben::offen;
+
+    bool has(Trait trait) const { return (traits & trait) != 0; }
+};
+constexpr std::array gruppen{
+    // words
+    Gruppe{group::range, 107, modus},
+    Gruppe{group::category, 494, modus | wahl},
+    Gruppe{group::reference, 243, modus | nurKlang},
+    Gruppe{group::tuning, 504, modus | nurKlang},
+    Gruppe{group::order, 558, modus | wahl | pruefung},
+    Gruppe{group::next, 78, modus | pruefung},
+    Gruppe{group::key, 622, modus | pruefung},
+    Gruppe{group::mode, 587, 0, farben::modus},
+    Gruppe{group::scales, 619, modus | pruefung},
+    Gruppe{group::single, 222, modus},
+    Gruppe{group::answers, 113, modus},
+    Gruppe{group::check, 0, 0, farben::klang},
+    Gruppe{group::sound, 365, 0, farben::klang},
+};
+
+std::vector<int> indices(Zweig zweig, bool ueberschrift) {
+    std::vector<int> alle;
+    for (const Gruppe& g : gruppen)
+        if ((klingt(zweig) || !g.has(nurKlang)) && (!ueberschrift || g.wort != 0))
+            alle.push_back(g.index);
+    return alle;
+}
+
+/// Calls `f` with each group of the form that has the trait.
+template <class F>
+void each(const Groups& groups, Trait trait, F f) {
+    for (const Gruppe& g : gruppen)
+        if (form::Group* gruppe = groups.find(g.index); gruppe && g.has(trait)) f(g, *gruppe);
+}
+
+}  // namespace
+
+void sperren(form::Control& control) {
+    control.enabled = false;
+    control.backColour = farben::gesperrt;
+    control.foreColour = base::colours::black;
+}
+
+Groups::Groups(core::Formular& form, Zweig zweig)
+    : grdeinst(form, "grdeinst", indices(zweig, false)),
+      geinst_lb(form, "geinst_lb", indices(zweig, true)) {
+    for (const Gruppe& g : gruppen) {
+        form::Group* gruppe = find(g.index);
+        if (!gruppe) continue;
+        gruppe->backColour = g.farbe;
+        if (g.wort == 0) continue;
+        geinst_lb(g.index).setContainer(*gruppe);
+        form.beschriften({{geinst_lb(g.index), g.wort}});
+    }
+    grdeinst(group::check).setContainer(grdeinst(group::sound));
+}
+
+form::Group* Groups::find(int index) const {
+    for (form::Group& gruppe : grdeinst)
+        if (gruppe.index() == index) return &gruppe;
+    return nullptr;
+}
+
+void Groups::GruppenOeffnen(bool auswahl) const {
+    each(*this, modus, [auswahl](const Gruppe& g, form::Group& gruppe) {
+        if (!auswahl || !g.has(wahl)) gruppe.enabled = true;
+        gruppe.backColour = farben::offen;
+    });
+}
+
+void Groups::lockForTraining() const {
+    each(*this, modus, [](const Gruppe&, form::Group& gruppe) { sperren(gruppe); });
+}
+
+void Groups::lockForExam() const {
+    each(*this, pruefung, [](const Gruppe&, form::Group& gruppe) { sperren(gruppe); });
+}
+
+void Groups::enableForPicking(bool enabled) const {
+    each(*this, wahl, [&](const Gruppe& g, form::Group& gruppe) {
+        gruppe.enabled = enabled;
+        geinst_lb(g.index).enabled = enabled;
+    });
+}
+
+}  // namespace setup

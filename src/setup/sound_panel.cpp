@@ -1,0 +1,147 @@
+#include "setup/sound_panel.h"
+
+#include "base/rounding.h"
+#include "core/katalog.h"
+#include "sound/klang.h"
+#include "sound/tonlinie.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace setup {
+
+namespace {
+
+namespace katalog = core::katalog;
+
+/// Tuning correction of a note in bend steps. In Pythagorean tuning only white keys have a degree.
+base::i16 korrektur(int stimmung, int note) {
+    const int klasse = note % 12;
+    const auto grad = std::ranges::find(katalog::diatonisch, klasse) - katalog::diatonisch.begin();
+    const bool weiss = grad < std::ssize(katalog::diatonisch);
+    if (stimmung == katalog::stimmung::pythagoreisch && !weiss) return 0;
+    return katalog::stimmKorrektur(stimmung, 0, weiss ? static_cast<int>(grad) : 0, klasse);
+}
+
+}  // namespace
+
+SoundPanel::SoundPanel(core::Formular& form, core::Programm& programm, sound::Midi& midi,
+                       sound::MidiOutput& ausgabe, const Groups& groups, Zweig zweig,
+                       const bool& abbruch)
+    : form_(form),
+      p(programm),
+      z(programm.zustand),
+      midi_(midi),
+      MIDI(ausgabe),
+      zweig_(zweig),
+      abbruch_(abbruch),
+      ComboPatch(form, {"ComboPatch", &groups(group::sound)}),
+      lb15(form, "lb15", klingt(zweig) ? 2 : 4, &groups(group::sound)),
+      temp_Combo(form, {"temp_Combo", &groups(group::sound)}),
+      pic15(form, {"pic15", &groups(group::sound)}),
+      klang_contr(form, {"klang_contr", &groups(group::check)}),
+      lb14(form, "lb14", wennKlang(zweig, {0, 1}), &groups(group::check)),
+      HSliderVolume(form, {"HSliderVolume", &groups(group::check)}, 0, 127),
+      tonHinweis(form, {"tonHinweis"}) {
+    openTempo();
+    form.benennen({{ComboPatch, 365}, {temp_Combo, 547}, {HSliderVolume, 372}});
+    if (klingt(zweig)) {
+        form.beschriften({{klang_contr, 366}, {lb14(0), 372}, {lb15(0), 547}});
+        lb15(1).caption = "=MM";
+    }
+    temp_Combo.onSelect = {"temp_Combo_click.", [this] { z.tempoIdx = temp_Combo.listIndex(); }};
+    ComboPatch.onSelect = {"ComboPatch_click.", [this] { ComboPatch_click(); }};
+    HSliderVolume.onChange = {"HSliderVolume_change.", [this] { HSliderVolume_change(); }};
+    klang_contr.onClick = {"klang_contr_click.", [this] { klang_contr_click(); }};
+    formularFort_ =
+        form.forms().gone.connect([this](form::Form&) { KlangKontrolleAbschliessen(); });
+}
+
+void SoundPanel::KlangEinrichten() {
+    if (!klingt(zweig_)) return;
+    midi_.MidiGeraete(MIDI);
+    midi_.MidiInit(MIDI);
+    MIDI.queueEmpty = [this] { form_.guard("QueueEmpty.", [this] { QueueEmpty(); }); };
+    MIDI.problemChanged = [this] { TonHinweisZeigen(); };
+    sound::Klangliste(ComboPatch);
+    ComboPatch.setListIndex(0);
+    for (const char* tempo : katalog::tempo_name) temp_Combo.add(tempo);
+    temp_Combo.setListIndex(1);
+    HSliderVolume.setValue(100);
+    TonHinweisZeigen();
+}
+
+void SoundPanel::silence() {
+    if (klingt(zweig_)) midi_.MidiReset();
+}
+
+void SoundPanel::disconnect() {
+    if (!klingt(zweig_)) return;
+    MIDI.queueEmpty = nullptr;
+    MIDI.problemChanged = nullptr;
+}
+
+void SoundPanel::chooseTempo(int index) {
+    if (klingt(zweig_)) temp_Combo.setListIndex(index);
+}
+
+void SoundPanel::openTempo() {
+    temp_Combo.enabled = true;
+    temp_Combo.backColour = farben::tempoOffen;
+    temp_Combo.foreColour = base::colours::white;
+}
+
+void SoundPanel::ComboPatch_click() {
+    z.patch.fill(ComboPatch.listIndex());
+    midi_.SetzeKlangfarben(z.patch);
+}
+
+void SoundPanel::HSliderVolume_change() {
+    midi_.setLautstaerke(HSliderVolume.value());
+    lb14(1).caption = " " + std::to_string(HSliderVolume.value());
+}
+
+void SoundPanel::klang_contr_click() {
+    constexpr int noten = 6;
+    const int d = base::rounded((z.FrquMaxAkt - z.FrquMinAkt) / 5.0);
+    verklungen_ = false;
+    klang_contr.enabled = false;
+    onCheck(true);
+    midi_.MidiReset();
+    TonHinweisZeigen();
+    midi_.SetzeKlangfarben(z.patch);
+    std::vector<sound::Linienton> linie;
+    for (int i = 0; i < noten; ++i) {
+        const base::i16 note = z.FrquMinAkt + i * (d - 1);
+        linie.push_back({note, i, korrektur(z.stimmung, note)});
+    }
+    sound::TonlinieLegen(midi_, linie,
+                         {.tondauer = z.tempo_dauer[z.tempoIdx], .stimmung = z.stimmung});
+    midi_.Delay(100, abbruch_);
+    if (!abbruch_) midi_.ausgabe().start();
+}
+
+void SoundPanel::QueueEmpty() {
+    checkEnded();
+    KlangKontrolleAbschliessen();
+}
+
+/// While another form is on top it waits: what is enabled behind that form's back could be pressed.
+void SoundPanel::KlangKontrolleAbschliessen() {
+    if (!verklungen_ || abbruch_) return;
+    const form::Form* vorn = form_.forms().last();
+    if (!vorn || vorn->caption() != form_.caption()) return;
+    verklungen_ = false;
+    klang_contr.enabled = true;
+    onCheck(false);
+}
+
+void SoundPanel::TonHinweisZeigen() {
+    constexpr std::array hinweise{0, 810, 811, 812, 890};  // words
+    const int wort = base::at(hinweise, static_cast<int>(MIDI.problem()));
+    tonHinweis.caption = wort == 0 ? std::string() : p.Wort(wort);
+    tonHinweis.visible = wort != 0;
+}
+
+}  // namespace setup
