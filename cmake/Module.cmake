@@ -1,7 +1,8 @@
 # A folder of src/ is one static library and one namespace. Its USES list is the drawing of the
-# architecture: a folder may include only the folders named there and what those name in turn.
+# architecture: a folder finds the headers of the folders named there, and of those that these name
+# in turn; all others are not there for it.
 #
-#   module(engine SOURCES melodik.cpp ... USES sound results [LIBRARIES PkgConfig::PUGIXML])
+#   module(engine SOURCES melodik.cpp ... USES results [LIBRARIES PkgConfig::PUGIXML])
 function(module name)
   cmake_parse_arguments(M "" "" "SOURCES;USES;LIBRARIES" ${ARGN})
   if(M_SOURCES)
@@ -12,8 +13,16 @@ function(module name)
     add_library(${name} INTERFACE)
     set(scope INTERFACE)
   endif()
-  target_include_directories(${name} ${scope} ${CMAKE_SOURCE_DIR}/src)
+  module_headers(${name} ${name} ${scope})
   target_link_libraries(${name} ${scope} ${M_USES} ${M_LIBRARIES})
+endfunction()
+
+# Lets a target find the headers of a folder of src/ as "folder/file.h", and those of no other one.
+function(module_headers target folder scope)
+  set(alone ${CMAKE_BINARY_DIR}/headers/${folder})
+  file(MAKE_DIRECTORY ${alone})
+  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${alone}/${folder} SYMBOLIC)
+  target_include_directories(${target} ${scope} ${alone})
 endfunction()
 
 # One test binary per folder, linked with that folder and the shared fakes.

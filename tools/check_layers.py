@@ -1,42 +1,20 @@
 #!/usr/bin/env python3
-"""Checks the includes below src/ against the layers, and those of tests/ and bench/ for their form.
+"""Checks what the build cannot see of the includes below src/, tests/ and bench/.
+
+The layers themselves need no check: a folder finds the headers of those that it links, and no
+others (cmake/Module.cmake).
 
 Usage: check_layers.py ROOT        ROOT holds src/. Exit status 1 if anything is wrong.
 
 Faults, each told with file and line:
-  a folder includes, or links, a folder that it may not reach
-  a library other than the standard one is included where it may not be
-  an include of the project is not written "folder/file.h", or there is no such file; tests may
-  name a file of their own folder alone
-  src/ includes something of tests/
+  src/ includes a library where it may not be; many lie on the compiler's own path
+  an include of the project is not written "folder/file.h"; tests may name a file of their own
+  folder alone
   files include each other in a circle
 """
 import pathlib
 import re
 import sys
-
-# What a folder may include besides itself; what those may include is open to it, too.
-LAYERS = {
-    "base": [],
-    "form": ["base"],
-    "core": ["form"],
-    "sound": ["core"],
-    "results": ["core"],
-    "staff": ["core"],
-    "engine": ["results"],
-    "worksheets": ["engine", "sound", "staff"],
-    "setup": ["sound", "results"],
-    "drill": ["worksheets", "setup"],
-    # Adapters and programs: nothing above may include these.
-    "synth": ["sound", "ports"],
-    "hostlink": ["core"],
-    "look": [],
-    "ports": [],
-    "qt": ["drill", "look"],
-    "sim": ["drill"],
-    "melvora": ["hostlink", "look", "ports"],
-    "zepha9": ["drill", "synth", "hostlink", "qt"],
-}
 
 # Libraries by their headers, and the folders that may include them.
 LIBRARIES = [
@@ -58,7 +36,6 @@ GENERATED = re.compile(r"moc_\w+\.cpp|\w+\.moc|ui_\w+\.h")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]*)"|<([^>]*)>)')
 COMMENT = re.compile(r"/\*.*?\*/", re.DOTALL)
-MODULE = re.compile(r"\bmodule\(\s*(\w+)([^()]*)\)")
 
 
 class Include:
@@ -70,14 +47,6 @@ class Include:
 
     def fault(self, text):
         return f"{self.file}:{self.line}: {text}"
-
-
-def reach(folder):
-    """All folders that a folder may include."""
-    found = {folder}
-    for used in LAYERS[folder]:
-        found |= reach(used)
-    return found
 
 
 def sources(root, top):
@@ -94,18 +63,12 @@ def includes(root, file):
 
 
 def form_fault(root, include):
-    """How an include of the project is written, and whether it leads to a file."""
-    if GENERATED.fullmatch(include.name):
+    """How an include of the project is written."""
+    if GENERATED.fullmatch(include.name) or re.fullmatch(r"\w+/[\w/]+\.h", include.name):
         return None
     if include.file.parts[0] != "src" and (root / include.file.parent / include.name).is_file():
         return None
-    if not re.fullmatch(r"\w+/[\w/]+\.h", include.name):
-        return f'"{include.name}" is not of the form "folder/file.h"'
-    if (root / "src" / include.name).is_file():
-        return None
-    if not (root / "tests" / include.name).is_file():
-        return f'there is no "{include.name}"'
-    return f'src includes "{include.name}" of tests' if include.file.parts[0] == "src" else None
+    return f'"{include.name}" is not of the form "folder/file.h"'
 
 
 def target_of(root, include):
@@ -115,13 +78,8 @@ def target_of(root, include):
                  if (root / place / include.name).is_file()), None)
 
 
-def layer_fault(include):
-    """Whether a folder of src may include what it includes."""
-    if include.quoted:
-        target = include.name.split("/")[0]
-        if target not in LAYERS or target in reach(include.folder):
-            return None
-        return f"{include.folder} may not include {target}: {include.name}"
+def library_fault(include):
+    """Whether a folder of src may include that library."""
     if STANDARD.fullmatch(include.name):
         return None
     for pattern, folders in LIBRARIES:
@@ -152,45 +110,22 @@ def circles(graph):
     return sorted(found)
 
 
-def link_faults(root):
-    """What the build links must be what the layers allow."""
-    for folder in sorted(LAYERS):
-        script = root / "src" / folder / "CMakeLists.txt"
-        if not script.is_file():
-            continue
-        text = script.read_text(encoding="utf-8")
-        for match in MODULE.finditer(text):
-            words = match[2].split()
-            if "USES" not in words:
-                continue
-            used = words[words.index("USES") + 1:]
-            if "LIBRARIES" in used:
-                used = used[:used.index("LIBRARIES")]
-            line = text.count("\n", 0, match.start()) + 1
-            for name in used:
-                if name not in reach(folder):
-                    yield f"src/{folder}/CMakeLists.txt:{line}: {folder} may not use {name}"
-
-
 def check(root):
     """All faults below ROOT and the number of files read."""
     faults, graph = [], {}
     files = [f for top in ("src", "tests", "bench") for f in sources(root, top)]
     for file in files:
-        if file.parts[0] == "src" and file.parts[1] not in LAYERS:
-            faults.append(f"{file}:1: the folder {file.parts[1]} has no layer; see LAYERS")
-            continue
         for include in includes(root, file):
             fault = form_fault(root, include) if include.quoted else None
-            if fault is None and file.parts[0] == "src":
-                fault = layer_fault(include)
+            if not include.quoted and file.parts[0] == "src":
+                fault = library_fault(include)
             if fault:
                 faults.append(include.fault(fault))
             elif include.quoted and (target := target_of(root, include)):
                 graph.setdefault(str(file), []).append(target)
     for circle in circles(graph):
         faults.append(f"{circle[0]}:1: a circle: {' -> '.join((*circle, circle[0]))}")
-    return faults + list(link_faults(root)), len(files)
+    return faults, len(files)
 
 
 def main():
