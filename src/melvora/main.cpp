@@ -35,11 +35,11 @@ QString dataFolder(const Options& options) {
 }
 
 /// The file of settings cannot be read.
-class UnreadableFile : public UsageError {
+class UnreadableFile : public base::UsageError {
   public:
     /// @param cause names the file's path
     explicit UnreadableFile(const QString& cause)
-        : UsageError("the settings file cannot be read: " + cause.toStdString()),
+        : base::UsageError("the settings file cannot be read: " + cause.toStdString()),
           text_(Words(Words::installedFolder()).wort(970).arg(cause)) {}
     /// In the system's language.
     const QString& text() const { return text_; }
@@ -84,11 +84,11 @@ bool raiseOther(SocketLock& lock, const std::string& address, const Options& opt
 
 void choose(Host& host, const Options& options) {
     if (options.language && !host.chooseLanguage(*options.language))
-        throw UsageError(
+        throw base::UsageError(
             "--language: " + options.language->toStdString() +
             " is not installed; installed: " + host.words().languages().join(", ").toStdString());
     if (options.user && !host.logIn(*options.user))
-        throw UsageError("--user: no user has the key " + options.user->toStdString());
+        throw base::UsageError("--user: no user has the key " + options.user->toStdString());
     if (options.user && *options.user != nobody && host.userKey() != *options.user)
         throw std::runtime_error("--user: the choice cannot be stored in " +
                                  host.store().database.path().toStdString());
@@ -119,7 +119,7 @@ int run(const Options& options, look::Application& application) {
             throw UnreadableFile(cause);
     const std::string address = hostlink::hostAddress();
     const auto socket = hostlink::socketPath(address);
-    if (!socket) throw UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
+    if (!socket) throw base::UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
     SocketLock lock(*socket,
                     hostlink::addressIsNamed() ? SocketLock::Place::Named : SocketLock::Place::Own);
     if (!lock.held() && raiseOther(lock, address, options)) return 0;

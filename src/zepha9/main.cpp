@@ -1,3 +1,4 @@
+#include "base/environment.h"
 #include "drill/drill.h"
 #include "hostlink/dbus_host.h"
 #include "look/application.h"
@@ -20,8 +21,6 @@
 
 namespace {
 
-std::string environment(const char* name) { return qEnvironmentVariable(name).toStdString(); }
-
 /// What follows an argument, "" when it was not given.
 std::string after(const QStringList& arguments, const QString& name) {
     const auto at = arguments.indexOf(name);
@@ -29,11 +28,11 @@ std::string after(const QStringList& arguments, const QString& name) {
 }
 
 core::Aufruf aufruf(const QStringList& arguments) {
-    const std::string temp = environment("temp");
+    const std::string temp = base::environment("temp");
     const std::string settings = after(arguments, QStringLiteral("--settings"));
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return {.kommandozeile = arguments.mid(1).join(' ').toStdString(),
-            .tempOrdner = temp.empty() ? environment("TEMP") : temp,
+            .tempOrdner = temp.empty() ? base::environment("TEMP") : temp,
             .rechnername = QSysInfo::machineHostName().toStdString(),
             .programmOrdner =
                 (QCoreApplication::applicationDirPath() + "/../share/melvora").toStdString(),
