@@ -1,13 +1,13 @@
 #include "hostlink/dbus_host.h"
 #include "hostlink/host_address.h"
-#include "look/application.h"
-#include "look/fonts_ahead.h"
-#include "look/look.h"
 #include "melvora/main_window.h"
 #include "melvora/options.h"
 #include "melvora/server.h"
 #include "melvora/settings_file.h"
 #include "melvora/socket_lock.h"
+#include "suite/application.h"
+#include "suite/fonts_ahead.h"
+#include "suite/look.h"
 
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -40,7 +40,7 @@ class UnreadableFile : public base::UsageError {
     /// @param cause names the file's path
     explicit UnreadableFile(const QString& cause)
         : base::UsageError("the settings file cannot be read: " + cause.toStdString()),
-          text_(Words(Words::installedFolder()).wort(970).arg(cause)) {}
+          text_(Words(suite::languageFolder()).wort(970).arg(cause)) {}
     /// In the system's language.
     const QString& text() const { return text_; }
 
@@ -94,9 +94,9 @@ void choose(Host& host, const Options& options) {
                                  host.store().database.path().toStdString());
 }
 
-int serve(const std::string& socket, const Options& options, look::Application& application) {
+int serve(const std::string& socket, const Options& options, suite::Application& application) {
     const QString address = QString::fromStdString(hostlink::addressOf(socket));
-    Words words(Words::installedFolder());
+    Words words(suite::languageFolder());
     const QStringList moduleArguments = options.teacher ? QStringList{"--teacher"} : QStringList();
     Host host({dataFolder(options), address, moduleArguments}, words);
     choose(host, options);
@@ -113,7 +113,7 @@ int serve(const std::string& socket, const Options& options, look::Application& 
     return status;
 }
 
-int run(const Options& options, look::Application& application) {
+int run(const Options& options, suite::Application& application) {
     if (options.settingsFile)
         if (const QString cause = whyUnreadable(*options.settingsFile); !cause.isEmpty())
             throw UnreadableFile(cause);
@@ -162,13 +162,13 @@ bool answersAtOnce(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (answersAtOnce(argc, argv)) return 0;
-    const std::jthread fonts = look::readFontsAhead();
-    look::Application application(argc, argv);
+    const std::jthread fonts = suite::readFontsAhead();
+    suite::Application application(argc, argv);
     QApplication::setApplicationName("melvora");
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setDesktopFileName("melvora");
     QApplication::setQuitOnLastWindowClosed(false);
-    look::apply(application);
+    suite::apply(application);
     try {
         return run(parseOptions(QApplication::arguments()), application);
     } catch (const UnreadableFile& error) {
