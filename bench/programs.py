@@ -207,7 +207,8 @@ class Bench:
         with sqlite3.connect(data / "melvora.sqlite") as database:
             database.execute(
                 "WITH RECURSIVE n(i) AS (VALUES(2) UNION ALL SELECT i + 1 FROM n WHERE i < ?)"
-                " INSERT INTO records SELECT 'user' || i, executable, record_key, content"
+                " INSERT INTO records (user_key, executable, record_key, content, stored_at)"
+                " SELECT 'user' || i, executable, record_key, content, stored_at"
                 " FROM n, (SELECT * FROM records LIMIT 1) WHERE i <= ?", (count, count))
             held, = database.execute("SELECT count(*) FROM records").fetchone()
         database.close()

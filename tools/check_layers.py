@@ -18,11 +18,11 @@ import sys
 
 # Libraries by their headers, and the folders that may include them.
 LIBRARIES = [
-    (re.compile(r"Q[A-Z]\w*(/Q\w+)?|Qt\w*|q\w+\.h"), {"hostlink", "look", "qt", "melvora", "zepha9"}),
+    (re.compile(r"Q[A-Z]\w*(/Q\w+)?|Qt\w*|q\w+\.h"), {"hostlink", "suite", "qt", "melvora", "zepha9"}),
     (re.compile(r"fluidsynth(/.*)?\.h"), {"synth"}),
     (re.compile(r"(rtmidi/)?RtMidi\.h"), {"ports"}),
     (re.compile(r"dbus/dbus\.h"), {"melvora"}),
-    (re.compile(r"fontconfig(/.*)?\.h"), {"look"}),
+    (re.compile(r"fontconfig(/.*)?\.h"), {"suite"}),
     (re.compile(r"pugi\w*\.hpp"), {"results", "setup", "sim", "melvora"}),
     (re.compile(r"expat\.h"), {"setup"}),
     (re.compile(r"unistd\.h"), {"base", "ports", "synth", "hostlink", "qt", "sim", "melvora",

@@ -30,7 +30,7 @@ void expectPage(const melvora::ResultRecord& record, const QString& html) {
 }
 
 void tryRecord(const QByteArray& bytes) {
-    static const melvora::Words words(melvora::Words::installedFolder());
+    static const melvora::Words words(suite::languageFolder());
     const auto record = melvora::parseResultRecord(bytes);
     if (!record) return;
     law(!record->program.isNull() && record->rightFirst() <= record->answered() &&

@@ -63,7 +63,7 @@ class Stage {
 
   private:
     QTemporaryDir folder_;
-    melvora::Words words_{melvora::Words::installedFolder()};
+    melvora::Words words_{suite::languageFolder()};
     melvora::Host host_{{folder_.path(), "unix:path=/nowhere", {}}, words_};
     melvora::Requests requests_{host_};
     std::string socket_ = folder_.filePath("host").toStdString();

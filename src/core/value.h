@@ -23,6 +23,7 @@ class Value {
     Value(Array items) : v_(std::move(items)) {}
 
     bool isEmpty() const { return std::holds_alternative<std::monostate>(v_); }
+    bool isText() const { return std::holds_alternative<std::string>(v_); }
     bool isArray() const { return std::holds_alternative<Array>(v_); }
     /// The items of an array; an empty list for anything else.
     const Array& items() const;

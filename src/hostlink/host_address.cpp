@@ -1,10 +1,11 @@
 #include "hostlink/host_address.h"
 
+#include "base/environment.h"
+
 #include <QByteArray>
 
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace hostlink {
@@ -12,11 +13,6 @@ namespace hostlink {
 namespace {
 
 constexpr std::string_view prefix = "unix:path=";
-
-std::string variable(const char* name) {
-    const char* text = std::getenv(name);
-    return text ? text : "";
-}
 
 std::string temporaryFolder() {
     std::error_code failed;
@@ -26,12 +22,12 @@ std::string temporaryFolder() {
 
 }  // namespace
 
-bool addressIsNamed() { return !variable("MELVORA_HOST_ADDRESS").empty(); }
+bool addressIsNamed() { return !base::environment("MELVORA_HOST_ADDRESS").empty(); }
 
 std::string hostAddress() {
-    const std::string given = variable("MELVORA_HOST_ADDRESS");
+    const std::string given = base::environment("MELVORA_HOST_ADDRESS");
     if (!given.empty()) return given.front() == '/' ? addressOf(given) : given;
-    const std::string runtime = variable("XDG_RUNTIME_DIR");
+    const std::string runtime = base::environment("XDG_RUNTIME_DIR");
     if (!runtime.empty()) return addressOf(runtime + "/melvora/host");
     return addressOf(temporaryFolder() + "/melvora-" + std::to_string(getuid()) + "/host");
 }

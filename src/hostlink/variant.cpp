@@ -10,11 +10,6 @@ namespace hostlink {
 
 namespace {
 
-bool isText(const core::Value& value) {
-    return value.visit(
-        [](const auto& held) { return std::is_same_v<std::decay_t<decltype(held)>, std::string>; });
-}
-
 struct AsVariant {
     QVariant operator()(std::monostate) const { return QVariant::fromValue<uchar>(0); }
     QVariant operator()(bool truth) const { return truth; }
@@ -24,7 +19,7 @@ struct AsVariant {
     QVariant operator()(double number) const { return number; }
     QVariant operator()(const std::string& text) const { return QString::fromUtf8(text.c_str()); }
     QVariant operator()(const core::Value::Array& items) const {
-        if (!items.empty() && std::ranges::all_of(items, isText)) return texts(items);
+        if (!items.empty() && std::ranges::all_of(items, &core::Value::isText)) return texts(items);
         QVariantList list;
         list.reserve(static_cast<qsizetype>(items.size()));
         for (const auto& item : items) list.append(toVariant(item));

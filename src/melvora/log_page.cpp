@@ -1,5 +1,7 @@
 #include "melvora/log_page.h"
 
+#include "suite/look.h"
+
 #include <QVBoxLayout>
 
 namespace melvora {
@@ -20,7 +22,7 @@ LogPage::LogPage(Host& host, QWidget* parent)
     filter->addWidget(text_, 1);
     filter->addWidget(kind_);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setContentsMargins(suite::pageMargins);
     layout->addLayout(filter);
     layout->addWidget(table_);
     connect(text_, &QLineEdit::textChanged, this, [this] { refresh(); });

@@ -1,13 +1,13 @@
 #include "hostlink/dbus_host.h"
 #include "hostlink/host_address.h"
-#include "look/application.h"
-#include "look/fonts_ahead.h"
-#include "look/look.h"
 #include "melvora/main_window.h"
 #include "melvora/options.h"
 #include "melvora/server.h"
 #include "melvora/settings_file.h"
 #include "melvora/socket_lock.h"
+#include "suite/application.h"
+#include "suite/fonts_ahead.h"
+#include "suite/look.h"
 
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -35,12 +35,12 @@ QString dataFolder(const Options& options) {
 }
 
 /// The file of settings cannot be read.
-class UnreadableFile : public UsageError {
+class UnreadableFile : public base::UsageError {
   public:
     /// @param cause names the file's path
     explicit UnreadableFile(const QString& cause)
-        : UsageError("the settings file cannot be read: " + cause.toStdString()),
-          text_(Words(Words::installedFolder()).wort(970).arg(cause)) {}
+        : base::UsageError("the settings file cannot be read: " + cause.toStdString()),
+          text_(Words(suite::languageFolder()).wort(970).arg(cause)) {}
     /// In the system's language.
     const QString& text() const { return text_; }
 
@@ -84,19 +84,19 @@ bool raiseOther(SocketLock& lock, const std::string& address, const Options& opt
 
 void choose(Host& host, const Options& options) {
     if (options.language && !host.chooseLanguage(*options.language))
-        throw UsageError(
+        throw base::UsageError(
             "--language: " + options.language->toStdString() +
             " is not installed; installed: " + host.words().languages().join(", ").toStdString());
     if (options.user && !host.logIn(*options.user))
-        throw UsageError("--user: no user has the key " + options.user->toStdString());
+        throw base::UsageError("--user: no user has the key " + options.user->toStdString());
     if (options.user && *options.user != nobody && host.userKey() != *options.user)
         throw std::runtime_error("--user: the choice cannot be stored in " +
                                  host.store().database.path().toStdString());
 }
 
-int serve(const std::string& socket, const Options& options, look::Application& application) {
+int serve(const std::string& socket, const Options& options, suite::Application& application) {
     const QString address = QString::fromStdString(hostlink::addressOf(socket));
-    Words words(Words::installedFolder());
+    Words words(suite::languageFolder());
     const QStringList moduleArguments = options.teacher ? QStringList{"--teacher"} : QStringList();
     Host host({dataFolder(options), address, moduleArguments}, words);
     choose(host, options);
@@ -113,13 +113,13 @@ int serve(const std::string& socket, const Options& options, look::Application& 
     return status;
 }
 
-int run(const Options& options, look::Application& application) {
+int run(const Options& options, suite::Application& application) {
     if (options.settingsFile)
         if (const QString cause = whyUnreadable(*options.settingsFile); !cause.isEmpty())
             throw UnreadableFile(cause);
     const std::string address = hostlink::hostAddress();
     const auto socket = hostlink::socketPath(address);
-    if (!socket) throw UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
+    if (!socket) throw base::UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
     SocketLock lock(*socket,
                     hostlink::addressIsNamed() ? SocketLock::Place::Named : SocketLock::Place::Own);
     if (!lock.held() && raiseOther(lock, address, options)) return 0;
@@ -162,13 +162,13 @@ bool answersAtOnce(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (answersAtOnce(argc, argv)) return 0;
-    const std::jthread fonts = look::readFontsAhead();
-    look::Application application(argc, argv);
+    const std::jthread fonts = suite::readFontsAhead();
+    suite::Application application(argc, argv);
     QApplication::setApplicationName("melvora");
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setDesktopFileName("melvora");
     QApplication::setQuitOnLastWindowClosed(false);
-    look::apply(application);
+    suite::apply(application);
     try {
         return run(parseOptions(QApplication::arguments()), application);
     } catch (const UnreadableFile& error) {

@@ -1,6 +1,7 @@
 #include "melvora/notice_bar.h"
 
 #include "melvora/wrapped.h"
+#include "suite/look.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
@@ -19,7 +20,7 @@ NoticeBar::NoticeBar(QWidget* parent)
     close_->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     close_->setAutoRaise(true);
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(12, 8, 8, 8);
+    layout->setContentsMargins(suite::margin, suite::gap, suite::gap, suite::gap);
     layout->addWidget(text_, 1);
     layout->addWidget(close_, 0, Qt::AlignTop);
     connect(close_, &QToolButton::clicked, this, &QWidget::hide);

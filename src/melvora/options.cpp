@@ -13,11 +13,12 @@ namespace {
 void takeSettingsFile(const QStringList& files, Options& options) {
     if (files.isEmpty()) return;
     if (files.size() > 1)
-        throw UsageError("only one settings file can be opened: " + files.join(", ").toStdString());
-    if (files.first().isEmpty()) throw UsageError("the settings file's name is empty");
+        throw base::UsageError("only one settings file can be opened: " +
+                               files.join(", ").toStdString());
+    if (files.first().isEmpty()) throw base::UsageError("the settings file's name is empty");
     if (options.module.value_or(settingsModule) != settingsModule)
-        throw UsageError("--start " + options.module->toStdString() + ": a settings file is for " +
-                         settingsModule);
+        throw base::UsageError("--start " + options.module->toStdString() +
+                               ": a settings file is for " + settingsModule);
     options.settingsFile = QFileInfo(files.first()).absoluteFilePath();
     options.module = settingsModule;
 }
@@ -33,7 +34,7 @@ Options parseOptions(const QStringList& arguments) {
                        {"language", "", "name"},
                        {"data", "", "folder"},
                        {"teacher", ""}});
-    if (!parser.parse(arguments)) throw UsageError(parser.errorText().toStdString());
+    if (!parser.parse(arguments)) throw base::UsageError(parser.errorText().toStdString());
     const auto value = [&](const QString& name) {
         return parser.isSet(name) ? std::optional(parser.value(name)) : std::nullopt;
     };
@@ -42,9 +43,10 @@ Options parseOptions(const QStringList& arguments) {
         value("user"),        value("language"),       value("data"),           {}};
     takeSettingsFile(parser.positionalArguments(), options);
     if (options.module && !ModuleProcess::known().contains(*options.module))
-        throw UsageError("--start: unknown module " + options.module->toStdString() +
-                         "; known: " + ModuleProcess::known().join(", ").toStdString());
-    if (options.data && options.data->isEmpty()) throw UsageError("--data: the folder is missing");
+        throw base::UsageError("--start: unknown module " + options.module->toStdString() +
+                               "; known: " + ModuleProcess::known().join(", ").toStdString());
+    if (options.data && options.data->isEmpty())
+        throw base::UsageError("--data: the folder is missing");
     return options;
 }
 

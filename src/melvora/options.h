@@ -1,9 +1,10 @@
 #pragma once
+#include "base/usage_error.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <optional>
-#include <stdexcept>
 
 namespace melvora {
 
@@ -20,15 +21,9 @@ struct Options {
     std::optional<QString> settingsFile;
 };
 
-/// A command line that cannot be carried out.
-class UsageError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
 /// Does not look whether the file of settings is there.
 /// @param arguments with the program's name first
-/// @throws UsageError
+/// @throws base::UsageError
 Options parseOptions(const QStringList& arguments);
 
 /// Text of --help.

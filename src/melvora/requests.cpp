@@ -13,11 +13,6 @@ namespace {
 
 QString qt(const std::string& text) { return QString::fromStdString(text); }
 
-bool isText(const core::Value& value) {
-    return value.visit(
-        [](const auto& held) { return std::is_same_v<std::decay_t<decltype(held)>, std::string>; });
-}
-
 }  // namespace
 
 const Requests::Row* Requests::rowOf(const QString& key) {
@@ -103,7 +98,7 @@ void Requests::login(const core::Value&, core::Value& result) {
 
 Records::Address Requests::addressIn(const core::Value& argument) const {
     for (std::size_t i : {0u, 1u})
-        if (!isText(argument.at(i)) || argument.at(i).text().empty())
+        if (!argument.at(i).isText() || argument.at(i).text().empty())
             throw Refusal("executable and key must be texts");
     return {host_.userKey(), qt(argument.at(0).text()), qt(argument.at(1).text())};
 }
@@ -124,7 +119,7 @@ void Requests::store(const core::Value& argument, core::Value&) {
 }
 
 void Requests::logMessage(const core::Value& argument, core::Value&) {
-    if (!isText(argument)) throw Refusal("the message must be a text");
+    if (!argument.isText()) throw Refusal("the message must be a text");
     host_.log(LogKind::Message, qt(argument.text()));
 }
 

@@ -1,6 +1,7 @@
 #include "melvora/results_page.h"
 
 #include "melvora/record_html.h"
+#include "suite/look.h"
 
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -16,7 +17,7 @@ ResultsPage::ResultsPage(Host& host, QWidget* parent)
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setContentsMargins(suite::pageMargins);
     layout->addWidget(splitter);
     connect(table_, &TextTable::chosen, this, &ResultsPage::showRecord);
     connect(&host_, &Host::resultsChanged, this, [this] { refresh(); });

@@ -1,6 +1,7 @@
 #include "melvora/start_page.h"
 
 #include "melvora/midi_ports.h"
+#include "suite/look.h"
 
 #include <QGridLayout>
 #include <QSignalBlocker>
@@ -25,12 +26,6 @@ class FreshCombo final : public QComboBox {
   private:
     std::function<void()> refresh_;
 };
-
-QFont scaled(QFont font, double factor, QFont::Weight weight = QFont::Normal) {
-    font.setPointSizeF(font.pointSizeF() * factor);
-    font.setWeight(weight);
-    return font;
-}
 
 void select(QComboBox* combo, const QString& data) {
     combo->setCurrentIndex(std::max(0, combo->findData(data)));
@@ -73,9 +68,9 @@ StartPage::StartPage(Host& host, QWidget* parent)
 }
 
 void StartPage::layOut() {
-    title_->setFont(scaled(font(), 2.2));
+    suite::font(*title_, 2.2);
     subtitle_->setForegroundRole(QPalette::PlaceholderText);
-    start_->setFont(scaled(font(), 1.4, QFont::DemiBold));
+    suite::font(*start_, 1.4, QFont::DemiBold);
     start_->setMinimumHeight(3 * fontMetrics().height() + 8);
     start_->setDefault(true);
     start_->setAutoDefault(true);
@@ -102,7 +97,7 @@ void StartPage::layOut() {
     midiLabel_->setBuddy(midi_);
 
     auto* choices = new QGridLayout;
-    choices->setHorizontalSpacing(12);
+    choices->setHorizontalSpacing(suite::margin);
     choices->setVerticalSpacing(10);
     choices->setColumnStretch(1, 1);
     choices->addWidget(userLabel_, 0, 0);
@@ -123,7 +118,7 @@ void StartPage::layOut() {
     column->addLayout(choices);
     column->addSpacing(32);
     column->addWidget(start_);
-    column->addSpacing(8);
+    column->addSpacing(suite::gap);
     column->addWidget(description_);
     column->addStretch(2);
 

@@ -2,6 +2,7 @@
 
 #include "melvora/confirm.h"
 #include "melvora/wrapped.h"
+#include "suite/look.h"
 
 #include <QGridLayout>
 
@@ -14,9 +15,7 @@ TrainingsPanel::TrainingsPanel(Host& host, QWidget* parent)
       table_(new TextTable(this)),
       remove_(new QPushButton(this)),
       hint_(new QLabel(this)) {
-    QFont bold = font();
-    bold.setWeight(QFont::DemiBold);
-    heading_->setFont(bold);
+    suite::font(*heading_, 1, QFont::DemiBold);
     heading_->setTextFormat(Qt::PlainText);
     heading_->setWordWrap(true);
     heading_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -25,7 +24,7 @@ TrainingsPanel::TrainingsPanel(Host& host, QWidget* parent)
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(12);
+    layout->setHorizontalSpacing(suite::margin);
     layout->setVerticalSpacing(6);
     layout->setColumnStretch(0, 1);
     layout->addWidget(heading_, 0, 0);

@@ -2,6 +2,7 @@
 
 #include "melvora/confirm.h"
 #include "melvora/user_dialog.h"
+#include "suite/look.h"
 
 #include <QHBoxLayout>
 
@@ -25,11 +26,11 @@ UsersPage::UsersPage(Host& host, QWidget* parent)
     for (QPushButton* button : {logIn_, logOut_}) buttons->addWidget(button);
     buttons->addStretch();
     auto* users = new QHBoxLayout;
-    users->setSpacing(12);
+    users->setSpacing(suite::margin);
     users->addWidget(table_, 1);
     users->addLayout(buttons);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setContentsMargins(suite::pageMargins);
     layout->setSpacing(16);
     layout->addLayout(users, 1);
     layout->addWidget(trainings_);

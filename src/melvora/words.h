@@ -1,12 +1,10 @@
 #pragma once
-#include "look/toolkit_texts.h"
+#include "suite/languages.h"
 
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
-#include <QTranslator>
 
-#include <memory>
 #include <stdexcept>
 #include <vector>
 
@@ -15,9 +13,6 @@ namespace melvora {
 /// The installed languages and the texts of the one in force.
 class Words {
   public:
-    /// Folder of the language files: MELVORA_I18N, else share/melvora/i18n beside the programs.
-    static QString installedFolder();
-
     /// Takes the system's language where it is installed, else Deutsch, else the first.
     /// @throws std::runtime_error naming the folder when it holds no language.
     explicit Words(const QString& folder);
@@ -35,15 +30,9 @@ class Words {
     QString moment(const QDateTime& moment) const;
 
   private:
-    struct Language {
-        QString name;
-        QString suffix;  ///< last part of the file's name, for example "de"
-        std::unique_ptr<QTranslator> texts;
-    };
-
-    std::vector<Language> languages_;
+    const std::vector<suite::Language> languages_;
     std::size_t chosen_ = 0;
-    look::ToolkitTexts toolkit_;
+    suite::ToolkitTexts toolkit_;
 };
 
 }  // namespace melvora

@@ -1,6 +1,6 @@
 #include "qt/answer_card.h"
 
-#include "look/look.h"
+#include "suite/look.h"
 
 #include <QPainter>
 
@@ -16,8 +16,8 @@ void AnswerCard::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::white);
     painter.setPen(QPen(colour_, 3));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), look::radius,
-                            look::radius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), suite::radius,
+                            suite::radius);
 }
 
 }  // namespace qt

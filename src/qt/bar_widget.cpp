@@ -1,6 +1,6 @@
 #include "qt/bar_widget.h"
 
-#include "look/look.h"
+#include "suite/look.h"
 
 #include <QPainter>
 #include <QToolTip>
@@ -40,14 +40,14 @@ void BarWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(hasFocus() ? QPen(look::accent, 2) : QPen(look::line));
+    painter.setPen(hasFocus() ? QPen(suite::accent, 2) : QPen(suite::line));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(area, 4, 4);
     if (percent() == 0) return;
     QRectF filled = area.adjusted(1, 1, -1, -1);
     filled.setWidth(filled.width() * percent() / 100);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(look::accent);
+    painter.setBrush(suite::accent);
     painter.drawRoundedRect(filled, 3, 3);
 }
 

@@ -1,8 +1,8 @@
 // Push buttons, panels that are buttons or bars, and options.
-#include "look/look.h"
 #include "qt/bar_widget.h"
 #include "qt/binder.h"
 #include "qt/painter_surface.h"
+#include "suite/look.h"
 
 #include <QPushButton>
 #include <QRadioButton>
@@ -35,7 +35,7 @@ QPushButton* Binder::pushButton(C& control) {
             button->setMinimumWidth(button->sizeHint().width() + air);
         }
         if (aspect == Aspect::Colour)
-            look::colours(*button, colour(control.foreColour()), colour(control.backColour()));
+            suite::colours(*button, colour(control.foreColour()), colour(control.backColour()));
     };
     show(Aspect::Caption);
     if (control.coloured()) show(Aspect::Colour);

@@ -1,7 +1,7 @@
 // Combos, lists and sliders.
-#include "look/look.h"
 #include "qt/binder.h"
 #include "qt/painter_surface.h"
+#include "suite/look.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -30,7 +30,7 @@ QWidget* Binder::combo(form::Combo& control) {
         if (aspect == Aspect::Items || aspect == Aspect::Value)
             box->setCurrentIndex(control.listIndex());
         if (aspect == Aspect::Colour) {
-            look::colours(*box, colour(control.foreColour()), colour(control.backColour()));
+            suite::colours(*box, colour(control.foreColour()), colour(control.backColour()));
             box->view()->setPalette(QApplication::palette());
         }
     };

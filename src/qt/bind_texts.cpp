@@ -1,7 +1,7 @@
 // Labels and read-only texts.
-#include "look/look.h"
 #include "qt/binder.h"
 #include "qt/painter_surface.h"
+#include "suite/look.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -20,7 +20,7 @@ QWidget* Binder::label(form::Label& control) {
         if (aspect == Aspect::Caption)
             label->setText(QString::fromStdString(control.caption()).trimmed());
         if (aspect == Aspect::Colour) {
-            look::colours(*label, colour(control.foreColour()), colour(control.backColour()));
+            suite::colours(*label, colour(control.foreColour()), colour(control.backColour()));
             label->setAutoFillBackground(control.backColour() != base::colours::white);
         }
     };

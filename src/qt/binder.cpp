@@ -1,11 +1,11 @@
 #include "qt/binder.h"
 
-#include "look/look.h"
 #include "qt/bar_widget.h"
 #include "qt/group_frame.h"
 #include "qt/painter_surface.h"
 #include "qt/picture_widget.h"
 #include "qt/staff_widget.h"
+#include "suite/look.h"
 
 #include <QAction>
 #include <QCursor>

@@ -1,7 +1,7 @@
 #include "qt/form_window.h"
 
-#include "look/look.h"
 #include "qt/staff_widget.h"
+#include "suite/look.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -67,7 +67,7 @@ void FormWindow::open() {
     if (!opened_) {
         if (beforeOpening) beforeOpening();
         const QRect screen = QApplication::primaryScreen()->availableGeometry();
-        const QSize wanted = (opening_ * look::scale()).expandedTo(minimumSizeHint());
+        const QSize wanted = (opening_ * suite::scale()).expandedTo(minimumSizeHint());
         const QSize size = wanted.boundedTo(screen.size() - QSize(16, 40));
         setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, screen));
         opened_ = true;

@@ -1,6 +1,6 @@
 #include "qt/group_frame.h"
 
-#include "look/look.h"
+#include "suite/look.h"
 
 #include <QPainter>
 
@@ -15,10 +15,10 @@ void GroupFrame::paintEvent(QPaintEvent*) {
     if (!colour_.isValid()) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(look::line);
+    painter.setPen(suite::line);
     painter.setBrush(colour_);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), look::radius,
-                            look::radius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), suite::radius,
+                            suite::radius);
 }
 
 }  // namespace qt

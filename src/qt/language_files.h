@@ -1,22 +1,18 @@
 #pragma once
 #include "core/worte.h"
-
-#include <QString>
+#include "suite/languages.h"
 
 namespace qt {
 
-/// The languages that stand as compiled files in a folder: melvoralang.<suffix>.qm.
+/// The installed languages. What it makes must not outlive it.
 class LanguageFiles final : public core::SprachListe {
   public:
-    explicit LanguageFiles(QString folder) : folder_(std::move(folder)) {}
+    explicit LanguageFiles(const QString& folder) : languages_(suite::languagesIn(folder)) {}
     std::vector<Sprache> sprachen() override;
     std::unique_ptr<core::SprachObjekt> erzeugen(const std::string& klasse) override;
 
-    /// MELVORA_I18N, else share/melvora/i18n beside the program's folder.
-    static QString installedFolder();
-
   private:
-    QString folder_;
+    const std::vector<suite::Language> languages_;
 };
 
 }  // namespace qt

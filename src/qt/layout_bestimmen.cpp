@@ -1,9 +1,9 @@
 // The worksheets on which a scale is named.
-#include "look/look.h"
 #include "qt/answer_card.h"
 #include "qt/painter_surface.h"
 #include "qt/windows.h"
 #include "qt/worksheet_page.h"
+#include "suite/look.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
@@ -16,8 +16,8 @@ constexpr int answers = 10;
 
 QLabel* digit(Binder& bind, int i) {
     QLabel* label = labelOf(bind, "ziffer", i);
-    look::colours(*label, look::muted);
-    look::font(*label, 0.9, true);
+    suite::colours(*label, suite::muted);
+    suite::font(*label, 0.9, QFont::Bold);
     label->setFixedWidth(14);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     return label;
@@ -47,11 +47,11 @@ QWidget* answerArea(Binder& bind) {
     auto* column = new QVBoxLayout(area);
     column->setContentsMargins(0, 0, 0, 0);
     QLabel* heading = labelOf(bind, "tonarten");
-    look::font(*heading, 1.3, true);
+    suite::font(*heading, 1.3, QFont::Bold);
     if (bind.has("PicBNot")) column->addWidget(bind("PicBNot"), 2);
     column->addWidget(heading);
     auto* grid = new QGridLayout;
-    grid->setSpacing(look::gap);
+    grid->setSpacing(suite::gap);
     for (int i = 0; i < answers; ++i) {
         auto* line = new QHBoxLayout;
         line->setSpacing(2);
@@ -60,7 +60,7 @@ QWidget* answerArea(Binder& bind) {
         QWidget* name = bind("tonart", i);
         name->setMinimumHeight(56);
         name->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        look::font(*name, 1.15);
+        suite::font(*name, 1.15);
         line->addWidget(name, 1);
         grid->addLayout(line, i / 2, i % 2);
     }

@@ -1,5 +1,5 @@
-#include "look/look.h"
 #include "qt/windows.h"
+#include "suite/look.h"
 
 #include <QGridLayout>
 
@@ -11,9 +11,9 @@ void build(FormWindow& window, const char* field, const char* label) {
     Binder& bind = window.binder();
     window.setWindowModality(Qt::ApplicationModal);
     auto* grid = new QGridLayout(&window);
-    grid->setContentsMargins(18, 16, 18, 14);
-    grid->setVerticalSpacing(look::gap);
-    grid->setHorizontalSpacing(look::gap);
+    grid->setContentsMargins(suite::dialogMargins);
+    grid->setVerticalSpacing(suite::gap);
+    grid->setHorizontalSpacing(suite::gap);
     grid->addWidget(bind(label), 0, 0);
     grid->addWidget(bind(field, 0), 0, 1);
     grid->addWidget(bind("cmdSave"), 0, 2);
@@ -21,8 +21,7 @@ void build(FormWindow& window, const char* field, const char* label) {
     grid->addWidget(bind(field, 1), 1, 1, 1, 2);
     grid->setRowStretch(2, 1);
     QWidget* ok = bind("cmdOK");
-    look::font(*ok, 1, true);
-    ok->setMinimumWidth(120);
+    suite::leadingButton(*ok);
     grid->addWidget(ok, 3, 1, 1, 2, Qt::AlignRight);
     grid->setColumnStretch(1, 1);
     window.openWith({560, 170});

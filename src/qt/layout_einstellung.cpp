@@ -1,7 +1,7 @@
-#include "look/look.h"
 #include "qt/picture_widget.h"
 #include "qt/windows.h"
 #include "staff/bild.h"
+#include "suite/look.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -22,11 +22,11 @@ class Groups {
     QVBoxLayout* begin(QBoxLayout* column, int index) {
         QWidget* frame = bind_("grdeinst", index);
         auto* inside = new QVBoxLayout(frame);
-        inside->setContentsMargins(look::margin, look::gap, look::margin, look::gap + 2);
+        inside->setContentsMargins(suite::margin, suite::gap, suite::margin, suite::gap + 2);
         inside->setSpacing(5);
         if (bind_.has("geinst_lb", index)) {
             QWidget* heading = bind_("geinst_lb", index);
-            look::font(*heading, 1, true);
+            suite::font(*heading, 1, QFont::Bold);
             inside->addWidget(heading);
         }
         if (column) column->addWidget(frame);
@@ -62,7 +62,7 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
     auto* note = static_cast<PictureWidget*>(bind("pic15"));
     note->setPicture(staff::viertelnote);
     note->setColour(Qt::transparent);
-    note->setFixedSize(note->sizeHint() * look::scale());
+    note->setFixedSize(note->sizeHint() * suite::scale());
     note->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     tempo->addWidget(note);
     tempo->addWidget(bind("lb15", 1));
@@ -83,7 +83,7 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
 QWidget* chosenScales(Binder& bind, Groups& groups) {
     QVBoxLayout* inside = groups.begin(nullptr, 10);
     auto* lists = new QHBoxLayout;
-    lists->setSpacing(look::margin);
+    lists->setSpacing(suite::margin);
     for (const int list : {0, 1}) {
         auto* column = new QVBoxLayout(bind("kl_rahmen", list));
         column->setContentsMargins(0, 0, 0, 0);
@@ -99,7 +99,7 @@ QWidget* chosenScales(Binder& bind, Groups& groups) {
     state->addWidget(bind("wahlStand"));
     state->addStretch();
     QWidget* hint = bind("lb10", 0);
-    look::font(*hint, 1, true);
+    suite::font(*hint, 1, QFont::Bold);
     state->addWidget(hint);
     inside->addLayout(state);
     return inside->parentWidget();
@@ -111,11 +111,11 @@ void layoutEinstellung(FormWindow& window) {
     Binder& bind = window.binder();
     Groups groups(bind);
     auto* page = new QVBoxLayout(&window);
-    page->setContentsMargins(look::margin, look::margin, look::margin, look::gap);
-    page->setSpacing(look::gap);
+    page->setContentsMargins(suite::margin, suite::margin, suite::margin, suite::gap);
+    page->setSpacing(suite::gap);
 
     auto* inner = new QWidget;
-    inner->setMaximumWidth(static_cast<int>(1200 * look::scale()));
+    inner->setMaximumWidth(static_cast<int>(1200 * suite::scale()));
     auto* scroll = new QScrollArea(&window);
     scroll->setWidget(inner);
     scroll->setWidgetResizable(true);
@@ -125,14 +125,14 @@ void layoutEinstellung(FormWindow& window) {
     page->addWidget(scroll, 1);
     auto* rows = new QVBoxLayout(inner);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(look::gap);
+    rows->setSpacing(suite::gap);
     auto* columns = new QHBoxLayout;
-    columns->setSpacing(look::margin);
+    columns->setSpacing(suite::margin);
     rows->addWidget(chosenScales(bind, groups));
     rows->addLayout(columns, 1);
     const auto column = [&] {
         auto* layout = new QVBoxLayout;
-        layout->setSpacing(look::gap);
+        layout->setSpacing(suite::gap);
         columns->addLayout(layout, 1);
         return layout;
     };
@@ -165,7 +165,7 @@ void layoutEinstellung(FormWindow& window) {
 
     auto* hint = static_cast<QLabel*>(bind("tonHinweis"));
     hint->setWordWrap(true);
-    look::colours(*hint, QColor(0x8A, 0x3B, 0x00));
+    suite::colours(*hint, QColor(0x8A, 0x3B, 0x00));
     page->addWidget(hint);
 
     QWidget* box = bind("aktionsbox");
@@ -176,13 +176,12 @@ void layoutEinstellung(FormWindow& window) {
     actions->addWidget(bind("cmdOptionSave"));
     actions->addStretch();
     QWidget* footer = bind("copyright");
-    look::font(*footer, 0.9);
-    look::colours(*footer, look::muted);
+    suite::quiet(*footer);
     actions->addWidget(footer);
     actions->addStretch();
     actions->addWidget(bind("cmdZurueck"));
     QWidget* ok = bind("cmdOK");
-    look::font(*ok, 1, true);
+    suite::font(*ok, 1, QFont::Bold);
     actions->addWidget(ok);
     page->addWidget(box);
     bind("popPruefung");

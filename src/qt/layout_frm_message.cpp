@@ -1,5 +1,5 @@
-#include "look/look.h"
 #include "qt/windows.h"
+#include "suite/look.h"
 
 #include <QVBoxLayout>
 
@@ -8,15 +8,15 @@ namespace qt {
 void layoutFrmMessage(FormWindow& window) {
     Binder& bind = window.binder();
     auto* page = new QVBoxLayout(&window);
-    page->setContentsMargins(18, 16, 18, 14);
+    page->setContentsMargins(suite::dialogMargins);
     // The title stands on its picture.
     QWidget* picture = bind("picTitel");
     QWidget* title = bind("lblTitel");
-    look::font(*title, 1.15, true);
+    suite::font(*title, 1.15, QFont::Bold);
     auto* band = new QHBoxLayout(picture);
-    band->setContentsMargins(look::margin, look::gap, look::margin, look::gap);
+    band->setContentsMargins(suite::margin, suite::gap, suite::margin, suite::gap);
     band->addWidget(title);
-    picture->setFixedHeight(title->sizeHint().height() + 2 * look::margin);
+    picture->setFixedHeight(title->sizeHint().height() + 2 * suite::margin);
     page->addWidget(picture);
     page->addWidget(bind("txtPrompt"), 1);
     page->addWidget(bind("cmdOK"), 0, Qt::AlignRight);

@@ -1,6 +1,6 @@
-#include "look/look.h"
 #include "qt/picture_widget.h"
 #include "qt/windows.h"
+#include "suite/look.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -11,10 +11,10 @@ void layoutGrdEinst(FormWindow& window) {
     Binder& bind = window.binder();
     auto* page = new QVBoxLayout(&window);
     page->setContentsMargins(24, 20, 24, 12);
-    page->setSpacing(look::margin);
+    page->setSpacing(suite::margin);
 
     auto* pictures = new QHBoxLayout;
-    pictures->setSpacing(look::margin);
+    pictures->setSpacing(suite::margin);
     // A mode that rises, and the one that a minor scale is.
     for (const auto& [name, number] : {std::pair{"PicAktion", 0}, {"MThPic", 5}}) {
         auto* picture = static_cast<PictureWidget*>(bind(name));
@@ -25,30 +25,30 @@ void layoutGrdEinst(FormWindow& window) {
     page->addLayout(pictures);
 
     auto* choices = new QHBoxLayout;
-    choices->setSpacing(look::margin);
+    choices->setSpacing(suite::margin);
     const auto group = [&](int index) {
         QWidget* frame = bind("grdeinst", index);
         auto* column = new QVBoxLayout(frame);
         column->setContentsMargins(18, 14, 18, 14);
-        column->setSpacing(look::gap);
+        column->setSpacing(suite::gap);
         choices->addWidget(frame, 1);
         return column;
     };
     const auto option = [&](QVBoxLayout* column, const char* name, int index) {
         QWidget* widget = bind(name, index);
-        look::font(*widget, 1.15);
+        suite::font(*widget, 1.15);
         column->addWidget(widget);
     };
     QVBoxLayout* branch = group(0);
     QWidget* branchHead = bind("grdeinst_lb", 1);
-    look::font(*branchHead, 1, true);
+    suite::font(*branchHead, 1, QFont::Bold);
     branch->addWidget(branchHead);
     option(branch, "Theoriewahl", 0);
     option(branch, "Theoriewahl", 1);
     branch->addStretch();
     QVBoxLayout* type = group(1);
     QWidget* typeHead = bind("grdeinst_lb", 0);
-    look::font(*typeHead, 1, true);
+    suite::font(*typeHead, 1, QFont::Bold);
     type->addWidget(typeHead);
     option(type, "ueb_typ", 1);
     option(type, "ueb_typ", 4);
@@ -60,13 +60,11 @@ void layoutGrdEinst(FormWindow& window) {
     actions->addStretch();
     actions->addWidget(bind("cmdEnde"));
     QWidget* ok = bind("cmdOK");
-    look::font(*ok, 1, true);
-    ok->setMinimumWidth(120);
+    suite::leadingButton(*ok);
     actions->addWidget(ok);
     page->addLayout(actions);
     QWidget* footer = bind("copyright");
-    look::font(*footer, 0.9);
-    look::colours(*footer, look::muted);
+    suite::quiet(*footer);
     page->addWidget(footer, 0, Qt::AlignRight);
     window.openWith({620, 400});
 }

@@ -1,7 +1,7 @@
 // The worksheets on which a scale is written.
-#include "look/look.h"
 #include "qt/windows.h"
 #include "qt/worksheet_page.h"
+#include "suite/look.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -14,12 +14,12 @@ namespace {
 QWidget* palette(Binder& bind) {
     QWidget* frame = bind("pbNoten");
     auto* fields = new QHBoxLayout(frame);
-    fields->setContentsMargins(look::gap, look::gap, look::gap, look::gap);
-    fields->setSpacing(look::gap);
+    fields->setContentsMargins(suite::gap, suite::gap, suite::gap, suite::gap);
+    fields->setSpacing(suite::gap);
     for (int i = 0; bind.has("NotP", i); ++i) {
         auto* number = new QLabel(QString::number(i + 1));
-        look::colours(*number, look::muted);
-        look::font(*number, 0.9, true);
+        suite::colours(*number, suite::muted);
+        suite::font(*number, 0.9, QFont::Bold);
         fields->addWidget(number);
         QWidget* field = bind("grdnot", i);
         auto* inside = new QHBoxLayout(field);
@@ -35,13 +35,13 @@ QWidget* writingArea(Binder& bind) {
     QWidget* area = bind("PicArb2");
     auto* column = new QVBoxLayout(area);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(look::margin);
+    column->setSpacing(suite::margin);
     auto* tools = new QHBoxLayout;
     tools->addWidget(palette(bind));
     tools->addStretch();
     QWidget* hand = bind("cmdOK");
-    hand->setMinimumSize(static_cast<int>(130 * look::scale()), 48);
-    look::font(*hand, 1.15, true);
+    hand->setMinimumSize(static_cast<int>(130 * suite::scale()), 48);
+    suite::font(*hand, 1.15, QFont::Bold);
     tools->addWidget(hand);
     column->addLayout(tools);
     column->addWidget(bind("PicBNot"), 1);

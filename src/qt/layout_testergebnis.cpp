@@ -1,7 +1,7 @@
-#include "look/look.h"
 #include "qt/windows.h"
 #include "qt/worksheet_page.h"
 #include "results/testergebnis.h"
+#include "suite/look.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -14,7 +14,7 @@ namespace {
 
 void heading(Binder& bind, QVBoxLayout* column, const char* name) {
     QWidget* head = bind(name);
-    look::font(*head, 1.15, true);
+    suite::font(*head, 1.15, QFont::Bold);
     column->addWidget(head);
 }
 
@@ -26,7 +26,7 @@ QWidget* resultRows(FormWindow& window) {
     column->setContentsMargins(0, 0, 0, 0);
     auto* grid = new QGridLayout;
     grid->setVerticalSpacing(3);
-    grid->setHorizontalSpacing(look::gap);
+    grid->setHorizontalSpacing(suite::gap);
     grid->setColumnStretch(1, 1);
     column->addLayout(grid);
     struct Row {
@@ -43,8 +43,8 @@ QWidget* resultRows(FormWindow& window) {
     }
     const std::vector<QWidget*> headings{bind("Lab_richtung", 0), bind("Lab_richtung", 1)};
     for (QWidget* head : headings) {
-        look::font(*head, 1, true);
-        look::colours(*head, look::accent);
+        suite::font(*head, 1, QFont::Bold);
+        suite::colours(*head, suite::accent);
     }
     window.beforeOpening = [rows, headings, grid, &bind] {
         const int each = static_cast<results::Testergebnis&>(bind.form()).zeilenJeRichtung();
@@ -61,11 +61,11 @@ QWidget* resultRows(FormWindow& window) {
     auto* total = new QHBoxLayout;
     QWidget* name = bind("Lab_gesamt");
     QWidget* percent = bind("gesamt");
-    for (QWidget* label : {name, percent}) look::font(*label, 1.25, true);
+    for (QWidget* label : {name, percent}) suite::font(*label, 1.25, QFont::Bold);
     total->addWidget(name);
     total->addStretch();
     total->addWidget(percent);
-    column->addSpacing(look::gap);
+    column->addSpacing(suite::gap);
     column->addLayout(total);
     column->addStretch(1);
     return frame;
@@ -76,11 +76,11 @@ QWidget* weights(Binder& bind) {
     QWidget* frame = bind("schwach_cont");
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(look::gap);
+    column->setSpacing(suite::gap);
     heading(bind, column, "schwach_head");
     auto* grid = new QGridLayout;
     grid->setVerticalSpacing(3);
-    grid->setHorizontalSpacing(look::margin);
+    grid->setHorizontalSpacing(suite::margin);
     grid->setColumnStretch(0, 1);
     for (int i = 0; bind.has("Lab_schwach", i); ++i) {
         grid->addWidget(bind("Lab_schwach", i), i, 0);
@@ -97,10 +97,10 @@ QWidget* pairs(Binder& bind, const char* frameName, const char* keys, const char
     auto* grid = new QGridLayout(frame);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(2);
-    grid->setHorizontalSpacing(look::margin);
+    grid->setHorizontalSpacing(suite::margin);
     for (int i = 0; bind.has(keys, i); ++i) {
         QLabel* key = labelOf(bind, keys, i);
-        look::colours(*key, look::muted);
+        suite::colours(*key, suite::muted);
         QLabel* value = labelOf(bind, values, i);
         value->setWordWrap(true);
         for (QLabel* label : {key, value}) label->setAlignment(Qt::AlignTop);
@@ -127,23 +127,23 @@ QWidget* scrolled(QWidget* contents, QWidget& window) {
 void layoutTestergebnis(FormWindow& window) {
     Binder& bind = window.binder();
     auto* page = new QVBoxLayout(&window);
-    page->setContentsMargins(20, 16, 20, look::margin);
-    page->setSpacing(look::margin);
+    page->setContentsMargins(20, 16, 20, suite::margin);
+    page->setSpacing(suite::margin);
     auto* contents = new QWidget;
     auto* columns = new QHBoxLayout(contents);
-    columns->setContentsMargins(0, 0, look::margin, 0);
+    columns->setContentsMargins(0, 0, suite::margin, 0);
     columns->setSpacing(28);
     auto* left = new QVBoxLayout;
-    left->setSpacing(look::gap);
+    left->setSpacing(suite::gap);
     heading(bind, left, "erg_head");
     left->addWidget(resultRows(window), 1);
     columns->addLayout(left, 1);
     columns->addWidget(weights(bind));
     auto* right = new QVBoxLayout;
-    right->setSpacing(look::gap);
+    right->setSpacing(suite::gap);
     heading(bind, right, "grd_einst_head");
     right->addWidget(pairs(bind, "gr_einst", "g_einst_lab", "g_einst_inh"));
-    right->addSpacing(look::margin);
+    right->addSpacing(suite::margin);
     heading(bind, right, "einst_head");
     right->addWidget(pairs(bind, "einst_cont", "einst_lab", "einst_Inh"));
     right->addStretch(1);
@@ -158,8 +158,7 @@ void layoutTestergebnis(FormWindow& window) {
     actions->addWidget(bind("cmdPrint"));
     actions->addStretch();
     QWidget* ok = bind("cmdOK");
-    look::font(*ok, 1, true);
-    ok->setMinimumWidth(120);
+    suite::leadingButton(*ok);
     actions->addWidget(ok);
     page->addWidget(buttons);
     window.openWith({860, 620});

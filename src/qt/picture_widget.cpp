@@ -1,8 +1,8 @@
 #include "qt/picture_widget.h"
 
-#include "look/look.h"
 #include "qt/painter_surface.h"
 #include "staff/bild.h"
+#include "suite/look.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -75,7 +75,7 @@ void PictureWidget::paintEvent(QPaintEvent*) {
     painter.drawPixmap(0, 0, drawn());
     if (!hasFocus()) return;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(look::accent, 2));
+    painter.setPen(QPen(suite::accent, 2));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 4, 4);
 }
 

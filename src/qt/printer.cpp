@@ -1,5 +1,6 @@
 #include "qt/printer.h"
 
+#include "base/environment.h"
 #include "qt/bar_widget.h"
 
 #include <QLabel>
@@ -99,7 +100,7 @@ void QtPrinter::print(form::Form& form) {
     QWidget* paper = paperOf_(form);
     if (!paper) return;
     // MELVORA_PRINT_FILE stands for a printer where there is none.
-    printWidget(*paper, qEnvironmentVariable("MELVORA_PRINT_FILE").toStdString());
+    printWidget(*paper, base::environment("MELVORA_PRINT_FILE"));
 }
 
 }  // namespace qt

@@ -1,8 +1,8 @@
 #include "qt/staff_widget.h"
 
 #include "form/form.h"
-#include "look/look.h"
 #include "qt/painter_surface.h"
+#include "suite/look.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -109,7 +109,7 @@ void StaffWidget::surfaceChanged(form::Aspect aspect) {
 
 QSize StaffWidget::sizeHint() const {
     const Rechteck& place = surface_.lage();
-    return (QSizeF(place.breite, place.hoehe) * look::scale()).toSize();
+    return (QSizeF(place.breite, place.hoehe) * suite::scale()).toSize();
 }
 
 QSize StaffWidget::minimumSizeHint() const {
@@ -162,7 +162,7 @@ void StaffWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.drawPixmap(origin(), drawn());
     if (!isEnabled()) {
-        QColor veil = look::page;
+        QColor veil = suite::page;
         veil.setAlpha(90);
         painter.fillRect(QRectF(origin(), QSizeF(drawn_.deviceIndependentSize())), veil);
     }
@@ -175,7 +175,7 @@ void StaffWidget::paintMark(QPainter& painter) const {
     const QRectF place(placeOf(surface_, mark.topLeft()), mark.size() * scale());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-    painter.setPen(QPen(look::accent, 1.5));
+    painter.setPen(QPen(suite::accent, 1.5));
     painter.setBrush(QColor(0xE9, 0xF0, 0xF8));
     painter.drawRoundedRect(place.adjusted(1, 1, -1, -1), 4, 4);
 }
@@ -190,7 +190,7 @@ void StaffWidget::mouseMoveEvent(QMouseEvent* event) {
     if (!surface_.zugbild || !(event->buttons() & Qt::LeftButton) ||
         distance < QApplication::startDragDistance())
         return;
-    const QPixmap picture = pictureOf(*surface_.zugbild, look::scale(), devicePixelRatioF());
+    const QPixmap picture = pictureOf(*surface_.zugbild, suite::scale(), devicePixelRatioF());
     auto* drag = new QDrag(this);
     auto* content = new QMimeData;
     content->setData(dragFormat, QByteArray::number(surface_.index()));

@@ -1,8 +1,8 @@
 // What all worksheets show: result, counters, bar or clock, and the way on, beside their own area.
 #include "qt/worksheet_page.h"
 
-#include "look/look.h"
 #include "qt/group_frame.h"
+#include "suite/look.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -46,14 +46,14 @@ QWidget* sidePanel(Binder& bind) {
     QWidget* side = bind("PicArb1");
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(look::gap);
+    column->setSpacing(suite::gap);
 
     if (bind.has("aufg")) {
         column->addWidget(labelOf(bind, "Label2"));
         QLabel* scale = labelOf(bind, "aufg");
         scale->setWordWrap(true);
-        look::font(*scale, 1.5, true);
-        look::colours(*scale, look::accent);
+        suite::font(*scale, 1.5, QFont::Bold);
+        suite::colours(*scale, suite::accent);
         column->addWidget(scale);
     }
 
@@ -62,13 +62,13 @@ QWidget* sidePanel(Binder& bind) {
     result->setWordWrap(true);
     result->setMinimumHeight(64);
     result->setAutoFillBackground(true);
-    look::font(*result, 1.2, true);
+    suite::font(*result, 1.2, QFont::Bold);
     column->addWidget(result);
 
     auto* counters = new QGridLayout;
     counters->setVerticalSpacing(2);
     const auto counter = [&](int row, QLabel* name, QLabel* number) {
-        look::font(*number, 1.25, true);
+        suite::font(*number, 1.25, QFont::Bold);
         number->setAlignment(Qt::AlignRight);
         counters->addWidget(name, row, 0);
         counters->addWidget(number, row, 1);
@@ -78,7 +78,7 @@ QWidget* sidePanel(Binder& bind) {
     if (bind.has("whlgzaehler"))
         counter(2, labelOf(bind, "whlgzaehler_lb"), labelOf(bind, "whlgzaehler"));
     column->addLayout(counters);
-    column->addSpacing(look::gap);
+    column->addSpacing(suite::gap);
 
     const auto tall = [&](const char* name) {
         QWidget* button = bind(name);
@@ -86,12 +86,12 @@ QWidget* sidePanel(Binder& bind) {
         column->addWidget(button);
         return button;
     };
-    look::font(*tall("CmdNextAufg"), 1, true);
+    suite::font(*tall("CmdNextAufg"), 1, QFont::Bold);
     QLabel* next = labelOf(bind, "LbNextAufg");
     next->setAlignment(Qt::AlignCenter);
     next->setMinimumHeight(40);
-    look::font(*next, 1, true);
-    look::colours(*next, look::accent);
+    suite::font(*next, 1, QFont::Bold);
+    suite::colours(*next, suite::accent);
     column->addWidget(next);
     for (const char* more : {"wieder", "wieder2", "eigene", "schrittmarken"})
         if (bind.has(more)) tall(more);
@@ -106,7 +106,7 @@ QWidget* sidePanel(Binder& bind) {
     bar->addWidget(flood);
     for (const int i : {0, 1, 2}) {
         QLabel* caption = labelOf(bind, "ergebnis_anz", i);
-        look::font(*caption, 1, true);
+        suite::font(*caption, 1, QFont::Bold);
         bar->addWidget(caption);
     }
     column->addWidget(training);
@@ -115,7 +115,7 @@ QWidget* sidePanel(Binder& bind) {
     clock->setContentsMargins(0, 0, 0, 0);
     for (const char* name : {"stop_uhr", "lab_aufgaben"}) {
         QLabel* line = labelOf(bind, name);
-        look::font(*line, 1.1, true);
+        suite::font(*line, 1.1, QFont::Bold);
         clock->addWidget(line);
     }
     clock->addWidget(bind("cmd_test_aus"));
@@ -123,7 +123,7 @@ QWidget* sidePanel(Binder& bind) {
     column->addWidget(exam);
     column->addStretch();
     tall("zurueck");
-    side->setFixedWidth(static_cast<int>(sideWidth * look::scale()));
+    side->setFixedWidth(static_cast<int>(sideWidth * suite::scale()));
     return side;
 }
 
@@ -132,7 +132,7 @@ QWidget* sidePanel(Binder& bind) {
 void worksheetPage(FormWindow& window, QWidget* area) {
     Binder& bind = window.binder();
     auto* page = new QVBoxLayout(&window);
-    page->setContentsMargins(16, look::margin, 16, look::gap);
+    page->setContentsMargins(16, suite::margin, 16, suite::gap);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(20);
     columns->addWidget(sidePanel(bind));
@@ -147,11 +147,10 @@ void worksheetPage(FormWindow& window, QWidget* area) {
     QLabel* clock = labelOf(bind, "Uhr");
     QLabel* copyright = labelOf(bind, "copyright");
     for (QLabel* quiet : {keys, clock, copyright}) {
-        look::font(*quiet, 0.9);
-        look::colours(*quiet, look::muted);
+        suite::quiet(*quiet);
     }
     footer->addWidget(copyright);
-    footer->addSpacing(look::margin);
+    footer->addSpacing(suite::margin);
     footer->addWidget(clock);
     page->addLayout(footer);
 
@@ -161,7 +160,7 @@ void worksheetPage(FormWindow& window, QWidget* area) {
     auto* notice = new QVBoxLayout(wait);
     notice->setContentsMargins(28, 20, 28, 20);
     QWidget* words = bind("WaitMeld");
-    look::font(*words, 1.15, true);
+    suite::font(*words, 1.15, QFont::Bold);
     notice->addWidget(words);
     new InTheMiddle(*wait, window);
     window.openWith({980, 690});

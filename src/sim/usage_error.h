@@ -1,12 +1,8 @@
 #pragma once
-#include <stdexcept>
+#include "base/usage_error.h"
 
 namespace sim {
 
-/// What was asked for on the command line cannot be done; the text says what and why.
-class UsageError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
+using base::UsageError;
 
 }  // namespace sim

@@ -1,11 +1,12 @@
 #include "synth/audio_presence.h"
 
+#include "base/environment.h"
+
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 
 namespace synth {
@@ -13,11 +14,6 @@ namespace synth {
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
 
 /// Whether the kernel knows a card with a playback channel (named like pcmC0D0p).
 bool hasPlaybackCard() {
@@ -55,7 +51,7 @@ bool listens(const std::string& socketFile) {
 std::vector<std::string> presentDrivers() {
     std::vector<std::string> drivers;
     const std::string pulse =
-        pulseAddress(environment("PULSE_SERVER"), environment("XDG_RUNTIME_DIR"));
+        pulseAddress(base::environment("PULSE_SERVER"), base::environment("XDG_RUNTIME_DIR"));
     if (pulse == "tcp" || listens(pulse)) drivers.emplace_back("pulseaudio");
     if (hasPlaybackCard()) drivers.emplace_back("alsa");
     return drivers;

@@ -1,8 +1,6 @@
+#include "base/environment.h"
 #include "drill/drill.h"
 #include "hostlink/dbus_host.h"
-#include "look/application.h"
-#include "look/fonts_ahead.h"
-#include "look/look.h"
 #include "qt/dialogs.h"
 #include "qt/help.h"
 #include "qt/language_files.h"
@@ -10,6 +8,9 @@
 #include "qt/printer.h"
 #include "qt/windows.h"
 #include "setup/einstellungsdatei.h"
+#include "suite/application.h"
+#include "suite/fonts_ahead.h"
+#include "suite/look.h"
 #include "zepha9/lazy_output.h"
 
 #include <QDateTime>
@@ -20,8 +21,6 @@
 
 namespace {
 
-std::string environment(const char* name) { return qEnvironmentVariable(name).toStdString(); }
-
 /// What follows an argument, "" when it was not given.
 std::string after(const QStringList& arguments, const QString& name) {
     const auto at = arguments.indexOf(name);
@@ -29,11 +28,11 @@ std::string after(const QStringList& arguments, const QString& name) {
 }
 
 core::Aufruf aufruf(const QStringList& arguments) {
-    const std::string temp = environment("temp");
+    const std::string temp = base::environment("temp");
     const std::string settings = after(arguments, QStringLiteral("--settings"));
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return {.kommandozeile = arguments.mid(1).join(' ').toStdString(),
-            .tempOrdner = temp.empty() ? environment("TEMP") : temp,
+            .tempOrdner = temp.empty() ? base::environment("TEMP") : temp,
             .rechnername = QSysInfo::machineHostName().toStdString(),
             .programmOrdner =
                 (QCoreApplication::applicationDirPath() + "/../share/melvora").toStdString(),
@@ -56,17 +55,17 @@ core::Aufruf aufruf(const QStringList& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::jthread fonts = look::readFontsAhead();
-    look::Application application(argc, argv);
+    const std::jthread fonts = suite::readFontsAhead();
+    suite::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("zepha9"));
     QApplication::setApplicationVersion(QStringLiteral(MELVORA_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
-    look::apply(application);
+    suite::apply(application);
 
     qt::QtMessageLoop loop;
     qt::QtDialogs dialogs;
     qt::QtHelp help;
-    qt::LanguageFiles languages(qt::LanguageFiles::installedFolder());
+    qt::LanguageFiles languages(suite::languageFolder());
     qt::Windows* shown = nullptr;
     qt::QtPrinter printer([&shown](const form::Form& form) {
         const qt::FormWindow* window = shown->of(form);

@@ -1,11 +1,11 @@
-#include "look/application.h"
-#include "look/look.h"
+#include "suite/application.h"
+#include "suite/look.h"
 
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
-    look::Application application(argc, argv);
-    look::apply(application);
+    suite::Application application(argc, argv);
+    suite::apply(application);
     return RUN_ALL_TESTS();
 }

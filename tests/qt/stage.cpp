@@ -9,7 +9,7 @@ Stage::Stage(const std::string& language)
     : WholeDrill(host,
                  {.tempOrdner = std::filesystem::temp_directory_path().string(),
                   .rechnername = "practice-room-3",
-                  .programmOrdner = (qt::LanguageFiles::installedFolder() + "/..").toStdString()},
+                  .programmOrdner = (suite::languageFolder() + "/..").toStdString()},
                  1, &languages),
       windows(drill.programm.forms) {
     host.language = language;

@@ -9,7 +9,7 @@
 #include <string>
 
 struct WithLanguages {
-    qt::LanguageFiles languages{qt::LanguageFiles::installedFolder()};
+    qt::LanguageFiles languages{suite::languageFolder()};
 };
 
 /// The whole drill with real windows under virtual time: forms open and close as fast as they can.

@@ -1,9 +1,9 @@
 // Every form in a real window, in every language and at several sizes.
-#include "look/application.h"
 #include "pictures.h"
 #include "qt/dialogs.h"
 #include "qt/printer.h"
 #include "stage.h"
+#include "suite/application.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -163,7 +163,7 @@ TEST(Boxes, SpeakTheLanguageOfTheProgram) {
         EXPECT_EQ(dialogs.askYesNo("title", "text"), yes);
     }
     const auto cancel = [] { return QApplication::translate("QPlatformTheme", "Cancel"); };
-    qt::LanguageFiles files(qt::LanguageFiles::installedFolder());
+    qt::LanguageFiles files(suite::languageFolder());
     for (const auto& [suffix, word] : {std::pair{"de", "Abbrechen"}, {"es", "Cancelar"}}) {
         const auto language = files.erzeugen(std::string("melvoralang.") + suffix);
         EXPECT_EQ(cancel(), word);
@@ -172,7 +172,7 @@ TEST(Boxes, SpeakTheLanguageOfTheProgram) {
 }
 
 TEST(Application, CatchesWhatNoHandlerCaught) {
-    auto& application = static_cast<look::Application&>(*QApplication::instance());
+    auto& application = static_cast<suite::Application&>(*QApplication::instance());
     std::vector<std::string> told;
     application.uncaught = [&](const std::exception& fault) { told.emplace_back(fault.what()); };
     QTimer::singleShot(0, [] { throw std::runtime_error("memory is full"); });

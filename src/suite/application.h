@@ -3,7 +3,7 @@
 
 #include <functional>
 
-namespace look {
+namespace suite {
 
 /// The application of a program, with a last net under its event loop: what an event handler
 /// throws and nobody catches is told here, instead of ending the program without a word.
@@ -17,4 +17,4 @@ class Application final : public QApplication {
     bool notify(QObject* receiver, QEvent* event) override;
 };
 
-}  // namespace look
+}  // namespace suite

@@ -1,4 +1,4 @@
-#include "look/look.h"
+#include "suite/look.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace look {
+namespace suite {
 
 void apply(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -32,10 +32,10 @@ double scale() {
     return std::clamp(height / 1030, 1.0, 1.4);
 }
 
-void font(QWidget& widget, double factor, bool bold) {
+void font(QWidget& widget, double factor, QFont::Weight weight) {
     QFont font = widget.font();
     font.setPointSizeF(QApplication::font().pointSizeF() * factor);
-    font.setBold(bold);
+    font.setWeight(weight);
     widget.setFont(font);
 }
 
@@ -50,4 +50,14 @@ void colours(QWidget& widget, const QColor& letters, const QColor& background) {
     widget.setPalette(palette);
 }
 
-}  // namespace look
+void leadingButton(QWidget& button) {
+    font(button, 1, QFont::Bold);
+    button.setMinimumWidth(120);
+}
+
+void quiet(QWidget& label) {
+    font(label, 0.9);
+    colours(label, muted);
+}
+
+}  // namespace suite

@@ -1,12 +1,13 @@
 #pragma once
 #include <QColor>
-#include <QPalette>
+#include <QFont>
+#include <QMargins>
 #include <QWidget>
 
 class QApplication;
 
 /// The calm look that the windows of both programs share.
-namespace look {
+namespace suite {
 
 inline const QColor page{0xF5, 0xF4, 0xF1};
 inline const QColor line{0xCF, 0xCB, 0xC2};
@@ -16,13 +17,19 @@ inline const QColor accent{0x1F, 0x5F, 0x99};
 inline constexpr int margin = 12;
 inline constexpr int gap = 8;
 inline constexpr int radius = 6;
+inline constexpr QMargins pageMargins{margin, margin, margin, margin};
+inline constexpr QMargins dialogMargins{18, 16, 18, 14};
 
 void apply(QApplication& application);
 /// How much larger than on a small screen everything is: 1 to 1.4, by the screen's height.
 double scale();
 /// Scales the widget's font and sets its weight.
-void font(QWidget& widget, double factor, bool bold = false);
+void font(QWidget& widget, double factor, QFont::Weight weight = QFont::Normal);
 /// Text colour, and background where valid.
 void colours(QWidget& widget, const QColor& letters, const QColor& background = {});
+/// Marks the button that leads on: bold, and never narrow.
+void leadingButton(QWidget& button);
+/// A line that stands aside: small and muted.
+void quiet(QWidget& label);
 
-}  // namespace look
+}  // namespace suite

@@ -1,9 +1,9 @@
-#include "look/application.h"
+#include "suite/application.h"
 
 #include <exception>
 #include <stdexcept>
 
-namespace look {
+namespace suite {
 
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
@@ -18,4 +18,4 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     return true;
 }
 
-}  // namespace look
+}  // namespace suite
