@@ -58,6 +58,16 @@ def resident(pid):
     return [int(memory[key].split()[0]) / 1024 for key in ("Rss", "Pss")]
 
 
+def end_softly(pid):
+    """Ends a process that is no child, by force when it does not follow."""
+    os.kill(pid, signal.SIGTERM)
+    limit = time.monotonic() + 5
+    while alive(pid) and time.monotonic() < limit:
+        time.sleep(0.01)
+    if alive(pid):
+        os.kill(pid, signal.SIGKILL)
+
+
 class Program:
     """A started program and when its window came, milliseconds from its start."""
 
@@ -75,14 +85,8 @@ class Program:
         self.mapped, self.painted = map(float, words[1:])
 
     def end(self):
-        if self.pid is None:
-            return
-        os.kill(self.pid, signal.SIGTERM)
-        limit = time.monotonic() + 5
-        while alive(self.pid) and time.monotonic() < limit:
-            time.sleep(0.01)
-        if alive(self.pid):
-            os.kill(self.pid, signal.SIGKILL)
+        if self.pid is not None:
+            end_softly(self.pid)
 
 
 def end(process):
@@ -182,6 +186,38 @@ class Bench:
             yield (f"idle of {title}", f"{used[name]} ticks",
                    f"of {1000 // TICKS} ms, processor time in {idle} s")
 
+    def tool(self, *words):
+        return subprocess.run(["xdotool", *words], env=self.env, text=True, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, check=False).stdout
+
+    def enter(self, title):
+        """Waits for a window, and presses Enter in it."""
+        limit = time.monotonic() + 20
+        while not (found := self.tool("search", "--onlyvisible", "--name", title).split()):
+            if time.monotonic() > limit:
+                raise RuntimeError(f"no window {title}")
+            time.sleep(0.05)
+        self.tool("windowfocus", "--sync", found[0])
+        time.sleep(0.3)
+        self.tool("key", "Return")
+
+    def playing_row(self):
+        host = subprocess.Popen(
+            [self.program("melvora"), "--data", str(self.folder / "playing"), "--language",
+             "English", "--start", "zepha9"],
+            env={**self.env, "MELVORA_MODULE_PATH": str(self.build / "bin")})
+        try:
+            for title in ("Scales: Basic settings", "Identify scales: Setup", "^Identify scales$"):
+                self.enter(title)
+            time.sleep(3)
+            module, = Path(f"/proc/{host.pid}/task/{host.pid}/children").read_text().split()
+            rss, pss = resident(module)
+            end_softly(int(module))
+        finally:
+            end(host)
+        return ("memory of zepha9, playing on the worksheet", f"{rss:.0f} MB",
+                f"resident; {pss:.0f} MB proportional")
+
     def record_rows(self, calls, many):
         for count in (1, many):
             data = self.folder / f"records{count}"
@@ -223,4 +259,6 @@ def rows(build, quick):
     with tempfile.TemporaryDirectory(prefix="melvora-bench") as folder, Display() as display:
         bench = Bench(Path(build).resolve(), display, Path(folder))
         yield from bench.rows(3 if quick else 9, 3 if quick else 10)
+        if shutil.which("xdotool"):
+            yield bench.playing_row()
         yield from bench.record_rows(100 if quick else 500, 1000 if quick else 100000)

@@ -168,7 +168,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setDesktopFileName("melvora");
     QApplication::setQuitOnLastWindowClosed(false);
-    suite::apply(application);
+    suite::apply();
     try {
         return run(parseOptions(QApplication::arguments()), application);
     } catch (const UnreadableFile& error) {

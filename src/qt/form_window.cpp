@@ -5,7 +5,9 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QBackingStore>
 #include <QCloseEvent>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -80,6 +82,13 @@ void FormWindow::open() {
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     form_.handle({"closeBox.", [this] { form_.closeBox(); }});
+}
+
+/// What nobody sees needs no pixels: for a big window they are megabytes.
+void FormWindow::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (QBackingStore* pixels = backingStore(); pixels && !event->spontaneous())
+        pixels->resize({1, 1});
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {

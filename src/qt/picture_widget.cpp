@@ -46,14 +46,15 @@ void PictureWidget::setColour(const QColor& colour) {
     update();
 }
 
-/// Drawn once for a size: a repaint in another colour costs no strokes.
-const QPixmap& PictureWidget::drawn() {
+/// Drawn once for a size: a repaint in another colour costs no strokes. It is all in black, so that
+/// how much of it covers a pixel says everything.
+const QImage& PictureWidget::drawn() {
     const double ratio = devicePixelRatioF();
     const QSize pixels = (QSizeF(size()) * ratio).toSize();
     if (drawn_.size() == pixels && drawn_.devicePixelRatio() == ratio) return drawn_;
-    drawn_ = QPixmap(pixels);
+    drawn_ = QImage(pixels, QImage::Format_Alpha8);
     drawn_.setDevicePixelRatio(ratio);
-    drawn_.fill(Qt::transparent);
+    drawn_.fill(0);
     const auto [wide, high] = staff::bildGroesse(number_);
     const double scale = staffScale(
         std::min((width() - 2.0 * besideIt) / wide, (height() - 2.0 * aboveIt) / high), ratio);
@@ -72,7 +73,7 @@ void PictureWidget::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour_);
     painter.drawRoundedRect(rect(), 4, 4);
-    painter.drawPixmap(0, 0, drawn());
+    painter.drawImage(0, 0, drawn());
     if (!hasFocus()) return;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(suite::accent, 2));

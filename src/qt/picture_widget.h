@@ -1,7 +1,7 @@
 #pragma once
 #include "base/colour.h"
 
-#include <QPixmap>
+#include <QImage>
 #include <QWidget>
 
 #include <functional>
@@ -25,11 +25,11 @@ class PictureWidget final : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    const QPixmap& drawn();
+    const QImage& drawn();
 
     int number_ = -1;
     QColor colour_ = Qt::white;
-    QPixmap drawn_;
+    QImage drawn_;
 };
 
 }  // namespace qt

@@ -8,7 +8,7 @@
 
 namespace suite {
 
-void apply(QApplication& application) {
+void apply() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QPalette palette;
     palette.setColor(QPalette::Window, page);
@@ -24,7 +24,7 @@ void apply(QApplication& application) {
     QApplication::setPalette(palette);
     QFont font = QApplication::font();
     font.setPointSizeF(std::max(10.0, font.pointSizeF()) * scale());
-    application.setFont(font);
+    QApplication::setFont(font);
 }
 
 double scale() {

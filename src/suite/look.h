@@ -4,8 +4,6 @@
 #include <QMargins>
 #include <QWidget>
 
-class QApplication;
-
 /// The calm look that the windows of both programs share.
 namespace suite {
 
@@ -20,7 +18,8 @@ inline constexpr int radius = 6;
 inline constexpr QMargins pageMargins{margin, margin, margin, margin};
 inline constexpr QMargins dialogMargins{18, 16, 18, 14};
 
-void apply(QApplication& application);
+/// Gives the application, which must be there, this look.
+void apply();
 /// How much larger than on a small screen everything is: 1 to 1.4, by the screen's height.
 double scale();
 /// Scales the widget's font and sets its weight.

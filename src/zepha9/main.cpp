@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("zepha9"));
     QApplication::setApplicationVersion(QStringLiteral(MELVORA_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
-    suite::apply(application);
+    suite::apply();
 
     qt::QtMessageLoop loop;
     qt::QtDialogs dialogs;

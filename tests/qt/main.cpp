@@ -6,6 +6,6 @@
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     suite::Application application(argc, argv);
-    suite::apply(application);
+    suite::apply();
     return RUN_ALL_TESTS();
 }
