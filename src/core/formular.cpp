@@ -1,6 +1,7 @@
 #include "core/formular.h"
 
 #include "base/runtime_error.h"
+#include "core/wort.h"
 
 namespace core {
 
@@ -23,7 +24,8 @@ void Formular::benennen(std::initializer_list<Beschriftung> namen) {
 void Formular::failed(const std::string& prozedur, const std::exception& fehler) {
     setPointer(form::Pointer::Arrow);
     p.host.HostFehler(logText(prozedur), fehler);
-    std::string text = Wort(720) + "\n" + Wort(721) + "\n" + Wort(722) + "\n" + Wort(723);
+    std::string text = Wort(wort::errorOccurred) + "\n" + Wort(wort::detailsInLog) + "\n" +
+                       Wort(wort::exerciseIsLeft) + "\n" + Wort(wort::startAgain);
     // Which path cannot be used, and what to do, is worth more than a look into the log.
     const auto* laufzeit = dynamic_cast<const base::RuntimeError*>(&fehler);
     if (laufzeit && laufzeit->number() == static_cast<int>(base::ErrorNumber::PathAccess))

@@ -1,5 +1,6 @@
 #include "core/fortsetzung.h"
 
+#include "core/wort.h"
 #include "form/controls.h"
 
 namespace core {
@@ -13,7 +14,8 @@ void FortsetzungAnbieten(Programm& p, const std::string& formular, bool vorhande
     auto* combo =
         einstellung ? static_cast<form::Combo*>(einstellung->find("training_Combo")) : nullptr;
     if (!combo || combo->count() <= modus::fortsetzung) return;
-    combo->setText(modus::fortsetzung, vorhanden ? p.Wort(565) : keineFortsetzung);
+    combo->setText(modus::fortsetzung,
+                   vorhanden ? p.Wort(wort::continueTraining) : keineFortsetzung);
     combo->setListIndex(gewaehlt);
 }
 

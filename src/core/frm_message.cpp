@@ -1,10 +1,12 @@
 #include "core/frm_message.h"
 
+#include "core/wort.h"
+
 namespace core {
 
 FrmMessage::FrmMessage(Programm& programm) : Formular(programm, "frmMessage") {
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
-    cmdOK.caption = Wort(432);
+    cmdOK.caption = Wort(wort::ok);
 }
 
 void FrmMessage::Message(const std::string& msgCaption, const std::string& msgPrompt) {

@@ -1,6 +1,7 @@
 #include "core/grd_einst.h"
 
 #include "core/formnamen.h"
+#include "core/wort.h"
 
 namespace core {
 
@@ -46,18 +47,18 @@ void GrdEinst::start_timer() {
     p.worte.SprachenLaden();
     p.worte.SpracheSetzen(p.host.HostSprache());
     p.katalog.KatalogInit(p.worte);
-    beschriften({{Theoriewahl(0), 724},
-                 {Theoriewahl(1), 725},
-                 {grdeinst_lb(0), 586},
-                 {grdeinst_lb(1), 825},
-                 {ueb_typ(1), 154},
-                 {ueb_typ(4), 690},
-                 {cmdOK, 432},
-                 {cmdEnde, 223},
-                 {cmdHilfe, 816}});
+    beschriften({{Theoriewahl(0), wort::earTraining},
+                 {Theoriewahl(1), wort::musicTheory},
+                 {grdeinst_lb(0), wort::exerciseType},
+                 {grdeinst_lb(1), wort::branch},
+                 {ueb_typ(1), wort::identify},
+                 {ueb_typ(4), wort::write},
+                 {cmdOK, wort::ok},
+                 {cmdEnde, wort::quit},
+                 {cmdHilfe, wort::help}});
     z.angemeldet = p.host.HostBenutzer().at(0).text() != "unbekannt";
-    setCaption(p.katalog.titelWort + Wort(700) + p.katalog.bereich_name[0]);
-    copyright.caption = Wort(6) + " " + Wort(699) + " " + versionText();
+    setCaption(p.katalog.titelWort + Wort(wort::colon) + p.katalog.bereich_name[0]);
+    copyright.caption = Wort(wort::copyright) + " " + Wort(wort::version) + " " + versionText();
     Theoriewahl(0).choose();
     ueb_typ(1).choose();
     int tempo = 0;

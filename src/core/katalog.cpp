@@ -6,19 +6,19 @@ namespace core {
 
 namespace {
 
-constexpr int nummerWort = 426;
-constexpr int doppelpunkt = 700;
-constexpr int schraegstrich = 701;
-
 /// Names of the scales of the rotating categories, by degree.
 struct RotierendeNamen {
     int skal_typ;
     std::array<int, 7> worte;
 };
 constexpr std::array rotierendeNamen{
-    // words
-    RotierendeNamen{0, {344, 203, 435, 377, 402, 115, 375}},
-    RotierendeNamen{1, {386, 204, 378, 403, 404, 376, 528}},
+    RotierendeNamen{0,
+                    {wort::ionian, wort::dorian, wort::phrygian, wort::lydian, wort::mixolydian,
+                     wort::aeolian, wort::locrian}},
+    RotierendeNamen{
+        1,
+        {wort::melodicMinor, wort::dorianFlat2, wort::lydianSharp5, wort::mixolydianSharp4,
+         wort::mixolydianFlat6, wort::locrianSharp2, wort::superLocrian}},
 };
 
 /// The modes whose lower or upper half a tetrachord is; 0: only one mode.
@@ -28,14 +28,19 @@ struct TetraModi {
     int erster, zweiter;
 };
 constexpr std::array tetraModi{
-    // words
-    TetraModi{0, 0, 344, 402}, TetraModi{0, 1, 344, 377}, TetraModi{2, 0, 435, 375},
-    TetraModi{2, 1, 435, 115}, TetraModi{5, 0, 203, 115}, TetraModi{5, 1, 203, 402},
-    TetraModi{6, 0, 377, 0},   TetraModi{6, 1, 375, 0},
+    TetraModi{0, 0, wort::ionian, wort::mixolydian},
+    TetraModi{0, 1, wort::ionian, wort::lydian},
+    TetraModi{2, 0, wort::phrygian, wort::locrian},
+    TetraModi{2, 1, wort::phrygian, wort::aeolian},
+    TetraModi{5, 0, wort::dorian, wort::aeolian},
+    TetraModi{5, 1, wort::dorian, wort::mixolydian},
+    TetraModi{6, 0, wort::lydian, 0},
+    TetraModi{6, 1, wort::locrian, 0},
 };
 
-constexpr std::array bereichWorte{287, 221, 224};          // words
-constexpr std::array modusWorte{136, 564, 565, 550, 438};  // words
+constexpr std::array bereichWorte{wort::basicSettings, wort::setup, wort::result};
+constexpr std::array modusWorte{wort::tryOut, wort::training, wort::continueTraining, wort::test,
+                                wort::exam};
 
 }  // namespace
 
@@ -45,7 +50,7 @@ void Katalog::KatalogInit(Worte& worte) {
         const auto& kategorie = katalog::kategorie(typ);
         skal_typ_name[typ] = Wort(kategorie.wort);
         for (int nr = 0; nr <= kategorie.skal_max; ++nr)
-            skal_name[typ][nr] = Wort(nummerWort) + " " + std::to_string(nr + 1);
+            skal_name[typ][nr] = Wort(wort::number) + " " + std::to_string(nr + 1);
     }
     for (const auto& [typ, namen] : rotierendeNamen)
         for (int nr = 0; nr < 7; ++nr)
@@ -54,14 +59,14 @@ void Katalog::KatalogInit(Worte& worte) {
         if (skala.wort) skal_name[skala.skal_typ][skala.skala_nr] = Wort(skala.wort);
     for (const auto& modi : tetraModi) {
         std::string& name = tetra_name[modi.skala_nr][modi.richtung];
-        name = Wort(doppelpunkt) + Wort(modi.erster);
-        if (modi.zweiter) name += Wort(schraegstrich) + Wort(modi.zweiter);
+        name = Wort(wort::colon) + Wort(modi.erster);
+        if (modi.zweiter) name += Wort(wort::slash) + Wort(modi.zweiter);
         name += " ";
     }
-    titelWort = Wort(491);
+    titelWort = Wort(wort::scales);
     for (int i = 0; i < 3; ++i) bereich_name[i] = Wort(bereichWorte[static_cast<std::size_t>(i)]);
-    typ_name[1] = Wort(492);
-    typ_name[4] = Wort(718);
+    typ_name[1] = Wort(wort::identifyScales);
+    typ_name[4] = Wort(wort::writeScales);
     for (int i = 0; i < 5; ++i) modus_name[i] = Wort(modusWorte[static_cast<std::size_t>(i)]);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 #include "base/array.h"
 #include "base/i16.h"
+#include "core/wort.h"
 
 #include <algorithm>
 #include <array>
@@ -28,14 +29,13 @@ struct Kategorie {
 };
 
 inline constexpr std::array<Kategorie, kategorienAnz> kategorien{{
-    // words
-    {354, 6, 8, {7, 0}, true},     // church modes
-    {353, 6, 8, {21, 14}, true},   // church modes, variants: modes of the melodic minor
-    {411, 7, 8, {30, 30}, false},  // minor variants
-    {225, 7, 9, {40, 40}, false},  // eight-tone and exotic scales
-    {434, 4, 6, {50, 55}, true},   // pentatonics
-    {265, 8, 7, {60, 60}, false},  // whole-tone, quartal and blues scales
-    {553, 9, 4, {70, 70}, false},  // tetrachords
+    {wort::churchModes, 6, 8, {7, 0}, true},
+    {wort::churchModeVariants, 6, 8, {21, 14}, true},  // modes of the melodic minor
+    {wort::minorVariants, 7, 8, {30, 30}, false},
+    {wort::exoticScales, 7, 9, {40, 40}, false},  // eight-tone and exotic scales
+    {wort::pentatonicScales, 4, 6, {50, 55}, true},
+    {wort::wholeToneQuartalBlues, 8, 7, {60, 60}, false},
+    {wort::tetrachords, 9, 4, {70, 70}, false},
 }};
 
 constexpr const Kategorie& kategorie(int skal_typ) { return base::at(kategorien, skal_typ); }
@@ -70,32 +70,31 @@ struct Skala {
 };
 
 inline constexpr std::array eigeneMuster{
-    // words
-    Skala{2, 0, 460, {0, 2, 3, 5, 7, 8, 10, 12}},      // natural minor
-    Skala{2, 1, 314, {0, 2, 3, 5, 7, 8, 11, 12}},      // harmonic minor
-    Skala{2, 2, 315, {0, 1, 4, 5, 7, 8, 10, 12}},      // fifth mode of harmonic minor
-    Skala{2, 3, 313, {0, 2, 4, 5, 7, 8, 11, 12}},      // harmonic major
-    Skala{2, 4, 386, {0, 2, 3, 5, 7, 9, 11, 12}},      // melodic minor
-    Skala{2, 5, 406, {0, 1, 3, 5, 7, 8, 10, 12}},      // Phrygian form of minor
-    Skala{2, 6, 637, {0, 2, 3, 6, 7, 8, 11, 12}},      // minor with raised fourth
-    Skala{2, 7, 636, {0, 1, 4, 5, 7, 8, 11, 12}},      // double harmonic
-    Skala{3, 0, 241, {0, 1, 3, 4, 5, 7, 8, 10, 12}},   // flamenco
-    Skala{3, 1, 242, {0, 1, 3, 4, 6, 8, 9, 11, 12}},   // flamenco
-    Skala{3, 2, 264, {0, 2, 3, 5, 6, 8, 9, 11, 12}},   // whole-half octatonic
-    Skala{3, 3, 309, {0, 1, 3, 4, 6, 7, 9, 10, 12}},   // half-whole octatonic
-    Skala{3, 4, 147, {0, 2, 4, 5, 7, 9, 10, 11, 12}},  // bebop dominant
-    Skala{3, 5, 148, {0, 2, 4, 5, 7, 8, 9, 11, 12}},   // bebop major
-    Skala{3, 6, 387, {0, 1, 2, 5, 6, 7, 8, 11, 12}},   // fourth mode of limited transposition
-    Skala{3, 7, 389, {0, 2, 4, 5, 6, 8, 10, 11, 12}},  // sixth mode of limited transposition
-    Skala{5, 0, 163, {0, 3, 5, 6, 7, 10, 12}},         // blues
-    Skala{5, 1, 266, {0, 2, 4, 6, 8, 10, 12}},         // whole-tone
-    Skala{5, 2, 388, {0, 1, 5, 6, 7, 11, 12}},         // fifth mode of limited transposition
-    Skala{5, 3, 441, {0, 1, 3, 5, 8, 10, 12}},         // fourths
-    Skala{5, 4, 444, {0, 3, 5, 7, 8, 10, 12}},
-    Skala{5, 5, 442, {0, 2, 3, 5, 7, 10, 12}},
-    Skala{5, 6, 440, {0, 2, 5, 7, 9, 10, 12}},
-    Skala{5, 7, 443, {0, 2, 4, 5, 9, 9, 12}},  // two equal degrees, kept
-    Skala{5, 8, 445, {0, 2, 4, 7, 9, 11, 12}},
+    Skala{2, 0, wort::naturalMinor, {0, 2, 3, 5, 7, 8, 10, 12}},
+    Skala{2, 1, wort::harmonicMinor, {0, 2, 3, 5, 7, 8, 11, 12}},
+    Skala{2, 2, wort::harmonicMinorFifthMode, {0, 1, 4, 5, 7, 8, 10, 12}},
+    Skala{2, 3, wort::harmonicMajor, {0, 2, 4, 5, 7, 8, 11, 12}},
+    Skala{2, 4, wort::melodicMinor, {0, 2, 3, 5, 7, 9, 11, 12}},
+    Skala{2, 5, wort::phrygianMinor, {0, 1, 3, 5, 7, 8, 10, 12}},
+    Skala{2, 6, wort::hungarianMinor, {0, 2, 3, 6, 7, 8, 11, 12}},  // minor with raised fourth
+    Skala{2, 7, wort::doubleHarmonicMajor, {0, 1, 4, 5, 7, 8, 11, 12}},
+    Skala{3, 0, wort::flamenco1, {0, 1, 3, 4, 5, 7, 8, 10, 12}},
+    Skala{3, 1, wort::flamenco2, {0, 1, 3, 4, 6, 8, 9, 11, 12}},
+    Skala{3, 2, wort::octatonicWholeHalf, {0, 2, 3, 5, 6, 8, 9, 11, 12}},
+    Skala{3, 3, wort::octatonicHalfWhole, {0, 1, 3, 4, 6, 7, 9, 10, 12}},
+    Skala{3, 4, wort::bebopDominant, {0, 2, 4, 5, 7, 9, 10, 11, 12}},
+    Skala{3, 5, wort::bebopMajor, {0, 2, 4, 5, 7, 8, 9, 11, 12}},
+    Skala{3, 6, wort::messiaen4, {0, 1, 2, 5, 6, 7, 8, 11, 12}},   // mode of limited transposition
+    Skala{3, 7, wort::messiaen6, {0, 2, 4, 5, 6, 8, 10, 11, 12}},  // mode of limited transposition
+    Skala{5, 0, wort::blues, {0, 3, 5, 6, 7, 10, 12}},
+    Skala{5, 1, wort::wholeTone, {0, 2, 4, 6, 8, 10, 12}},
+    Skala{5, 2, wort::messiaen5, {0, 1, 5, 6, 7, 11, 12}},  // mode of limited transposition
+    Skala{5, 3, wort::fourthsFromC, {0, 1, 3, 5, 8, 10, 12}},
+    Skala{5, 4, wort::fourthsFromG, {0, 3, 5, 7, 8, 10, 12}},
+    Skala{5, 5, wort::fourthsFromD, {0, 2, 3, 5, 7, 10, 12}},
+    Skala{5, 6, wort::fourthsFromA, {0, 2, 5, 7, 9, 10, 12}},
+    Skala{5, 7, wort::fourthsFromE, {0, 2, 4, 5, 9, 9, 12}},  // two equal degrees, kept
+    Skala{5, 8, wort::fourthsFromB, {0, 2, 4, 7, 9, 11, 12}},
     Skala{6, 0, 0, {0, 2, 4, 5}},  // tetrachords
     Skala{6, 1, 0, {0, 1, 4, 5}},
     Skala{6, 2, 0, {0, 1, 3, 5}},

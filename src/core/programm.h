@@ -2,6 +2,7 @@
 #include "base/rnd.h"
 #include "core/host.h"
 #include "core/katalog.h"
+#include "core/wort.h"
 #include "core/worte.h"
 #include "core/zustand.h"
 #include "form/forms.h"
@@ -46,9 +47,11 @@ class Programm {
 
     const std::string& Wort(int id) { return worte.Wort(id); }
     /// The branch and the exercise type in force, as the start form captions them.
-    const std::string& zweig() { return Wort(gehoerbildung(zustand) ? 724 : 725); }
+    const std::string& zweig() {
+        return Wort(gehoerbildung(zustand) ? wort::earTraining : wort::musicTheory);
+    }
     const std::string& uebungsart() {
-        return Wort(zustand.ueb_typ == uebung::bestimmen ? 154 : 690);
+        return Wort(zustand.ueb_typ == uebung::bestimmen ? wort::identify : wort::write);
     }
     /// Shows the small message form with a longer text.
     void Melden(const std::string& titel, const std::string& text);

@@ -1,5 +1,7 @@
 #include "melvora/confirm.h"
 
+#include "core/wort.h"
+
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -8,8 +10,8 @@ namespace melvora {
 bool confirmsDeletion(QWidget* parent, const Words& words, const QString& question) {
     QMessageBox box(QMessageBox::Question, "Melvora", question, QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
-    auto* yes = box.addButton(words.wort(957), QMessageBox::DestructiveRole);
-    box.setDefaultButton(box.addButton(words.wort(923), QMessageBox::RejectRole));
+    auto* yes = box.addButton(words.wort(core::wort::confirmDelete), QMessageBox::DestructiveRole);
+    box.setDefaultButton(box.addButton(words.wort(core::wort::cancel), QMessageBox::RejectRole));
     box.exec();
     return box.clickedButton() == yes;
 }

@@ -1,5 +1,6 @@
 #include "melvora/host.h"
 
+#include "core/wort.h"
 #include "melvora/midi_ports.h"
 #include "melvora/settings_file.h"
 
@@ -9,6 +10,8 @@
 #include <cstdio>
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -29,7 +32,7 @@ Host::Host(Place place, Words& words)
     connect(&module_, &ModuleProcess::started, this, &Host::moduleStarted);
     connect(&module_, &ModuleProcess::ended, this, &Host::onModuleEnded);
     connect(&module_, &ModuleProcess::failed, this, [this](const QString& cause) {
-        notice(words_.wort(941).arg(module_.name(), cause));
+        notice(words_.wort(wort::moduleNotStarted).arg(module_.name(), cause));
         emit moduleEnded();
         emit menuWanted();
     });
@@ -110,13 +113,14 @@ bool Host::startModule(const QString& module, const QString& settingsFile) {
     QStringList arguments = place_.moduleArguments;
     if (!settingsFile.isEmpty()) {
         if (const QString cause = whyUnreadable(settingsFile); !cause.isEmpty()) {
-            notice(words_.wort(970).arg(cause));
+            notice(words_.wort(wort::settingsUnreadable).arg(cause));
             return false;
         }
         arguments << "--settings" << settingsFile;
     }
     if (module_.runs()) {
-        if (!settingsFile.isEmpty()) notice(words_.wort(971).arg(module_.name(), settingsFile));
+        if (!settingsFile.isEmpty())
+            notice(words_.wort(wort::settingsMustWait).arg(module_.name(), settingsFile));
         return true;
     }
     handedOver_ = false;
@@ -127,7 +131,8 @@ bool Host::startModule(const QString& module, const QString& settingsFile) {
 
 void Host::prepareSpool() {
     const QString trouble = collector_.trouble();
-    if (!trouble.isEmpty() && trouble != spoolTrouble_) notice(words_.wort(974).arg(trouble));
+    if (!trouble.isEmpty() && trouble != spoolTrouble_)
+        notice(words_.wort(wort::resultsNotTaken).arg(trouble));
     spoolTrouble_ = trouble;
     spoolWatcher_.addPaths({place_.data, collector_.folder()});
 }
@@ -141,7 +146,7 @@ void Host::takeOver() {
 
 void Host::removeTraining(const Training& training) {
     if (module_.runs()) {
-        emit noticed(words_.wort(968));
+        emit noticed(words_.wort(wort::noDeletingNow));
         return;
     }
     inTurn([this, training] {
@@ -153,7 +158,8 @@ void Host::removeTraining(const Training& training) {
 void Host::onModuleEnded(int status) {
     collect();
     // How a module ends that has handed over is nobody's concern.
-    if (status != 0 && !handedOver_) notice(words_.wort(942).arg(module_.name()).arg(status));
+    if (status != 0 && !handedOver_)
+        notice(words_.wort(wort::moduleEnded).arg(module_.name()).arg(status));
     emit moduleEnded();
     if (!handedOver_) emit menuWanted();
 }
@@ -161,14 +167,14 @@ void Host::onModuleEnded(int status) {
 void Host::collect() {
     const auto take = [this] {
         const bool running = module_.runs() && !handedOver_;
-        const auto harvest =
-            collector_.collect(running ? Collector::When::DuringRun : Collector::When::AfterRun,
-                               [this](const QString& path) {
-                                   const QString text = words_.wort(944).arg(path);
-                                   store_.log.write(LogKind::Error, userKey(), text);
-                                   emit logChanged();
-                                   emit noticed(text);
-                               });
+        const auto harvest = collector_.collect(
+            running ? Collector::When::DuringRun : Collector::When::AfterRun,
+            [this](const QString& path) {
+                const QString text = words_.wort(wort::recordUnreadable).arg(path);
+                store_.log.write(LogKind::Error, userKey(), text);
+                emit logChanged();
+                emit noticed(text);
+            });
         if (harvest.taken > 0) emit resultsChanged();
         // A folder that was away, or closed, tells nothing when it is as it should be again.
         const QString spool = collector_.folder();
@@ -209,8 +215,9 @@ void Host::inTurn(Turns::Operation operation, Turns::End end) {
 
 void Host::tell(const std::exception& fault) {
     const QString cause = QString::fromUtf8(fault.what());
-    if (!dynamic_cast<const StoreError*>(&fault)) return notice(words_.wort(973).arg(cause));
-    emit noticed(words_.wort(945).arg(cause));
+    if (!dynamic_cast<const StoreError*>(&fault))
+        return notice(words_.wort(wort::unexpectedFault).arg(cause));
+    emit noticed(words_.wort(wort::savingFailed).arg(cause));
     // What the store cannot take, its log cannot either.
     if (cause != storeTrouble_) std::fprintf(stderr, "melvora: %s\n", fault.what());
     storeTrouble_ = cause;

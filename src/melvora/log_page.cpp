@@ -1,10 +1,13 @@
 #include "melvora/log_page.h"
 
+#include "core/wort.h"
 #include "suite/look.h"
 
 #include <QVBoxLayout>
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 LogPage::LogPage(Host& host, QWidget* parent)
     : Page(parent),
@@ -33,14 +36,15 @@ LogPage::LogPage(Host& host, QWidget* parent)
 
 void LogPage::retranslate() {
     const Words& words = host_.words();
-    label_->setText(words.wort(934));
-    text_->setPlaceholderText(words.wort(962));
-    const int kinds[] = {960, 939, 940};
+    label_->setText(words.wort(wort::filterLabel));
+    text_->setPlaceholderText(words.wort(wort::searchText));
+    const int kinds[] = {wort::allKinds, wort::logMessage, wort::logError};
     for (int i = 0; i < 3; ++i) kind_->setItemText(i, words.wort(kinds[i]));
-    kind_->setAccessibleName(words.wort(936));
-    table_->setHeadings({words.wort(935), words.wort(959), words.wort(936), words.wort(937)});
-    table_->setEmptyText(words.wort(958));
-    table_->view()->setAccessibleName(words.wort(902));
+    kind_->setAccessibleName(words.wort(wort::logKind));
+    table_->setHeadings({words.wort(wort::logTime), words.wort(wort::userHeading),
+                         words.wort(wort::logKind), words.wort(wort::logText)});
+    table_->setEmptyText(words.wort(wort::noEntries));
+    table_->view()->setAccessibleName(words.wort(wort::logPage));
     refresh();
 }
 
@@ -52,8 +56,10 @@ void LogPage::fill() {
         const Words& words = host_.words();
         QList<QStringList> rows;
         for (const LogLine& line : host_.store().log.lines(filter))
-            rows.append({line.time.toString("yyyy-MM-dd HH:mm:ss"), shownKey(line.user),
-                         words.wort(line.kind == LogKind::Error ? 940 : 939), line.text});
+            rows.append(
+                {line.time.toString("yyyy-MM-dd HH:mm:ss"), shownKey(line.user),
+                 words.wort(line.kind == LogKind::Error ? wort::logError : wort::logMessage),
+                 line.text});
         table_->setRows(rows);
     });
 }

@@ -1,3 +1,4 @@
+#include "core/wort.h"
 #include "hostlink/dbus_host.h"
 #include "hostlink/host_address.h"
 #include "melvora/main_window.h"
@@ -40,7 +41,7 @@ class UnreadableFile : public base::UsageError {
     /// @param cause names the file's path
     explicit UnreadableFile(const QString& cause)
         : base::UsageError("the settings file cannot be read: " + cause.toStdString()),
-          text_(Words(suite::languageFolder()).wort(970).arg(cause)) {}
+          text_(Words(suite::languageFolder()).wort(core::wort::settingsUnreadable).arg(cause)) {}
     /// In the system's language.
     const QString& text() const { return text_; }
 

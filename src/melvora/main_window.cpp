@@ -1,5 +1,6 @@
 #include "melvora/main_window.h"
 
+#include "core/wort.h"
 #include "melvora/log_page.h"
 #include "melvora/results_page.h"
 #include "melvora/start_page.h"
@@ -10,6 +11,8 @@
 #include <QVBoxLayout>
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 MainWindow::MainWindow(Host& host)
     : host_(host), notice_(new NoticeBar(this)), tabs_(new QTabWidget(this)) {
@@ -42,7 +45,7 @@ MainWindow::MainWindow(Host& host)
     connect(&host_, &Host::menuWanted, this, &MainWindow::raiseUp);
     connect(&host_, &Host::raiseWanted, this, [this] {
         if (host_.module().runs())
-            notice_->show(host_.words().wort(943).arg(host_.module().name()));
+            notice_->show(host_.words().wort(wort::moduleRuns).arg(host_.module().name()));
         raiseUp();
     });
 }
@@ -90,12 +93,12 @@ void MainWindow::fill(int tab) {
 }
 
 void MainWindow::retranslate() {
-    const int titles[] = {900, 901, 902, 903};
+    const int titles[] = {wort::startPage, wort::resultsPage, wort::logPage, wort::usersPage};
     for (int tab = 0; tab < tabCount; ++tab) {
         tabs_->setTabText(tab, host_.words().wort(titles[tab]));
         if (Page* page = pages_[static_cast<std::size_t>(tab)]) page->retranslate();
     }
-    notice_->setCloseText(host_.words().wort(952));
+    notice_->setCloseText(host_.words().wort(wort::closeNotice));
 }
 
 }  // namespace melvora

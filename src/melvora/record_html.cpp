@@ -1,8 +1,11 @@
 #include "melvora/record_html.h"
 
+#include "core/wort.h"
 #include "melvora/users.h"
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -19,7 +22,7 @@ QString heading(const QString& text) { return "<h4>" + text.toHtmlEscaped() + "<
 QString answersOf(const Words& words, const ResultRecord::Lesson& lesson) {
     QStringList texts;
     for (const auto& answer : lesson.answers) {
-        const QString judgement = words.wort(answer.right ? 950 : 951);
+        const QString judgement = words.wort(answer.right ? wort::answerRight : wort::answerWrong);
         texts.append(answer.scale.isEmpty() ? judgement
                                             : QString("%1 (%2)").arg(answer.scale, judgement));
     }
@@ -31,23 +34,24 @@ QString answersOf(const Words& words, const ResultRecord::Lesson& lesson) {
 QString shareText(const Words& words, int right, int answered) {
     if (answered == 0) return "–";
     const int percent = (200 * right + answered) / (2 * answered);
-    return words.wort(932).arg(right).arg(answered).arg(percent);
+    return words.wort(wort::rightOfAnswered).arg(right).arg(answered).arg(percent);
 }
 
 QString recordHtml(const Words& words, const ResultRecord& record) {
-    QString html = "<table>" + pair(words.wort(930), record.exercise) +
-                   pair(words.wort(929), record.timestamp) +
-                   pair(words.wort(959), shownKey(record.user)) +
-                   pair(words.wort(931), shareText(words, record.rightFirst(), record.answered())) +
+    QString html = "<table>" + pair(words.wort(wort::exercise), record.exercise) +
+                   pair(words.wort(wort::recordDate), record.timestamp) +
+                   pair(words.wort(wort::userHeading), shownKey(record.user)) +
+                   pair(words.wort(wort::rightAtFirst),
+                        shareText(words, record.rightFirst(), record.answered())) +
                    "</table>";
     if (!record.settings.isEmpty()) {
-        html += heading(words.wort(946)) + "<table>";
+        html += heading(words.wort(wort::recordSettings)) + "<table>";
         for (const auto& [key, value] : record.settings) html += pair(key, value);
         html += "</table>";
     }
     if (record.lessons.isEmpty()) return html;
-    html += heading(words.wort(947)) + "<table><tr>";
-    for (const int number : {954, 948, 953})
+    html += heading(words.wort(wort::recordTasks)) + "<table><tr>";
+    for (const int number : {wort::taskScale, wort::taskAnswers, wort::taskDuration})
         html += cell("<b>" + words.wort(number).toHtmlEscaped() + "</b>");
     html += "</tr>";
     for (const auto& lesson : record.lessons) {

@@ -1,5 +1,6 @@
 #include "melvora/results_page.h"
 
+#include "core/wort.h"
 #include "melvora/record_html.h"
 #include "suite/look.h"
 
@@ -7,6 +8,8 @@
 #include <QVBoxLayout>
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 ResultsPage::ResultsPage(Host& host, QWidget* parent)
     : Page(parent), host_(host), table_(new TextTable(this)), record_(new QTextBrowser(this)) {
@@ -26,11 +29,12 @@ ResultsPage::ResultsPage(Host& host, QWidget* parent)
 
 void ResultsPage::retranslate() {
     const Words& words = host_.words();
-    table_->setHeadings({words.wort(929), words.wort(959), words.wort(930), words.wort(931)});
-    table_->setEmptyText(words.wort(933));
-    table_->view()->setAccessibleName(words.wort(901));
-    record_->setAccessibleName(words.wort(930));
-    record_->setPlaceholderText(words.wort(949));
+    table_->setHeadings({words.wort(wort::recordDate), words.wort(wort::userHeading),
+                         words.wort(wort::exercise), words.wort(wort::rightAtFirst)});
+    table_->setEmptyText(words.wort(wort::noResults));
+    table_->view()->setAccessibleName(words.wort(wort::resultsPage));
+    record_->setAccessibleName(words.wort(wort::exercise));
+    record_->setPlaceholderText(words.wort(wort::chooseResult));
     refresh();
 }
 

@@ -1,5 +1,6 @@
 #include "melvora/start_page.h"
 
+#include "core/wort.h"
 #include "melvora/midi_ports.h"
 #include "suite/look.h"
 
@@ -7,6 +8,8 @@
 #include <QSignalBlocker>
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -137,15 +140,15 @@ void StartPage::layOut() {
 
 void StartPage::retranslate() {
     const Words& words = host_.words();
-    subtitle_->setText(words.wort(904));
-    userLabel_->setText(words.wort(907));
-    manage_->setText(words.wort(956));
+    subtitle_->setText(words.wort(wort::subtitle));
+    userLabel_->setText(words.wort(wort::loggedInLabel));
+    manage_->setText(words.wort(wort::manageUsers));
     manage_->setMinimumWidth(manage_->sizeHint().width() + fontMetrics().height());
-    languageLabel_->setText(words.wort(909));
-    midiLabel_->setText(words.wort(910));
-    start_->setText(words.wort(905));
-    start_->setAccessibleDescription(words.wort(906));
-    description_->setText(words.wort(906));
+    languageLabel_->setText(words.wort(wort::languageLabel));
+    midiLabel_->setText(words.wort(wort::midiDeviceLabel));
+    start_->setText(words.wort(wort::practiseScales));
+    start_->setAccessibleDescription(words.wort(wort::practiseScalesAbout));
+    description_->setText(words.wort(wort::practiseScalesAbout));
     select(language_, words.language());
     showUsers();
     showMidiDevices();
@@ -155,7 +158,7 @@ void StartPage::retranslate() {
 void StartPage::showUsers() {
     host_.guarded([this] {
         user_->clear();
-        user_->addItem(host_.words().wort(908), QString());
+        user_->addItem(host_.words().wort(wort::nobody), QString());
         for (const User& user : host_.store().users.all())
             user_->addItem(QString("%1 (%2)").arg(user.fullName(), user.key), user.key);
         select(user_, host_.user() ? host_.userKey() : QString());
@@ -166,11 +169,12 @@ void StartPage::showMidiDevices() {
     const QString chosen = host_.midiDevice();
     const QSignalBlocker silence(midi_);
     midi_->clear();
-    midi_->addItem(host_.words().wort(911), QString());
+    midi_->addItem(host_.words().wort(wort::builtInSynthesiser), QString());
     for (const QString& port : midiPorts())
         if (const QString name = steadyName(port); midi_->findData(name) < 0)
             midi_->addItem(name, name);
-    if (midi_->findData(chosen) < 0) midi_->addItem(host_.words().wort(912).arg(chosen), chosen);
+    if (midi_->findData(chosen) < 0)
+        midi_->addItem(host_.words().wort(wort::notConnected).arg(chosen), chosen);
     select(midi_, chosen);
 }
 

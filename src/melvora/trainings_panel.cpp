@@ -1,5 +1,6 @@
 #include "melvora/trainings_panel.h"
 
+#include "core/wort.h"
 #include "melvora/confirm.h"
 #include "melvora/wrapped.h"
 #include "suite/look.h"
@@ -7,6 +8,8 @@
 #include <QGridLayout>
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 TrainingsPanel::TrainingsPanel(Host& host, QWidget* parent)
     : QWidget(parent),
@@ -40,16 +43,16 @@ TrainingsPanel::TrainingsPanel(Host& host, QWidget* parent)
 
 void TrainingsPanel::retranslate() {
     const Words& words = host_.words();
-    table_->setHeadings({words.wort(930), words.wort(964)});
+    table_->setHeadings({words.wort(wort::exercise), words.wort(wort::savedOn)});
     table_->setHeightInRows(static_cast<int>(std::size(Trainings::exercises)));
-    table_->setEmptyText(words.wort(966));
-    remove_->setText(words.wort(965));
-    hint_->setText(words.wort(968));
+    table_->setEmptyText(words.wort(wort::noTrainings));
+    remove_->setText(words.wort(wort::deleteTraining));
+    hint_->setText(words.wort(wort::noDeletingNow));
 }
 
 void TrainingsPanel::showUser(const QString& key, const QString& name) {
     name_ = name;
-    heading_->setText(wrapped(host_.words().wort(963).arg(name)));
+    heading_->setText(wrapped(host_.words().wort(wort::savedTrainings).arg(name)));
     table_->view()->setAccessibleName(heading_->text());
     host_.guarded([&] {
         trainings_ = host_.store().trainings.of(key);
@@ -71,7 +74,8 @@ void TrainingsPanel::showButton() {
 void TrainingsPanel::remove() {
     if (!remove_->isEnabled()) return;
     const Training training = trainings_[table_->row()];
-    const QString question = host_.words().wort(967).arg(exerciseName(training), name_);
+    const QString question =
+        host_.words().wort(wort::deleteTrainingQuestion).arg(exerciseName(training), name_);
     if (confirmsDeletion(this, host_.words(), question)) host_.removeTraining(training);
 }
 
@@ -81,17 +85,17 @@ QString TrainingsPanel::exerciseName(const Training& training) const {
         int branch, kind;
     };
     static constexpr Row rows[] = {
-        // words
-        {"1", 724, 154},
-        {"4", 724, 690},
-        {"1b", 725, 154},
-        {"4b", 725, 690},
+        {"1", wort::earTraining, wort::identify},
+        {"4", wort::earTraining, wort::write},
+        {"1b", wort::musicTheory, wort::identify},
+        {"4b", wort::musicTheory, wort::write},
     };
     static_assert(std::size(rows) == std::size(Trainings::exercises));
     const Words& words = host_.words();
     for (const Row& row : rows)
         if (training.exercise == row.exercise)
-            return words.wort(972).arg(words.wort(row.branch), words.wort(row.kind));
+            return words.wort(wort::branchAndType)
+                .arg(words.wort(row.branch), words.wort(row.kind));
     return training.exercise;
 }
 

@@ -1,9 +1,13 @@
 #include "melvora/user_dialog.h"
 
+#include "core/wort.h"
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 UserDialog::UserDialog(Host& host, const std::optional<User>& user, QWidget* parent)
     : QDialog(parent),
@@ -32,28 +36,28 @@ UserDialog::UserDialog(Host& host, const std::optional<User>& user, QWidget* par
 
 void UserDialog::layOut() {
     const Words& words = host_.words();
-    setWindowTitle(words.wort(isNew_ ? 924 : 925));
+    setWindowTitle(words.wort(isNew_ ? wort::newUserTitle : wort::editUserTitle));
     for (QLineEdit* field : {surname_, firstName_, matriculation_, key_}) {
         field->setMaxLength(80);
         field->setMinimumWidth(fontMetrics().averageCharWidth() * 34);
     }
     complaint_->setForegroundRole(QPalette::PlaceholderText);
-    save_->setText(words.wort(922));
+    save_->setText(words.wort(wort::save));
     save_->setDefault(true);
 
     auto* buttons = new QDialogButtonBox(this);
     buttons->addButton(save_, QDialogButtonBox::AcceptRole);
-    buttons->addButton(words.wort(923), QDialogButtonBox::RejectRole);
+    buttons->addButton(words.wort(wort::cancel), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* form = new QFormLayout(this);
     form->setContentsMargins(20, 20, 20, 16);
     form->setSpacing(10);
-    form->addRow(words.wort(918), surname_);
-    form->addRow(words.wort(919), firstName_);
-    form->addRow(words.wort(920), matriculation_);
-    form->addRow(words.wort(921), key_);
+    form->addRow(words.wort(wort::surname), surname_);
+    form->addRow(words.wort(wort::firstName), firstName_);
+    form->addRow(words.wort(wort::matriculation), matriculation_);
+    form->addRow(words.wort(wort::userKey), key_);
     form->addRow(complaint_);
     form->addRow(buttons);
 }
@@ -79,11 +83,11 @@ void UserDialog::check() {
 QString UserDialog::complaint() const {
     const User input = user();
     const Words& words = host_.words();
-    if (input.surname.isEmpty() && input.firstName.isEmpty()) return words.wort(927);
-    if (!isAllowedKey(input.key)) return words.wort(955);
+    if (input.surname.isEmpty() && input.firstName.isEmpty()) return words.wort(wort::enterName);
+    if (!isAllowedKey(input.key)) return words.wort(wort::keyNotAllowed);
     bool taken = false;
     host_.guarded([&] { taken = isNew_ && host_.store().users.find(input.key); });
-    return taken ? words.wort(926).arg(input.key) : QString();
+    return taken ? words.wort(wort::keyTaken).arg(input.key) : QString();
 }
 
 }  // namespace melvora

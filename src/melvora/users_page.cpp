@@ -1,5 +1,6 @@
 #include "melvora/users_page.h"
 
+#include "core/wort.h"
 #include "melvora/confirm.h"
 #include "melvora/user_dialog.h"
 #include "suite/look.h"
@@ -9,6 +10,8 @@
 #include <algorithm>
 
 namespace melvora {
+
+namespace wort = core::wort;
 
 UsersPage::UsersPage(Host& host, QWidget* parent)
     : Page(parent),
@@ -59,14 +62,15 @@ void UsersPage::showEvent(QShowEvent* event) {
 
 void UsersPage::retranslate() {
     const Words& words = host_.words();
-    table_->setHeadings({words.wort(918), words.wort(919), words.wort(920), words.wort(921)});
-    table_->setEmptyText(words.wort(961));
-    table_->view()->setAccessibleName(words.wort(903));
-    add_->setText(words.wort(915));
-    edit_->setText(words.wort(916));
-    remove_->setText(words.wort(917));
-    logIn_->setText(words.wort(913));
-    logOut_->setText(words.wort(914));
+    table_->setHeadings({words.wort(wort::surname), words.wort(wort::firstName),
+                         words.wort(wort::matriculation), words.wort(wort::userKey)});
+    table_->setEmptyText(words.wort(wort::noUsers));
+    table_->view()->setAccessibleName(words.wort(wort::usersPage));
+    add_->setText(words.wort(wort::addUser));
+    edit_->setText(words.wort(wort::editUser));
+    remove_->setText(words.wort(wort::deleteUser));
+    logIn_->setText(words.wort(wort::logIn));
+    logOut_->setText(words.wort(wort::logOut));
     trainings_->retranslate();
     QPushButton* const column[] = {add_, edit_, remove_, logIn_, logOut_, trainings_->button()};
     int width = 0;
@@ -109,7 +113,7 @@ const User* UsersPage::chosen() const {
 }
 
 QString UsersPage::nameOf(const User& user) const {
-    return user.key == nobody ? host_.words().wort(969) : user.fullName();
+    return user.key == nobody ? host_.words().wort(wort::withoutLogin) : user.fullName();
 }
 
 /// Chooses the user with that key, the first one when there is none.
@@ -140,7 +144,7 @@ void UsersPage::remove() {
     const User* user = chosen();
     if (!user || !remove_->isEnabled()) return;
     const QString key = user->key;
-    const QString question = host_.words().wort(928).arg(user->fullName());
+    const QString question = host_.words().wort(wort::deleteUserQuestion).arg(user->fullName());
     if (confirmsDeletion(this, host_.words(), question)) host_.removeUser(key);
 }
 

@@ -3,6 +3,7 @@
 #include "base/rounding.h"
 #include "base/runtime_error.h"
 #include "base/whole_file.h"
+#include "core/wort.h"
 
 #include <sstream>
 #include <string_view>
@@ -89,9 +90,9 @@ void Skalaxml::SkalaXmlSichern(const std::vector<std::string>& liste) {
     try {
         base::writeWhole(datei_, text());
     } catch (const std::system_error& fehler) {
-        throw base::RuntimeError(
-            base::ErrorNumber::PathAccess,
-            core::eingesetzt(p.Wort(815), datei_) + " (" + fehler.code().message() + ")");
+        throw base::RuntimeError(base::ErrorNumber::PathAccess,
+                                 core::eingesetzt(p.Wort(core::wort::recordNotWritten), datei_) +
+                                     " (" + fehler.code().message() + ")");
     }
 }
 

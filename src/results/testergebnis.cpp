@@ -1,12 +1,14 @@
 #include "results/testergebnis.h"
 
 #include "core/formnamen.h"
+#include "core/wort.h"
 
 #include <cstdlib>
 
 namespace results {
 
 namespace colours = base::colours;
+namespace wort = core::wort;
 
 Testergebnis::Testergebnis(core::Programm& programm, Wertung& wertung)
     : Formular(programm, "testergebnis"), wertung_(wertung) {
@@ -27,18 +29,18 @@ void Testergebnis::start_timer() {
 }
 
 void Testergebnis::Beschriften() {
-    setCaption(p.katalog.typ_name[z.ueb_typ] + Wort(700) + p.katalog.bereich_name[2]);
-    beschriften({{erg_head, 803},
-                 {schwach_head, 833},
-                 {einst_head, 820},
-                 {grd_einst_head, 821},
-                 {Lab_gesamt, 805},
-                 {cmdOK, 625},
-                 {cmdPrint, 804},
-                 {cmdHilfe, 816}});
+    setCaption(p.katalog.typ_name[z.ueb_typ] + Wort(wort::colon) + p.katalog.bereich_name[2]);
+    beschriften({{erg_head, wort::resultsPerScale},
+                 {schwach_head, wort::weakestFirst},
+                 {einst_head, wort::settings},
+                 {grd_einst_head, wort::basicData},
+                 {Lab_gesamt, wort::total},
+                 {cmdOK, wort::goOn},
+                 {cmdPrint, wort::print},
+                 {cmdHilfe, wort::help}});
     const bool ab = z.richtung == 1;
-    Lab_richtung(0).caption = Wort(ab ? 83 : 132);
-    Lab_richtung(1).caption = Wort(83);
+    Lab_richtung(0).caption = Wort(ab ? wort::descending : wort::ascending);
+    Lab_richtung(1).caption = Wort(wort::descending);
     Lab_richtung(1).visible = z.richtung == 2;
 }
 
@@ -107,14 +109,14 @@ void Testergebnis::LbGrdEinst() {
         g_einst_inh(zeile).caption = inh;
         ++zeile;
     };
-    zeigen(Wort(189) + Wort(700) + " ", p.ports.loop.now().date() + " ");
-    zeigen(p.zweig() + Wort(700), p.katalog.titelWort + " " + p.uebungsart());
-    zeigen(Wort(109) + Wort(700) + " ", p.aufruf.rechnername + " ");
+    zeigen(Wort(wort::date) + Wort(wort::colon) + " ", p.ports.loop.now().date() + " ");
+    zeigen(p.zweig() + Wort(wort::colon), p.katalog.titelWort + " " + p.uebungsart());
+    zeigen(Wort(wort::user) + Wort(wort::colon) + " ", p.aufruf.rechnername + " ");
     if (z.angemeldet) {
         const core::Value benutzer = p.host.HostBenutzer();
-        zeigen(Wort(806), benutzer.at(1).text());
-        zeigen(Wort(807), benutzer.at(2).text());
-        zeigen(Wort(808), benutzer.at(3).text());
+        zeigen(Wort(wort::surnameLabel), benutzer.at(1).text());
+        zeigen(Wort(wort::firstNameLabel), benutzer.at(2).text());
+        zeigen(Wort(wort::matriculationLabel), benutzer.at(3).text());
     }
     for (int i = 0; i < 6; ++i) {
         g_einst_lab(i).visible = i < zeile;
@@ -140,8 +142,9 @@ void Testergebnis::cmdPrint_click() {
     try {
         p.ports.printer.print(*this);
     } catch (const form::PrintFault& fehler) {
-        p.Melden("Melvora 2000",
-                 fehler.noPrinter() ? Wort(896) : core::eingesetzt(Wort(831), fehler.what()));
+        p.Melden("Melvora 2000", fehler.noPrinter()
+                                     ? Wort(wort::noPrinter)
+                                     : core::eingesetzt(Wort(wort::printerRefuses), fehler.what()));
     }
     PicSchalt.backColour = colours::white;
     PicSchalt.visible = true;

@@ -1,9 +1,13 @@
 #include "setup/auswahl.h"
 
+#include "core/wort.h"
+
 #include <algorithm>
 #include <cstdlib>
 
 namespace setup {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -61,12 +65,11 @@ Urteil auswahlBeurteilen(const std::vector<form::ItemList::Item>& gewaehlt, int 
 }
 
 int hinweisWort(int final, Richtungen richtungen, int flag) {
-    constexpr std::array mindestens{396, 398};  // words
-    constexpr std::array jeRichtung{397, 399};  // words
-    constexpr std::array gleicheAnzahl{783};    // words
+    constexpr std::array mindestens{wort::atLeast2, wort::atLeast3};
+    constexpr std::array jeRichtung{wort::atLeast2PerDirection, wort::atLeast3PerDirection};
     const std::size_t strenger = final == 1 ? 1 : 0;
     if (!richtungen.beide()) return mindestens[strenger];
-    return flag != 0 ? gleicheAnzahl[0] : jeRichtung[strenger];
+    return flag != 0 ? wort::sameNumberPerDirection : jeRichtung[strenger];
 }
 
 }  // namespace setup

@@ -6,6 +6,8 @@
 
 namespace setup {
 
+namespace wort = core::wort;
+
 namespace {
 
 /// The folder of the settings files; made when it is first needed. Where it cannot be made the file
@@ -25,11 +27,11 @@ DateiFormular::DateiFormular(core::Programm& programm, const std::string& name,
       pfadLabel_(*this, {label}),
       txt_(*this, feld, 2, nullptr, form::TextBox::Size::Line) {
     setCaption(Wort(titelWort));
-    beschriften({{pfadLabel_, pfadWort}, {beschreibung, 838}, {cmdOK, 432}});
+    beschriften({{pfadLabel_, pfadWort}, {beschreibung, wort::fileDescription}, {cmdOK, wort::ok}});
     cmdSave.caption = "...";
     cmdSave.accessibleName = Wort(titelWort);
     txt(0).accessibleName = Wort(pfadWort);
-    txt(1).accessibleName = Wort(838);
+    txt(1).accessibleName = Wort(wort::fileDescription);
     cmdSave.onClick = {"cmdSave_click.", [this] { cmdSave_click(); }};
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
 }
@@ -47,8 +49,9 @@ void FrmSave::closeBox() {
 }
 
 void FrmSave::cmdSave_click() {
-    const std::string pfad = p.ports.dialogs.askSaveFile(
-        {Wort(841), stueckeOrdner(p) + "/VESHNA_Set_XX.mvs", Wort(842), "*.mvs"});
+    const std::string pfad = p.ports.dialogs.askSaveFile({Wort(wort::saveDialogTitle),
+                                                          stueckeOrdner(p) + "/VESHNA_Set_XX.mvs",
+                                                          Wort(wort::settingsFiles), "*.mvs"});
     if (!pfad.empty()) txt(0).text = pfad;
 }
 
@@ -63,14 +66,15 @@ void FrmLoad::closeBox() {
 }
 
 void FrmLoad::cmdSave_click() {
-    const std::string pfad =
-        p.ports.dialogs.askOpenFile({Wort(839), stueckeOrdner(p), Wort(842), "*.mvs"});
+    const std::string pfad = p.ports.dialogs.askOpenFile(
+        {Wort(wort::loadFormTitle), stueckeOrdner(p), Wort(wort::settingsFiles), "*.mvs"});
     if (pfad.empty()) return;
     txt(0).text = pfad;
     const auto kopf = EinstellungenLesen(pfad).kopf;
     const auto modul = kopf.find("modul");
     if (modul == kopf.end())
-        throw base::RuntimeError(base::ErrorNumber::PathAccess, core::eingesetzt(Wort(835), pfad));
+        throw base::RuntimeError(base::ErrorNumber::PathAccess,
+                                 core::eingesetzt(Wort(wort::notASettingsFile), pfad));
     const auto an = [&](const char* name) {
         const auto teil = kopf.find(name);
         return teil == kopf.end() ? std::string() : teil->second;

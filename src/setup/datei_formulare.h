@@ -1,5 +1,6 @@
 #pragma once
 #include "core/formular.h"
+#include "core/wort.h"
 
 #include <map>
 #include <string>
@@ -35,7 +36,8 @@ class DateiFormular : public core::Formular {
 class FrmSave final : public DateiFormular {
   public:
     explicit FrmSave(core::Programm& programm)
-        : DateiFormular(programm, "frmSave", "txtSave", "lblSave", 836, 837) {}
+        : DateiFormular(programm, "frmSave", "txtSave", "lblSave", core::wort::saveFormTitle,
+                        core::wort::saveFormPath) {}
     void closeBox() override;
 
     /// "File" and "Desc"; empty when the user gave up.
@@ -50,7 +52,8 @@ class FrmSave final : public DateiFormular {
 class FrmLoad final : public DateiFormular {
   public:
     explicit FrmLoad(core::Programm& programm)
-        : DateiFormular(programm, "frmLoad", "txtLoad", "lblLoad", 839, 840) {}
+        : DateiFormular(programm, "frmLoad", "txtLoad", "lblLoad", core::wort::loadFormTitle,
+                        core::wort::loadFormPath) {}
     void closeBox() override;
 
     /// Path; empty when the user gave up.

@@ -2,10 +2,13 @@
 
 #include "core/formnamen.h"
 #include "core/fortsetzung.h"
+#include "core/wort.h"
 #include "setup/choices.h"
 #include "setup/recap.h"
 
 namespace setup {
+
+namespace wort = core::wort;
 
 Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung,
                          results::Skalaxml& xml, sound::Midi& midi, sound::MidiOutput& ausgabe,
@@ -27,27 +30,27 @@ Einstellung::Einstellung(core::Programm& programm, results::Wertung& wertung,
 }
 
 void Einstellung::Beschriften() {
-    beschriften({{abfolge(0), 489},
-                 {abfolge(1), 385},
-                 {lb4, 469},
-                 {abfrage(0), 383},
-                 {abfrage(1), 142},
-                 {final(0), 621},
-                 {final(1), 240},
-                 {final(2), 151},
-                 {an_zeig(0), 505},
-                 {an_zeig(1), 157},
-                 {cmdHilfe, 816},
-                 {cmdZurueck, 640},
-                 {cmdOK, 432},
-                 {copyright, 6}});
-    benennen({{skal_typ_cmb, 494}, {Combo_richtung, 469}});
+    beschriften({{abfolge(0), wort::scaleInOrder},
+                 {abfolge(1), wort::melody},
+                 {lb4, wort::direction},
+                 {abfrage(0), wort::byHand},
+                 {abfrage(1), wort::automatic},
+                 {final(0), wort::sameKeySignature},
+                 {final(1), wort::sameFinal},
+                 {final(2), wort::bothChanging},
+                 {an_zeig(0), wort::scaleStructure},
+                 {an_zeig(1), wort::scaleName},
+                 {cmdHilfe, wort::help},
+                 {cmdZurueck, wort::back},
+                 {cmdOK, wort::ok},
+                 {copyright, wort::copyright}});
+    benennen({{skal_typ_cmb, wort::scaleType}, {Combo_richtung, wort::direction}});
     if (!klingt()) return;
-    beschriften({{frequenz(0), 238},
-                 {frequenz(1), 603},
-                 {stimm_g(0), 546},
-                 {stimm_g(1), 458},
-                 {stimm_g(2), 401}});
+    beschriften({{frequenz(0), wort::fixedPitch},
+                 {frequenz(1), wort::variablePitch},
+                 {stimm_g(0), wort::equalTemperament},
+                 {stimm_g(1), wort::pythagorean},
+                 {stimm_g(2), wort::meantone}});
 }
 
 /// In music theory nothing sounds; what is not named by ear is written, and has its own key.
@@ -81,7 +84,7 @@ void Einstellung::Verbinden() {
 
 void Einstellung::start_timer() {
     start.stop();
-    setCaption(p.katalog.typ_name[z.ueb_typ] + Wort(700) + p.katalog.bereich_name[1]);
+    setCaption(p.katalog.typ_name[z.ueb_typ] + Wort(wort::colon) + p.katalog.bereich_name[1]);
     wertung_.vorbereiten();
     LadewerteSetzen();
     sound_.KlangEinrichten();
@@ -106,14 +109,15 @@ void Einstellung::LadewerteSetzen() {
 
 void Einstellung::CombosFuellen() {
     range_.fill();
-    for (const int wort : {132, 83, 623}) Combo_richtung.add(Wort(wort));
+    for (const int wort : {wort::ascending, wort::descending, wort::bothDirections})
+        Combo_richtung.add(Wort(wort));
     Combo_richtung.setListIndex(2);
     const int typen = namingByEar() ? core::katalog::kategorienAnz : 1;
     for (int typ = 0; typ < typen; ++typ) skal_typ_cmb.add(p.katalog.skal_typ_name[typ]);
     skal_typ_cmb.setListIndex(0);
     mode_.fill();
     if (!Combo_mt) return;
-    Combo_mt->add(Wort(355));
+    Combo_mt->add(Wort(wort::kirnberger));
     Combo_mt->setListIndex(0);
 }
 
@@ -130,8 +134,8 @@ void Einstellung::RegelnAnwenden() {
     if (!r.namen) an_zeig(0).choose();
 
     final(0).enabled = r.vorzeichen;
-    final(1).caption = Wort(r.vorzeichen ? 240 : 298);
-    final(2).caption = Wort(r.vorzeichen ? 151 : 299);
+    final(1).caption = Wort(r.vorzeichen ? wort::sameFinal : wort::sameTonic);
+    final(2).caption = Wort(r.vorzeichen ? wort::bothChanging : wort::changingTonic);
     if (!r.vorzeichen && final(0).value()) final(1).choose();
 
     abfolge(1).enabled = r.melodieStimmung;

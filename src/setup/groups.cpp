@@ -1,8 +1,12 @@
 #include "setup/groups.h"
 
+#include "core/wort.h"
+
 #include <array>
 
 namespace setup {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -23,20 +27,19 @@ struct Gruppe {
     bool has(Trait trait) const { return (traits & trait) != 0; }
 };
 constexpr std::array gruppen{
-    // words
-    Gruppe{group::range, 107, modus},
-    Gruppe{group::category, 494, modus | wahl},
-    Gruppe{group::reference, 243, modus | nurKlang},
-    Gruppe{group::tuning, 504, modus | nurKlang},
-    Gruppe{group::order, 558, modus | wahl | pruefung},
-    Gruppe{group::next, 78, modus | pruefung},
-    Gruppe{group::key, 622, modus | pruefung},
-    Gruppe{group::mode, 587, 0, farben::modus},
-    Gruppe{group::scales, 619, modus | pruefung},
-    Gruppe{group::single, 222, modus},
-    Gruppe{group::answers, 113, modus},
+    Gruppe{group::range, wort::pitchRange, modus},
+    Gruppe{group::category, wort::scaleType, modus | wahl},
+    Gruppe{group::reference, wort::referencePitch, modus | nurKlang},
+    Gruppe{group::tuning, wort::tuning, modus | nurKlang},
+    Gruppe{group::order, wort::noteOrder, modus | wahl | pruefung},
+    Gruppe{group::next, wort::advance, modus | pruefung},
+    Gruppe{group::key, wort::keySignatureOrFinal, modus | pruefung},
+    Gruppe{group::mode, wort::exerciseMode, 0, farben::modus},
+    Gruppe{group::scales, wort::scalesIncluded, modus | pruefung},
+    Gruppe{group::single, wort::scaleSelection, modus},
+    Gruppe{group::answers, wort::display, modus},
     Gruppe{group::check, 0, 0, farben::klang},
-    Gruppe{group::sound, 365, 0, farben::klang},
+    Gruppe{group::sound, wort::timbre, 0, farben::klang},
 };
 
 std::vector<int> indices(Zweig zweig, bool ueberschrift) {

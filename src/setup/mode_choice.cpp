@@ -1,11 +1,14 @@
 #include "setup/mode_choice.h"
 
 #include "core/fortsetzung.h"
+#include "core/wort.h"
 #include "setup/choices.h"
 
 #include <array>
 
 namespace setup {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -35,7 +38,7 @@ ModeChoice::ModeChoice(core::Formular& form, core::Programm& programm, Zweig zwe
       training_Combo(form, {"training_Combo", &groups(group::mode)}),
       prfnr_Comb(form, {"prfnr_Comb", &groups(group::mode)}) {
     prfnr_Comb.visible = false;
-    form.benennen({{training_Combo, 587}, {prfnr_Comb, 438}});
+    form.benennen({{training_Combo, wort::exerciseMode}, {prfnr_Comb, wort::exam}});
     training_Combo.onSelect = {"training_Combo_click.", [this] { training_Combo_click(); }};
     prfnr_Comb.onSelect = {"prfnr_Comb_click.", [this] { prfnr_Comb_click(); }};
 }
@@ -47,7 +50,7 @@ void ModeChoice::fill() {
                                : p.katalog.modus_name[m]);
     training_Combo.setListIndex(modus::ausprobieren);
     for (std::size_t n = 1; n <= pruefungsvorgaben.size(); ++n)
-        prfnr_Comb.add(p.Wort(426) + " " + std::to_string(n));
+        prfnr_Comb.add(p.Wort(wort::number) + " " + std::to_string(n));
     prfnr_Comb.setListIndex(0);
     bereit_ = true;
 }

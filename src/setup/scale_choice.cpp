@@ -1,10 +1,13 @@
 #include "setup/scale_choice.h"
 
+#include "core/wort.h"
 #include "setup/choices.h"
 
 #include <algorithm>
 
 namespace setup {
+
+namespace wort = core::wort;
 
 ScaleChoice::ScaleChoice(core::Formular& form, core::Programm& programm, form::Group& vorkommen,
                          form::Group& einzeln)
@@ -19,8 +22,11 @@ ScaleChoice::ScaleChoice(core::Formular& form, core::Programm& programm, form::G
       wahlStand(form, {"wahlStand", &einzeln}) {
     einzeln.visible = false;
     lb10(0).foreColour = base::colours::red;
-    form.beschriften({{ska_ausw(0), 103}, {ska_ausw(1), 413}, {lb10(1), 140}, {lb10(2), 135}});
-    form.benennen({{lst_ska0, 140}, {lst_ska1, 135}});
+    form.beschriften({{ska_ausw(0), wort::allScales},
+                      {ska_ausw(1), wort::selectedScales},
+                      {lb10(1), wort::availableList},
+                      {lb10(2), wort::selectedList}});
+    form.benennen({{lst_ska0, wort::availableList}, {lst_ska1, wort::selectedList}});
     AuswahlStandZeigen();
 
     connect(ska_ausw, z, [this] { ska_ausw_click(); });
@@ -87,7 +93,8 @@ void ScaleChoice::writeHint(int flag) {
 }
 
 void ScaleChoice::AuswahlStandZeigen() {
-    wahlStand.caption = core::eingesetzt(p.Wort(817), std::to_string(lst_ska1.count()));
+    wahlStand.caption =
+        core::eingesetzt(p.Wort(wort::chosenOf15), std::to_string(lst_ska1.count()));
     wahlStand.foreColour =
         lst_ska1.count() > wahlPlaetze ? base::colours::red : base::colours::black;
 }

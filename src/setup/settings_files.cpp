@@ -1,5 +1,6 @@
 #include "setup/settings_files.h"
 
+#include "core/wort.h"
 #include "setup/datei_formulare.h"
 #include "setup/einstellungsdatei.h"
 
@@ -7,6 +8,8 @@
 #include <utility>
 
 namespace setup {
+
+namespace wort = core::wort;
 
 SettingsFiles::SettingsFiles(core::Formular& form, core::Programm& programm, const Groups& groups,
                              form::Group& aktionsbox, Zweig zweig)
@@ -19,7 +22,9 @@ SettingsFiles::SettingsFiles(core::Formular& form, core::Programm& programm, con
     const bool dateien = p.aufruf.pruefEdit && klingt(zweig);
     cmdOptionRead.visible = dateien;
     cmdOptionSave.visible = dateien;
-    form.beschriften({{cmdOptionRead, 829}, {cmdOptionSave, 830}, {popExamToggle, 843}});
+    form.beschriften({{cmdOptionRead, wort::readSettings},
+                      {cmdOptionSave, wort::saveSettings},
+                      {popExamToggle, wort::markGroup}});
     cmdOptionRead.onClick = {"cmdOptionRead_click.", [this] { cmdOptionRead_click(); }};
     cmdOptionSave.onClick = {"cmdOptionSave_click.", [this] { cmdOptionSave_click(); }};
     popExamToggle.onClick = {"popExamToggle_click.", [this] { popExamToggle_click(); }};
@@ -56,13 +61,14 @@ void SettingsFiles::cmdOptionSave_click() {
 }
 
 void SettingsFiles::DateiSchreiben(const std::string& pfad, const std::string& beschreibung) {
-    if (pfad.empty()) throw base::RuntimeError(base::ErrorNumber::PathAccess, p.Wort(889));
+    if (pfad.empty())
+        throw base::RuntimeError(base::ErrorNumber::PathAccess, p.Wort(wort::nameFileFirst));
     try {
         EinstellungenSchreiben(pfad, EinstellungenText(form_, p.zustand.ueb_typ, beschreibung));
     } catch (const std::system_error& fehler) {
-        throw base::RuntimeError(
-            base::ErrorNumber::PathAccess,
-            core::eingesetzt(p.Wort(834), pfad) + " (" + fehler.code().message() + ")");
+        throw base::RuntimeError(base::ErrorNumber::PathAccess,
+                                 core::eingesetzt(p.Wort(wort::settingsNotWritten), pfad) + " (" +
+                                     fehler.code().message() + ")");
     }
 }
 
@@ -83,7 +89,7 @@ void SettingsFiles::StartdateiAnwenden() {
         const Einstellungssatz satz = EinstellungenLesen(pfad);
         if (satz.leer())
             throw base::RuntimeError(base::ErrorNumber::PathAccess,
-                                     core::eingesetzt(p.Wort(835), pfad));
+                                     core::eingesetzt(p.Wort(wort::notASettingsFile), pfad));
         EinstellungenAnwenden(form_, satz);
     });
 }

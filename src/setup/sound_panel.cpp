@@ -2,6 +2,7 @@
 
 #include "base/rounding.h"
 #include "core/katalog.h"
+#include "core/wort.h"
 #include "sound/klang.h"
 #include "sound/tonlinie.h"
 
@@ -10,6 +11,8 @@
 #include <vector>
 
 namespace setup {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -45,9 +48,11 @@ SoundPanel::SoundPanel(core::Formular& form, core::Programm& programm, sound::Mi
       HSliderVolume(form, {"HSliderVolume", &groups(group::check)}, 0, 127),
       tonHinweis(form, {"tonHinweis"}) {
     openTempo();
-    form.benennen({{ComboPatch, 365}, {temp_Combo, 547}, {HSliderVolume, 372}});
+    form.benennen(
+        {{ComboPatch, wort::timbre}, {temp_Combo, wort::tempo}, {HSliderVolume, wort::volume}});
     if (klingt(zweig)) {
-        form.beschriften({{klang_contr, 366}, {lb14(0), 372}, {lb15(0), 547}});
+        form.beschriften(
+            {{klang_contr, wort::soundCheck}, {lb14(0), wort::volume}, {lb15(0), wort::tempo}});
         lb15(1).caption = "=MM";
     }
     temp_Combo.onSelect = {"temp_Combo_click.", [this] { z.tempoIdx = temp_Combo.listIndex(); }};
@@ -138,7 +143,8 @@ void SoundPanel::KlangKontrolleAbschliessen() {
 }
 
 void SoundPanel::TonHinweisZeigen() {
-    constexpr std::array hinweise{0, 810, 811, 812, 890};  // words
+    constexpr std::array hinweise{wort::none, wort::noSoundfont, wort::noAudioDevice,
+                                  wort::audioDeviceGone, wort::noSoundLibrary};
     const int wort = base::at(hinweise, static_cast<int>(MIDI.problem()));
     tonHinweis.caption = wort == 0 ? std::string() : p.Wort(wort);
     tonHinweis.visible = wort != 0;

@@ -1,6 +1,10 @@
 #include "setup/tone_range.h"
 
+#include "core/wort.h"
+
 namespace setup {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -27,8 +31,8 @@ ToneRange::ToneRange(core::Formular& form, core::Programm& programm, Zweig zweig
       lb0(form, {"lb0", &gruppe}),
       CmbOktAnz(form, {"CmbOktAnz", &gruppe}),
       CmbOktBer(form, {"CmbOktBer", &gruppe}) {
-    form.beschriften({{lb0, 153}});
-    form.benennen({{CmbOktAnz, 107}, {CmbOktBer, 153}});
+    form.beschriften({{lb0, wort::keyboardRegister}});
+    form.benennen({{CmbOktAnz, wort::pitchRange}, {CmbOktBer, wort::keyboardRegister}});
     CmbOktAnz.onSelect = {"CmbOktAnz_click.", [this] { CmbOktAnz_click(); }};
     CmbOktBer.onSelect = {"CmbOktBer_click.", [this] { CmbOktBer_click(); }};
 }
@@ -36,18 +40,20 @@ ToneRange::ToneRange(core::Formular& form, core::Programm& programm, Zweig zweig
 void ToneRange::fill() {
     for (int i = 0; i < 4; ++i) {
         const int n = kleinste(zweig_) + i;
-        CmbOktAnz.add(" " + std::to_string(n) + " " + p.Wort(n == 1 ? 433 : 41), i);
+        CmbOktAnz.add(" " + std::to_string(n) + " " + p.Wort(n == 1 ? wort::octave : wort::octaves),
+                      i);
     }
     CmbOktAnz.setListIndex(0);
 }
 
 void ToneRange::CmbOktAnz_click() {
     z.oktAnz = CmbOktAnz.item(CmbOktAnz.listIndex()).data;
-    const int unten = klingt(zweig_) ? 671 : 681;
-    const int oben = klingt(zweig_) ? 673 : 693;
+    const auto& unten = klingt(zweig_) ? wort::earRangeFrom : wort::theoryRangeFrom;
+    const auto& oben = klingt(zweig_) ? wort::earRangeTo : wort::theoryRangeTo;
     CmbOktBer.clear();
     for (int i = 0; i < bereicheAnz(z.oktAnz); ++i)
-        CmbOktBer.add(p.Wort(unten + i) + " " + p.Wort(702) + " " + p.Wort(oben + z.oktAnz + i));
+        CmbOktBer.add(p.Wort(unten[i]) + " " + p.Wort(wort::dash) + " " +
+                      p.Wort(oben[z.oktAnz + i]));
     CmbOktBer.setListIndex(ersterBereich(zweig_, z.oktAnz));
 }
 

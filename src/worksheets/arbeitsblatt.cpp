@@ -2,6 +2,7 @@
 
 #include "core/formnamen.h"
 #include "core/fortsetzung.h"
+#include "core/wort.h"
 #include "worksheets/namen_feld.h"
 #include "worksheets/noten_feld.h"
 
@@ -13,12 +14,14 @@ namespace worksheets {
 
 namespace colours = base::colours;
 using engine::AufgZustand;
+namespace wort = core::wort;
 
 namespace {
 
 constexpr int tetrachorde = 6;
 /// Which keys do what, by whether a scale is written and whether it sounds.
-constexpr std::array<std::array<int, 2>, 2> tastenWorte{{{886, 826}, {888, 879}}};  // words
+constexpr std::array<std::array<int, 2>, 2> tastenWorte{
+    {{wort::identifySilentKeys, wort::identifyKeys}, {wort::writeSilentKeys, wort::writeKeys}}};
 
 }  // namespace
 
@@ -79,22 +82,22 @@ void Arbeitsblatt::activate() {
 
 void Arbeitsblatt::Beschriften() {
     const engine::Uebung& uebung = lauf_.uebung();
-    beschriften({{copyright, 6},
-                 {LbNextAufg, 420},
-                 {zurueck, 640},
-                 {true_false(0), 468},
-                 {true_false(1), 232},
-                 {ergebnis_anz(0), 566},
-                 {ergebnis_anz(1), 130},
-                 {ergebnis_anz(2), 638},
-                 {cmd_test_aus, 552},
-                 {cmd_test_ein, 551},
-                 {WaitMeld, 726},
+    beschriften({{copyright, wort::copyright},
+                 {LbNextAufg, wort::nextTask},
+                 {zurueck, wort::back},
+                 {true_false(0), wort::right},
+                 {true_false(1), wort::wrong},
+                 {ergebnis_anz(0), wort::trainingProgress},
+                 {ergebnis_anz(1), wort::taskSolved},
+                 {ergebnis_anz(2), wort::tooManyErrors},
+                 {cmd_test_aus, wort::hideTestStatus},
+                 {cmd_test_ein, wort::showTestStatus},
+                 {WaitMeld, wort::oneMoment},
                  {tasten, tastenWorte[uebung.schriftlich() ? 1 : 0][uebung.klingt() ? 1 : 0]},
-                 {cmdHilfe, 816}});
-    CmdNextAufg.caption = Wort(129) + " 1";
+                 {cmdHilfe, wort::help}});
+    CmdNextAufg.caption = Wort(wort::task) + " 1";
     LbNextAufg.caption = CmdNextAufg.caption();
-    matboxanz.accessibleName = Wort(566);
+    matboxanz.accessibleName = Wort(wort::trainingProgress);
 }
 
 void Arbeitsblatt::start_timer() {
@@ -146,13 +149,15 @@ void Arbeitsblatt::StandZeigen() {
     if (core::imTraining(z)) {
         const engine::Matbox& box = lauf_.matbox();
         matboxanz.floodPercent = box.prozent();
-        matboxanz.hint = core::eingesetzt(Wort(818), std::to_string(box.matbox_zahl()),
-                                          std::to_string(box.obergrenze()));
+        matboxanz.hint =
+            core::eingesetzt(Wort(wort::pointsToGoal), std::to_string(box.matbox_zahl()),
+                             std::to_string(box.obergrenze()));
     }
     if (core::imTest(z)) {
-        stop_uhr.caption = Wort(461) + std::to_string(stand.restZeit / 60) + " " + Wort(394) +
-                           std::to_string(stand.restZeit % 60) + " " + Wort(480);
-        lab_aufgaben.caption = Wort(462) + " " + std::to_string(stand.restAufgaben);
+        stop_uhr.caption = Wort(wort::timeLeft) + std::to_string(stand.restZeit / 60) + " " +
+                           Wort(wort::minutes) + std::to_string(stand.restZeit % 60) + " " +
+                           Wort(wort::seconds);
+        lab_aufgaben.caption = Wort(wort::tasksLeft) + " " + std::to_string(stand.restAufgaben);
     }
 }
 
@@ -214,7 +219,7 @@ void Arbeitsblatt::FalschZeigen() {
     rot_ = !rot_;
     ergebnis.backColour = rot_ ? colours::red : colours::black;
     ergebnis.foreColour = rot_ ? colours::black : colours::red;
-    ergebnis.caption = lauf_.aufgZustand() == AufgZustand::Weiter ? Wort(232) : Loesung();
+    ergebnis.caption = lauf_.aufgZustand() == AufgZustand::Weiter ? Wort(wort::wrong) : Loesung();
 }
 
 /// The name of the scale that was asked for. Where the learner named it, with what it is half of,
@@ -227,7 +232,7 @@ std::string Arbeitsblatt::Loesung() const {
     if (z.skal_typ == tetrachorde && z.ska_ausw != 0)
         return name + p.katalog.tetra_name[a.skala_nr][auf ? 0 : 1];
     if (lauf_.letzteAntwort().richtig && z.abfolge == 0 && z.richtung == 2)
-        return p.Wort(auf ? 132 : 83) + " " + name;
+        return p.Wort(auf ? wort::ascending : wort::descending) + " " + name;
     return name;
 }
 
@@ -266,11 +271,11 @@ void Arbeitsblatt::NaechsteAnbieten() {
 
 void Arbeitsblatt::Weiterschalter() {
     if (z.abfrage == 1) {
-        LbNextAufg.caption = Wort(420);
+        LbNextAufg.caption = Wort(wort::nextTask);
         LbNextAufg.visible = true;
         WahlAutomat.start();
     } else {
-        CmdNextAufg.caption = Wort(420);
+        CmdNextAufg.caption = Wort(wort::nextTask);
         CmdNextAufg.enabled = true;
     }
 }
@@ -286,7 +291,7 @@ void Arbeitsblatt::NaechsteZurueckziehen() {
 /// The way out becomes the way on.
 void Arbeitsblatt::WeiterAnbieten() {
     zurueck.backColour = colours::yellow;
-    zurueck.caption = Wort(625);
+    zurueck.caption = Wort(wort::goOn);
     zurueck.foreColour = colours::red;
 }
 
@@ -359,7 +364,7 @@ void Arbeitsblatt::zurueck_click() {
     Stilllegen();
     if (lauf_.zuEnde()) {
         zurueck.backColour = colours::magenta;
-        zurueck.caption = Wort(640);
+        zurueck.caption = Wort(wort::back);
         zurueck.foreColour = colours::black;
         ErgebnisZeigen();
     } else {
@@ -373,7 +378,8 @@ void Arbeitsblatt::zurueck_click() {
 /// A training in which a task was closed may be kept, to go on with another day.
 void Arbeitsblatt::SichernAnbieten() {
     if (gescheitert_ || !core::imTraining(z) || !lauf_.stand().schalter_frei) return;
-    if (!p.ports.dialogs.askYesNo(Wort(8), Wort(495))) return;
+    if (!p.ports.dialogs.askYesNo(Wort(wort::saveTraining), Wort(wort::saveTrainingQuestion)))
+        return;
     setPointer(form::Pointer::Hourglass);
     FortsetzungAnbieten(TrainingSichern(), z.uebungsmodus);
     setPointer(form::Pointer::Arrow);

@@ -1,9 +1,12 @@
 #include "worksheets/klang_vorfuehrung.h"
 
+#include "core/wort.h"
 #include "sound/tonlinie.h"
 #include "worksheets/arbeitsblatt.h"
 
 namespace worksheets {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -44,8 +47,9 @@ int KlangVorfuehrung::dauer() const {
 }
 
 void KlangVorfuehrung::LaufBeginn() {
-    if (eigene) blatt_.beschriften({{*eigene, 822}});
-    blatt_.beschriften({{wieder, 629}, {wieder2, 632}, {whlgzaehler_lb, 832}});
+    if (eigene) blatt_.beschriften({{*eigene, wort::ownVersion}});
+    blatt_.beschriften(
+        {{wieder, wort::repeat}, {wieder2, wort::repeatCheck}, {whlgzaehler_lb, wort::repeats}});
     wieder.enabled = false;
     spieltimer.setInterval(dauer());
 }

@@ -1,5 +1,6 @@
 #include "worksheets/namen_feld.h"
 
+#include "core/wort.h"
 #include "staff/farbe.h"
 
 #include <cstdlib>
@@ -75,7 +76,7 @@ void NamenFeld::vorbereiten() {
     }
     alleSchliessen();
     if (!bild_) return;
-    form_.beschriften({{*schrittmarken, 827}});
+    form_.beschriften({{*schrittmarken, core::wort::stepMarks}});
     bild_->vorbereiten(kategorie.tonAnz, true);
 }
 

@@ -1,6 +1,7 @@
 #include "worksheets/noten_feld.h"
 
 #include "base/whole_file.h"
+#include "core/wort.h"
 #include "staff/farbe.h"
 #include "staff/tonname.h"
 #include "worksheets/rtf.h"
@@ -9,6 +10,8 @@
 #include <exception>
 
 namespace worksheets {
+
+namespace wort = core::wort;
 
 namespace {
 
@@ -41,21 +44,22 @@ NotenFeld::NotenFeld(core::Formular& form, core::Programm& programm, const engin
 }
 
 void NotenFeld::vorbereiten() {
-    form_.beschriften({{cmdOK, 801}});
-    form_.benennen({{HinweisMeldung, 887}});
-    constexpr std::array zeichenWorte{881, 882, 883, 884, 885};  // words
+    form_.beschriften({{cmdOK, wort::done}});
+    form_.benennen({{HinweisMeldung, wort::hint}});
+    constexpr std::array zeichenWorte{wort::doubleFlat, wort::flat, wort::natural, wort::sharp,
+                                      wort::doubleSharp};
     for (int i = 0; i < staff::quelle::anzahl; ++i)
         palette_.NotP(i).accessibleName = p.Wort(base::at(zeichenWorte, i));
     palette_.PaletteMalen();
     bild_.vorbereiten(core::katalog::kategorie(z.skal_typ).tonAnz, false);
     HinweisLaden();
     if (!aufg) return;
-    form_.beschriften({{*Label2, 802}});
+    form_.beschriften({{*Label2, wort::writeThisScale}});
     aufg->caption = "";
 }
 
 void NotenFeld::HinweisLaden() {
-    const std::string& sprache = p.Wort(705);
+    const std::string& sprache = p.Wort(wort::languageCode);
     const std::string pfad = p.aufruf.programmOrdner + "/zepha9/txt_" + sprache +
                              "/tb05_schreibenSkal_" + sprache + ".rtf";
     HinweisMeldung.visible = false;

@@ -1,5 +1,6 @@
 #include "worksheets/notenbild.h"
 
+#include "core/wort.h"
 #include "engine/tonart.h"
 #include "staff/tonname.h"
 
@@ -20,7 +21,7 @@ Notenbild::Notenbild(core::Formular& form, core::Programm& programm, form::Contr
 
 void Notenbild::vorbereiten(i16 tonAnz, bool signatur) {
     const core::Zustand& z = p.zustand;
-    form_.benennen({{zeile.PicBNot, 880}});
+    form_.benennen({{zeile.PicBNot, core::wort::staff}});
     zeile.setzeSchluessel(z.FrquMaxAkt > mitte ? 0 : 1);
     zeile.NotenzeileAufbauen(tonAnz, {0, 0, 0, z.FrquMinAkt, z.FrquMaxAkt},
                              signatur ? std::optional(i16(0)) : std::nullopt);

@@ -1,4 +1,5 @@
 #include "base/environment.h"
+#include "core/wort.h"
 #include "drill/drill.h"
 #include "hostlink/dbus_host.h"
 #include "qt/dialogs.h"
@@ -48,7 +49,8 @@ core::Aufruf aufruf(const QStringList& arguments) {
     const std::string what = fault.what();
     program.ports.dialogs.message(
         form::Icon::Stop, "Melvora 2000",
-        program.worte.hatSprache() ? core::eingesetzt(program.Wort(895), what) : what);
+        program.worte.hatSprache() ? core::eingesetzt(program.Wort(core::wort::programEnds), what)
+                                   : what);
     std::_Exit(3);
 }
 
@@ -87,7 +89,8 @@ int main(int argc, char** argv) {
     program = &drill.programm;
     dialogs.answers = [program]() -> qt::QtDialogs::Answers {
         if (!program->worte.hatSprache()) return {};
-        return {program->Wort(432), program->Wort(891), program->Wort(892)};
+        return {program->Wort(core::wort::ok), program->Wort(core::wort::yes),
+                program->Wort(core::wort::no)};
     };
     application.uncaught = [program](const std::exception& fault) { endWith(*program, fault); };
     qt::Windows windows(drill.programm.forms);

@@ -1,3 +1,4 @@
+#include "core/wort.h"
 #include "melvora/main_window.h"
 #include "melvora/requests.h"
 #include "melvora/user_dialog.h"
@@ -109,7 +110,7 @@ TEST_F(WindowTest, AUsersTrainingsFollowWhatIsStoredAndStayWhileAModuleRuns) {
     tables[0]->selectRow(1);
     ASSERT_EQ(trainings->rowCount(), 1) << "nobody's training";
     const QString row = trainings->index(0, 0).data().toString();
-    EXPECT_EQ(row, words_.wort(724) + ": " + words_.wort(154));
+    EXPECT_EQ(row, words_.wort(core::wort::earTraining) + ": " + words_.wort(core::wort::identify));
 
     const Training training = host_.store().trainings.of(nobody).at(0);
     QStringList notices;
