@@ -1,13 +1,11 @@
 #!/usr/bin/env python3
-"""Checks the word files of all languages against each other and against the code.
+"""Checks the word files of all languages against each other and against the names of the words.
 
-A word is asked for by its number in one of these ways:
-  Wort(354), Wort(671 + i), Wort(a ? 419 : 420)
-  beschriften({{control, 354}, ...})
-  constexpr int titelWort = 491;
-  a table with the comment `// words`, behind its opening brace or alone on a line within it, or
-  behind a row: every number from 78 on. Smaller numbers in a table are indices or semitones.
-All .h and .cpp files below src are read.
+src/core/wort.h names every word that the code asks for, in lines of these two forms; code cannot ask
+for a bare number:
+  nextTask = 420,  // and the German text, or how it begins and "…"
+  inline constexpr auto noteNames = run<35>(844);
+A name that nothing below src uses is a fault, too.
 
 Usage: check_words.py ROOT        ROOT holds src/ and i18n/. Exit status 1 if anything is wrong.
 """
@@ -25,16 +23,11 @@ SAME_OCTAVE = [("671s", "681s"), ("672s", "682s", "693s"), ("673s", "683s", "694
 # Texts that the host and the program need although no number asks for them.
 ALWAYS = {"name"}
 
-SMALLEST_IN_TABLES = 78
-MARK = "\x01"  # stands for the comment `// words`
-
-CALL = re.compile(r"\b[Ww]ort\s*\(([^()]*(?:\([^()]*\)[^()]*)*)\)")
-CALL_NUMBER = re.compile(r"(?:^|[?:])\s*(\d+)")
-CAPTIONS = re.compile(r"\b(?:beschriften|benennen)\s*\(\s*\{")
-CAPTION_NUMBER = re.compile(r",\s*(\d+)\s*\}")
-CONSTANT = re.compile(r"\bconstexpr\s+(?:std::)?\w+\s+\w*[Ww]ort\s*(?:=|\{)\s*(\d+)")
-NUMBER = re.compile(r"(?<![\w.])(\d+)(?![\w.])")
-TEXT_OR_COMMENT = re.compile(r'"(?:[^"\\\n]|\\.)*"|//[^\n]*')
+HEADER = pathlib.Path("core/wort.h")
+ENUM = re.compile(r"enum class Id[^{]*\{\n(.*?)\n\};", re.DOTALL)
+WORD = re.compile(r" +(\w+) = (\d+),\s*// (.*)")
+RUN = re.compile(r"\b(\w+) = run<(\d+)>\((\d+)\)")
+USE = re.compile(r"\bwort::(\w+)")
 PLACEHOLDER = re.compile(r"%(?:n|L?\d+)")
 
 
@@ -68,56 +61,47 @@ def rank(key):
     return (int(digits.group()) if digits else -1, key)
 
 
-def block_end(code, start):
-    """The place of the brace that closes the block around start."""
-    depth = 1
-    for place in range(start, len(code)):
-        depth += {"{": 1, "}": -1}.get(code[place], 0)
-        if depth == 0:
-            return place
-    return len(code)
+class Names:
+    """The header: every name with its numbers and the German text that is written beside it."""
+
+    def __init__(self, path):
+        header = path.read_text(encoding="utf-8")
+        lines = [line for line in ENUM.search(header)[1].splitlines()
+                 if line.strip() and not line.lstrip().startswith("//")]
+        self.complaints = [f"not a name, a number and a text: {line.strip()}"
+                           for line in lines if not WORD.fullmatch(line)]
+        words = [match.groups() for line in lines if (match := WORD.fullmatch(line))]
+        self.words = [(name, [int(number)], text) for name, number, text in words]
+        self.words += [(name, list(range(int(first), int(first) + int(length))), None)
+                       for name, length, first in RUN.findall(header)]
 
 
-def table_at(code, mark):
-    """The part of the code that a mark speaks of, as (start, end)."""
-    start = code.rfind("\n", 0, mark) + 1
-    line = code[start:mark]
-    if not line.strip():
-        return mark, block_end(code, mark)
-    if line.count("{") > line.count("}"):
-        return mark, block_end(code, mark)
-    return start + max(0, line.find("{")), mark
+def says(comment, text):
+    """Whether the comment on a word is the text, or how it begins."""
+    return comment == text.strip() or (comment.endswith("…") and
+                                       text.startswith(comment.rstrip(" …")))
 
 
-def numbers_asked_for(text):
-    """Returns the (line number, word number) of every word that a source text asks for."""
-
-    def replaced(match):
-        if match.group()[0] == '"':
-            return '""'
-        return MARK if re.fullmatch(r"//\s*words\s*", match.group()) else ""
-
-    code = TEXT_OR_COMMENT.sub(replaced, text)
-    found = set()
-
-    def note(match, offset=0):
-        found.add((code.count("\n", 0, offset + match.start(1)) + 1, int(match.group(1))))
-
-    for call in CALL.finditer(code):
-        for match in CALL_NUMBER.finditer(call.group(1)):
-            note(match, call.start(1))
-    for match in CONSTANT.finditer(code):
-        note(match)
-    for call in CAPTIONS.finditer(code):
-        end = block_end(code, call.end())
-        for match in CAPTION_NUMBER.finditer(code[call.end() : end]):
-            note(match, call.end())
-    for mark in re.finditer(MARK, code):
-        start, end = table_at(code, mark.start())
-        for match in NUMBER.finditer(code[start:end]):
-            if int(match.group(1)) >= SMALLEST_IN_TABLES:
-                note(match, start)
-    return sorted(found)
+def compare_names(names, code, languages):
+    """Returns what is wrong with the names of the words."""
+    complaints = list(names.complaints)
+    used = set(USE.findall(code))
+    name_of = {}
+    for name, numbers, comment in names.words:
+        if name not in used:
+            complaints.append(f"{name} is used nowhere")
+        for number in filter(None, numbers):
+            key = f"{number}s"
+            complaints += [f"{name}: {key} is missing in {language.suffix}"
+                           for language in languages if key not in language.texts]
+            if comment is None:
+                continue
+            if (other := name_of.setdefault(number, name)) != name:
+                complaints.append(f"{key} has two names, {other} and {name}")
+            complaints += [f"{name}: the German text of {key} is another"
+                           for language in languages if language.suffix == "de"
+                           and not says(comment, language.texts.get(key, comment))]
+    return complaints
 
 
 def compare(languages):
@@ -148,26 +132,19 @@ def check(root):
     languages = [Language(p) for p in sorted((root / "i18n").glob("melvoralang.*.ts"))]
     if not languages:
         return [f"no word files below {root / 'i18n'}"], 0, 0
-    complaints = compare(languages)
-    asked = set()
-    for path in sorted((root / "src").rglob("*")):
-        if path.suffix not in (".h", ".cpp"):
-            continue
-        for line_number, number in numbers_asked_for(path.read_text(encoding="utf-8")):
-            asked.add(number)
-            for language in languages:
-                if f"{number}s" not in language.texts:
-                    place = f"{path.relative_to(root)}:{line_number}"
-                    complaints.append(f"{place}: word {number} is missing in {language.suffix}")
-    return complaints, len(languages), len(asked)
+    code = [path.read_text(encoding="utf-8") for path in sorted((root / "src").rglob("*"))
+            if path.suffix in (".h", ".cpp") and path != root / "src" / HEADER]
+    names = Names(root / "src" / HEADER)
+    complaints = compare(languages) + compare_names(names, "\n".join(code), languages)
+    return complaints, len(languages), len(names.words)
 
 
 def main():
     root = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ".").resolve()
-    complaints, languages, asked = check(root)
+    complaints, languages, words = check(root)
     for complaint in complaints:
         print(complaint)
-    print(f"{languages} languages, {asked} numbers asked for, {len(complaints)} faults")
+    print(f"{languages} languages, {words} names, {len(complaints)} faults")
     return 1 if complaints else 0
 
 
