@@ -1,5 +1,6 @@
 #pragma once
 #include "core/programm.h"
+#include "core/wort.h"
 #include "form/controls.h"
 #include "form/form.h"
 
@@ -18,17 +19,17 @@ class Formular : public form::Form {
     /// F1 opens the help page of the form.
     bool key(form::Key key) override;
 
-    /// A caption and the number of its word.
+    /// A caption and its word.
     struct Beschriftung {
         form::Control& control;
-        int wort;
+        wort::Id wort;
     };
     void beschriften(std::initializer_list<Beschriftung> beschriftungen);
     /// The same for what a screen reader says.
     void benennen(std::initializer_list<Beschriftung> namen);
 
   protected:
-    const std::string& Wort(int id) { return p.Wort(id); }
+    const std::string& Wort(wort::Id wort) { return p.Wort(wort); }
     void HilfeZeigen();
 
     /// The common error path: the host's log, a warning of four lines, then `nachFehler`.

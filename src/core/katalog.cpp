@@ -9,7 +9,7 @@ namespace {
 /// Names of the scales of the rotating categories, by degree.
 struct RotierendeNamen {
     int skal_typ;
-    std::array<int, 7> worte;
+    std::array<wort::Id, 7> worte;
 };
 constexpr std::array rotierendeNamen{
     RotierendeNamen{0,
@@ -21,11 +21,11 @@ constexpr std::array rotierendeNamen{
          wort::mixolydianFlat6, wort::locrianSharp2, wort::superLocrian}},
 };
 
-/// The modes whose lower or upper half a tetrachord is; 0: only one mode.
+/// The modes whose lower or upper half a tetrachord is; none: only one mode.
 struct TetraModi {
     int skala_nr;
     int richtung;  ///< 0 ascending, 1 descending
-    int erster, zweiter;
+    wort::Id erster, zweiter;
 };
 constexpr std::array tetraModi{
     TetraModi{0, 0, wort::ionian, wort::mixolydian},
@@ -34,8 +34,8 @@ constexpr std::array tetraModi{
     TetraModi{2, 1, wort::phrygian, wort::aeolian},
     TetraModi{5, 0, wort::dorian, wort::aeolian},
     TetraModi{5, 1, wort::dorian, wort::mixolydian},
-    TetraModi{6, 0, wort::lydian, 0},
-    TetraModi{6, 1, wort::locrian, 0},
+    TetraModi{6, 0, wort::lydian, wort::none},
+    TetraModi{6, 1, wort::locrian, wort::none},
 };
 
 constexpr std::array bereichWorte{wort::basicSettings, wort::setup, wort::result};
@@ -45,7 +45,7 @@ constexpr std::array modusWorte{wort::tryOut, wort::training, wort::continueTrai
 }  // namespace
 
 void Katalog::KatalogInit(Worte& worte) {
-    const auto Wort = [&](int id) { return worte.Wort(id); };
+    const auto Wort = [&](wort::Id wort) { return worte.Wort(wort); };
     for (int typ = 0; typ < katalog::kategorienAnz; ++typ) {
         const auto& kategorie = katalog::kategorie(typ);
         skal_typ_name[typ] = Wort(kategorie.wort);
@@ -56,11 +56,11 @@ void Katalog::KatalogInit(Worte& worte) {
         for (int nr = 0; nr < 7; ++nr)
             skal_name[typ][nr] = Wort(namen[static_cast<std::size_t>(nr)]);
     for (const auto& skala : katalog::eigeneMuster)
-        if (skala.wort) skal_name[skala.skal_typ][skala.skala_nr] = Wort(skala.wort);
+        if (skala.wort != wort::none) skal_name[skala.skal_typ][skala.skala_nr] = Wort(skala.wort);
     for (const auto& modi : tetraModi) {
         std::string& name = tetra_name[modi.skala_nr][modi.richtung];
         name = Wort(wort::colon) + Wort(modi.erster);
-        if (modi.zweiter) name += Wort(wort::slash) + Wort(modi.zweiter);
+        if (modi.zweiter != wort::none) name += Wort(wort::slash) + Wort(modi.zweiter);
         name += " ";
     }
     titelWort = Wort(wort::scales);

@@ -21,9 +21,9 @@ constexpr int maxSkalen = 10;
 
 /// A category of scales.
 struct Kategorie {
-    int wort;      ///< its name
-    int skal_max;  ///< highest scale number
-    int tonAnz;    ///< tones of a scale, the closing octave included where there is one
+    wort::Id wort;  ///< its name
+    int skal_max;   ///< highest scale number
+    int tonAnz;     ///< tones of a scale, the closing octave included where there is one
     std::array<int, 2> bild_basis;  ///< first picture: same final, same key signature
     bool rotiert;                   ///< its scales are one pattern read from different degrees
 };
@@ -61,11 +61,11 @@ constexpr std::span<const int> grundmuster(int skal_typ) {
 }
 
 /// A scale with a pattern of its own: semitones above its first tone, and the word of its name
-/// (0: numbered).
+/// (none: numbered).
 struct Skala {
     int skal_typ;
     int skala_nr;
-    int wort;
+    wort::Id wort;
     std::array<int, maxToene> stufe;
 };
 
@@ -95,16 +95,16 @@ inline constexpr std::array eigeneMuster{
     Skala{5, 6, wort::fourthsFromA, {0, 2, 5, 7, 9, 10, 12}},
     Skala{5, 7, wort::fourthsFromE, {0, 2, 4, 5, 9, 9, 12}},  // two equal degrees, kept
     Skala{5, 8, wort::fourthsFromB, {0, 2, 4, 7, 9, 11, 12}},
-    Skala{6, 0, 0, {0, 2, 4, 5}},  // tetrachords
-    Skala{6, 1, 0, {0, 1, 4, 5}},
-    Skala{6, 2, 0, {0, 1, 3, 5}},
-    Skala{6, 3, 0, {0, 1, 2, 5}},
-    Skala{6, 4, 0, {0, 3, 4, 5}},
-    Skala{6, 5, 0, {0, 2, 3, 5}},
-    Skala{6, 6, 0, {0, 2, 4, 6}},
-    Skala{6, 7, 0, {0, 2, 5, 6}},
-    Skala{6, 8, 0, {0, 3, 4, 6}},
-    Skala{6, 9, 0, {0, 3, 5, 6}},
+    Skala{6, 0, wort::none, {0, 2, 4, 5}},  // tetrachords
+    Skala{6, 1, wort::none, {0, 1, 4, 5}},
+    Skala{6, 2, wort::none, {0, 1, 3, 5}},
+    Skala{6, 3, wort::none, {0, 1, 2, 5}},
+    Skala{6, 4, wort::none, {0, 3, 4, 5}},
+    Skala{6, 5, wort::none, {0, 2, 3, 5}},
+    Skala{6, 6, wort::none, {0, 2, 4, 6}},
+    Skala{6, 7, wort::none, {0, 2, 5, 6}},
+    Skala{6, 8, wort::none, {0, 3, 4, 6}},
+    Skala{6, 9, wort::none, {0, 3, 5, 6}},
 };
 
 /// The pattern of a scale of a category that does not rotate; nullptr when there is no such scale.

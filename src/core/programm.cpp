@@ -12,9 +12,9 @@ Programm::Programm(Ports p, Aufruf a)
       host(ports.host, ports.dialogs, zustand),
       forms(ports.loop) {
     host.verlust = [this](const Host::Verlust& was) {
-        const int wort = was.hostFort        ? wort::connectionLost
-                         : was.grund.empty() ? wort::trainingRefused
-                                             : wort::trainingRefusedBecause;
+        const wort::Id wort = was.hostFort        ? wort::connectionLost
+                              : was.grund.empty() ? wort::trainingRefused
+                                                  : wort::trainingRefusedBecause;
         Melden("Melvora 2000", eingesetzt(Wort(wort), was.grund));
     };
     forms.add("grd_einst", [this] { return std::make_unique<GrdEinst>(*this); });

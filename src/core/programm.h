@@ -45,7 +45,7 @@ class Programm {
   public:
     Programm(Ports ports, Aufruf aufruf);
 
-    const std::string& Wort(int id) { return worte.Wort(id); }
+    const std::string& Wort(wort::Id wort) { return worte.Wort(wort); }
     /// The branch and the exercise type in force, as the start form captions them.
     const std::string& zweig() {
         return Wort(gehoerbildung(zustand) ? wort::earTraining : wort::musicTheory);

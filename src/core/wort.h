@@ -7,7 +7,7 @@
 /// code.
 namespace core::wort {
 
-enum Id : int {
+enum class Id : int {
     none = 0,  // no text
 
     // On several forms
@@ -170,7 +170,6 @@ enum Id : int {
 
     // Worksheets
     task = 129,                  // Aufgabe
-    next = 419,                  // nächste
     nextTask = 420,              // nächste Aufgabe
     oneMoment = 726,             // Einen Moment bitte !
     right = 468,                 // Richtig
@@ -320,6 +319,7 @@ enum Id : int {
     unexpectedFault = 973,     // Unerwarteter Fehler: %1
     resultsNotTaken = 974,     // Ergebnisse können nicht angenommen werden. %1
 };
+using enum Id;
 
 /// Words whose numbers follow each other.
 template <int length>

@@ -17,11 +17,11 @@ void Worte::SpracheSetzen(const std::string& name) {
     gelesen_.clear();
 }
 
-const std::string& Worte::Wort(int id) {
-    const auto [it, neu] = gelesen_.try_emplace(id, "VOID");
+const std::string& Worte::Wort(wort::Id wort) {
+    const auto [it, neu] = gelesen_.try_emplace(wort, "VOID");
     if (neu && sprachObjekt_) {
         try {
-            it->second = sprachObjekt_->Wort(std::to_string(id) + "s");
+            it->second = sprachObjekt_->Wort(std::to_string(static_cast<int>(wort)) + "s");
         } catch (const std::out_of_range&) {
         }
     }

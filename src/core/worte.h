@@ -1,4 +1,6 @@
 #pragma once
+#include "core/wort.h"
+
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -38,8 +40,8 @@ class Worte {
     /// Takes the language of that name; an unknown name changes nothing.
     void SpracheSetzen(const std::string& name);
     bool hatSprache() const { return sprachObjekt_ != nullptr; }
-    /// The word, "VOID" when there is no language or it lacks the number.
-    const std::string& Wort(int id);
+    /// The word, "VOID" when there is no language or it lacks the text.
+    const std::string& Wort(wort::Id wort);
     /// Of the language in force, "de" without one.
     const std::string& suffix() const { return suffix_; }
 
@@ -48,7 +50,7 @@ class Worte {
     std::vector<SprachListe::Sprache> sprachen_;
     std::unique_ptr<SprachObjekt> sprachObjekt_;
     std::string suffix_ = "de";
-    std::unordered_map<int, std::string> gelesen_;
+    std::unordered_map<wort::Id, std::string> gelesen_;
 };
 
 /// A text with its "%1" replaced, and with a second value its "%2".

@@ -38,7 +38,7 @@ void LogPage::retranslate() {
     const Words& words = host_.words();
     label_->setText(words.wort(wort::filterLabel));
     text_->setPlaceholderText(words.wort(wort::searchText));
-    const int kinds[] = {wort::allKinds, wort::logMessage, wort::logError};
+    const wort::Id kinds[] = {wort::allKinds, wort::logMessage, wort::logError};
     for (int i = 0; i < 3; ++i) kind_->setItemText(i, words.wort(kinds[i]));
     kind_->setAccessibleName(words.wort(wort::logKind));
     table_->setHeadings({words.wort(wort::logTime), words.wort(wort::userHeading),

@@ -93,7 +93,7 @@ void MainWindow::fill(int tab) {
 }
 
 void MainWindow::retranslate() {
-    const int titles[] = {wort::startPage, wort::resultsPage, wort::logPage, wort::usersPage};
+    const wort::Id titles[] = {wort::startPage, wort::resultsPage, wort::logPage, wort::usersPage};
     for (int tab = 0; tab < tabCount; ++tab) {
         tabs_->setTabText(tab, host_.words().wort(titles[tab]));
         if (Page* page = pages_[static_cast<std::size_t>(tab)]) page->retranslate();

@@ -51,8 +51,8 @@ QString recordHtml(const Words& words, const ResultRecord& record) {
     }
     if (record.lessons.isEmpty()) return html;
     html += heading(words.wort(wort::recordTasks)) + "<table><tr>";
-    for (const int number : {wort::taskScale, wort::taskAnswers, wort::taskDuration})
-        html += cell("<b>" + words.wort(number).toHtmlEscaped() + "</b>");
+    for (const wort::Id column : {wort::taskScale, wort::taskAnswers, wort::taskDuration})
+        html += cell("<b>" + words.wort(column).toHtmlEscaped() + "</b>");
     html += "</tr>";
     for (const auto& lesson : record.lessons) {
         const QString seconds = lesson.answers.isEmpty() ? "" : lesson.answers.last().seconds;

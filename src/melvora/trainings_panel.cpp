@@ -82,7 +82,7 @@ void TrainingsPanel::remove() {
 QString TrainingsPanel::exerciseName(const Training& training) const {
     struct Row {
         const char* exercise;
-        int branch, kind;
+        wort::Id branch, kind;
     };
     static constexpr Row rows[] = {
         {"1", wort::earTraining, wort::identify},

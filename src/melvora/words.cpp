@@ -33,8 +33,9 @@ bool Words::choose(const QString& language) {
     return true;
 }
 
-QString Words::wort(int number) const {
-    const QString text = languages_[chosen_].text(QByteArray::number(number) + "s");
+QString Words::wort(core::wort::Id word) const {
+    const QByteArray id = QByteArray::number(static_cast<int>(word)) + "s";
+    const QString text = languages_[chosen_].text(id);
     return text.isEmpty() ? QString("VOID") : text;
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/wort.h"
 #include "suite/languages.h"
 
 #include <QDateTime>
@@ -23,8 +24,8 @@ class Words {
     /// @return false, and nothing changed, when no installed language has that name.
     bool choose(const QString& language);
 
-    /// Text by number; "VOID" when the language lacks it.
-    QString wort(int number) const;
+    /// The text; "VOID" when the language lacks it.
+    QString wort(core::wort::Id word) const;
     /// Local date and time in the language's short format, the year in full; a dash for an invalid
     /// moment.
     QString moment(const QDateTime& moment) const;

@@ -64,7 +64,7 @@ Urteil auswahlBeurteilen(const std::vector<form::ItemList::Item>& gewaehlt, int 
     return auf < 5 || ab < 5 ? Urteil::ZuWenig : Urteil::Genug;
 }
 
-int hinweisWort(int final, Richtungen richtungen, int flag) {
+wort::Id hinweisWort(int final, Richtungen richtungen, int flag) {
     constexpr std::array mindestens{wort::atLeast2, wort::atLeast3};
     constexpr std::array jeRichtung{wort::atLeast2PerDirection, wort::atLeast3PerDirection};
     const std::size_t strenger = final == 1 ? 1 : 0;

@@ -1,5 +1,6 @@
 #pragma once
 #include "core/katalog.h"
+#include "core/wort.h"
 #include "core/zustand.h"
 #include "form/controls.h"
 
@@ -36,8 +37,8 @@ enum class Urteil { Genug, ZuWenig, Ungleich };
 Urteil auswahlBeurteilen(const std::vector<form::ItemList::Item>& gewaehlt, int final,
                          Richtungen richtungen);
 
-/// Number of the word that tells what the choice lacks.
+/// The word that tells what the choice lacks.
 /// @param flag not 0: the directions must be equal in number.
-int hinweisWort(int final, Richtungen richtungen, int flag);
+core::wort::Id hinweisWort(int final, Richtungen richtungen, int flag);
 
 }  // namespace setup

@@ -21,8 +21,8 @@ std::string stueckeOrdner(const core::Programm& p) {
 }  // namespace
 
 DateiFormular::DateiFormular(core::Programm& programm, const std::string& name,
-                             const std::string& feld, const std::string& label, int titelWort,
-                             int pfadWort)
+                             const std::string& feld, const std::string& label, wort::Id titelWort,
+                             wort::Id pfadWort)
     : Formular(programm, name),
       pfadLabel_(*this, {label}),
       txt_(*this, feld, 2, nullptr, form::TextBox::Size::Line) {

@@ -17,7 +17,7 @@ class DateiFormular : public core::Formular {
   protected:
     /// @param feld name of the text boxes. @param worte caption and label of the path.
     DateiFormular(core::Programm& programm, const std::string& name, const std::string& feld,
-                  const std::string& label, int titelWort, int pfadWort);
+                  const std::string& label, core::wort::Id titelWort, core::wort::Id pfadWort);
     /// Opens the file dialog and takes what was chosen.
     virtual void cmdSave_click() = 0;
     virtual void cmdOK_click() = 0;

@@ -109,7 +109,7 @@ void Einstellung::LadewerteSetzen() {
 
 void Einstellung::CombosFuellen() {
     range_.fill();
-    for (const int wort : {wort::ascending, wort::descending, wort::bothDirections})
+    for (const wort::Id wort : {wort::ascending, wort::descending, wort::bothDirections})
         Combo_richtung.add(Wort(wort));
     Combo_richtung.setListIndex(2);
     const int typen = namingByEar() ? core::katalog::kategorienAnz : 1;

@@ -20,7 +20,7 @@ enum Trait : unsigned {
 /// A group as it opens, and its heading.
 struct Gruppe {
     int index;
-    int wort;  ///< 0 without a heading
+    wort::Id wort;  ///< none without a heading
     unsigned traits = 0;
     base::Colour farbe = farben::offen;
 
@@ -38,14 +38,14 @@ constexpr std::array gruppen{
     Gruppe{group::scales, wort::scalesIncluded, modus | pruefung},
     Gruppe{group::single, wort::scaleSelection, modus},
     Gruppe{group::answers, wort::display, modus},
-    Gruppe{group::check, 0, 0, farben::klang},
+    Gruppe{group::check, wort::none, 0, farben::klang},
     Gruppe{group::sound, wort::timbre, 0, farben::klang},
 };
 
 std::vector<int> indices(Zweig zweig, bool ueberschrift) {
     std::vector<int> alle;
     for (const Gruppe& g : gruppen)
-        if ((klingt(zweig) || !g.has(nurKlang)) && (!ueberschrift || g.wort != 0))
+        if ((klingt(zweig) || !g.has(nurKlang)) && (!ueberschrift || g.wort != wort::none))
             alle.push_back(g.index);
     return alle;
 }
@@ -72,7 +72,7 @@ Groups::Groups(core::Formular& form, Zweig zweig)
         form::Group* gruppe = find(g.index);
         if (!gruppe) continue;
         gruppe->backColour = g.farbe;
-        if (g.wort == 0) continue;
+        if (g.wort == wort::none) continue;
         geinst_lb(g.index).setContainer(*gruppe);
         form.beschriften({{geinst_lb(g.index), g.wort}});
     }

@@ -145,9 +145,9 @@ void SoundPanel::KlangKontrolleAbschliessen() {
 void SoundPanel::TonHinweisZeigen() {
     constexpr std::array hinweise{wort::none, wort::noSoundfont, wort::noAudioDevice,
                                   wort::audioDeviceGone, wort::noSoundLibrary};
-    const int wort = base::at(hinweise, static_cast<int>(MIDI.problem()));
-    tonHinweis.caption = wort == 0 ? std::string() : p.Wort(wort);
-    tonHinweis.visible = wort != 0;
+    const wort::Id why = base::at(hinweise, static_cast<int>(MIDI.problem()));
+    tonHinweis.caption = why == wort::none ? std::string() : p.Wort(why);
+    tonHinweis.visible = why != wort::none;
 }
 
 }  // namespace setup

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int tetrachorde = 6;
 /// Which keys do what, by whether a scale is written and whether it sounds.
-constexpr std::array<std::array<int, 2>, 2> tastenWorte{
+constexpr std::array<std::array<wort::Id, 2>, 2> tastenWorte{
     {{wort::identifySilentKeys, wort::identifyKeys}, {wort::writeSilentKeys, wort::writeKeys}}};
 
 }  // namespace
