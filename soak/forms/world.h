@@ -4,7 +4,6 @@
 #include "form/ports.h"
 #include "form/virtual_time.h"
 #include "forms/tally.h"
-#include "sim/alarm.h"
 #include "sim/memory_host.h"
 #include "sound/null_output.h"
 
@@ -81,7 +80,7 @@ class Answers final : public form::Dialogs {
 /// A device whose queue ends in its time, and whose volume can be faded.
 class TimedOutput final : public sound::NullOutput {
   public:
-    TimedOutput(form::MessageLoop& loop, Tally& tally) : tally_(tally), end_(loop) {}
+    TimedOutput(form::MessageLoop& loop, Tally& tally) : tally_(tally), loop_(loop) {}
     void queue(const sound::MidiEvent& event) override;
     void send(const sound::MidiEvent& event) override;
     void start() override;
@@ -100,7 +99,8 @@ class TimedOutput final : public sound::NullOutput {
     void check(const sound::MidiEvent& event);
 
     Tally& tally_;
-    sim::Alarm end_;
+    form::MessageLoop& loop_;
+    form::Connection end_;
     int length_ = 0;
 };
 

@@ -18,8 +18,9 @@ class MailLoop final : public form::MessageLoop {
   public:
     base::Moment now() const override { return {}; }
     float clock() const override { return 0; }
-    void arm(form::Timer&, int) override { throw std::logic_error("no timers here"); }
-    void disarm(form::Timer&) override {}
+    form::Connection after(int, std::function<void()>) override {
+        throw std::logic_error("no timers here");
+    }
     void doEvents() override { mail.runFor(std::chrono::milliseconds(0)); }
     void wait(double milliseconds, const bool& abort) override {
         mail.runUntil([&abort] { return abort; },

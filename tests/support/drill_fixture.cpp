@@ -76,8 +76,7 @@ worksheets::Arbeitsblatt* DrillFixture::sheet() const {
 }
 
 void DrillFixture::later(int milliseconds, std::function<void()> what) {
-    alarms_.push_back(std::make_unique<sim::Alarm>(loop));
-    alarms_.back()->in(milliseconds, std::move(what));
+    later_.push_back(loop.after(milliseconds, std::move(what)));
 }
 
 }  // namespace support

@@ -1,6 +1,5 @@
 #pragma once
 #include "results/testergebnis.h"
-#include "sim/alarm.h"
 #include "sim/temp_folder.h"
 #include "support/whole_drill.h"
 
@@ -53,7 +52,7 @@ struct DrillFixture : WithHost, private sim::TempFolder, WholeDrill {
     RecordingMidi& midiOut = midi;
 
   private:
-    std::vector<std::unique_ptr<sim::Alarm>> alarms_;
+    std::vector<form::Connection> later_;
 };
 
 }  // namespace support

@@ -1,32 +1,8 @@
 #include "support/recording_midi.h"
 
-#include "form/controls.h"
-#include "form/forms.h"
-
 #include <algorithm>
 
 namespace support {
-
-/// A form of its own, so that the end of the queue is an event of the loop like any other.
-struct RecordingMidi::EndTimer : private form::Forms, form::Form {
-    explicit EndTimer(form::MessageLoop& messages)
-        : form::Forms(messages), Form(static_cast<form::Forms&>(*this), "end of the queue") {}
-    void closeBox() override {}
-    void failed(const std::string&, const std::exception&) override { throw; }
-    form::Timer timer{*this, {"end"}, 1};
-};
-
-RecordingMidi::RecordingMidi(form::VirtualTime& loop)
-    : loop_(loop), end_(std::make_unique<EndTimer>(loop)) {
-    end_->timer.onTick = {"end", [this] {
-                              end_->timer.stop();
-                              startedAt_ = -1;
-                              queued.clear();
-                              if (queueEmpty) queueEmpty();
-                          }};
-}
-
-RecordingMidi::~RecordingMidi() = default;
 
 sound::MidiDevice RecordingMidi::device(int id) {
     return id == mapper ? sound::MidiDevice{5, "built in"}
@@ -38,14 +14,17 @@ void RecordingMidi::start() {
     startedAt_ = loop_.elapsed();
     std::int32_t last = 0;
     for (const auto& event : queued) last = std::max(last, event.time);
-    end_->timer.setInterval(std::max(1, last));
-    end_->timer.start();
+    end_ = loop_.after(last, [this] {
+        startedAt_ = -1;
+        queued.clear();
+        if (queueEmpty) queueEmpty();
+    });
 }
 
 void RecordingMidi::stop() {
     queued.clear();
     startedAt_ = -1;
-    end_->timer.stop();
+    end_ = {};
 }
 
 void RecordingMidi::setVolume(int left, int right) {

@@ -2,7 +2,6 @@
 #include "form/virtual_time.h"
 #include "sound/midi_output.h"
 
-#include <memory>
 #include <set>
 #include <utility>
 #include <vector>
@@ -13,8 +12,7 @@ namespace support {
 /// notes sound, and raises its end event through the loop.
 class RecordingMidi final : public sound::MidiOutput {
   public:
-    explicit RecordingMidi(form::VirtualTime& loop);
-    ~RecordingMidi() override;
+    explicit RecordingMidi(form::VirtualTime& loop) : loop_(loop) {}
 
     int deviceCount() override { return 2; }
     sound::MidiDevice device(int id) override;
@@ -47,10 +45,9 @@ class RecordingMidi final : public sound::MidiOutput {
     std::function<void()> volumeSet;           ///< called after each of them
 
   private:
-    struct EndTimer;
     form::VirtualTime& loop_;
     std::int64_t startedAt_ = -1;  ///< -1 while nothing plays
-    std::unique_ptr<EndTimer> end_;
+    form::Connection end_;         ///< of the queue that plays
 };
 
 }  // namespace support
