@@ -33,7 +33,8 @@ LAYERS = {
     "look": [],
     "ports": [],
     "qt": ["drill", "look"],
-    "sim": ["drill"],
+    "rehearsal": ["sound"],
+    "sim": ["drill", "rehearsal"],
     "melvora": ["hostlink", "look", "ports"],
     "zepha9": ["drill", "synth", "hostlink", "qt"],
 }

@@ -4,7 +4,7 @@
 #include "form/ports.h"
 #include "form/virtual_time.h"
 #include "forms/tally.h"
-#include "sim/memory_host.h"
+#include "rehearsal/memory_host.h"
 #include "sound/null_output.h"
 
 #include <filesystem>
@@ -31,7 +31,9 @@ struct Weather {
 /// A host that outlives the episodes of one user, and fails as the weather has it.
 class UnsteadyHost {
   public:
-    UnsteadyHost(base::Rnd& chance, Tally& tally) : chance_(chance), tally_(tally) {}
+    UnsteadyHost(base::Rnd& chance, Tally& tally) : chance_(chance), tally_(tally) {
+        memory_.user.reset();
+    }
     core::Host::Factory factory();
 
     Weather weather;
@@ -46,7 +48,7 @@ class UnsteadyHost {
 
     base::Rnd& chance_;
     Tally& tally_;
-    sim::MemoryHost memory_;
+    rehearsal::MemoryHost memory_;
 };
 
 /// Message boxes are answered in their time; files are good, missing or damaged.
@@ -110,10 +112,6 @@ struct NoPrinter final : form::Printer {
         if (oncePer(chance_, 3)) throw form::PrintFault(oncePer(chance_, 2) ? "" : "printer");
     }
     base::Rnd& chance_;
-};
-
-struct NoHelp final : form::Help {
-    void open(const std::string&, const std::string&) override {}
 };
 
 }  // namespace soak

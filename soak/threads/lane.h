@@ -2,8 +2,8 @@
 #include "base/rnd.h"
 #include "core/host.h"
 #include "core/zustand.h"
+#include "rehearsal/scripted_dialogs.h"
 #include "sound/midi.h"
-#include "support/fake_ports.h"
 #include "synth/mail.h"
 #include "synth/synth_options.h"
 #include "threads/sound_server.h"
@@ -92,7 +92,7 @@ class Lane {
     base::Rnd rnd_;
     Progress progress_;
     MailLoop loop_;
-    support::ScriptedDialogs dialogs_;
+    rehearsal::ScriptedDialogs dialogs_;
     core::Zustand state_;
     core::Host host_{[] { return nullptr; }, dialogs_, state_};
     std::string who_;

@@ -16,21 +16,27 @@ std::function<std::int64_t()> seeds(std::int64_t seed) {
     };
 }
 
+std::optional<FileWords> wordsOf(const Options& options) {
+    if (options.words.empty()) return {};
+    return FileWords(options.words);
+}
+
 }  // namespace
 
 Simulation::Simulation(const Options& options, std::ostream* trace)
     : options_(options),
       exercise_(exercise(options.form)),
       state_(exerciseState(exercise_, options.assignments)),
-      words_(options.words.empty() ? Words() : Words(options.words)),
-      dialogs_(options.keep),
-      trace_(trace ? std::make_unique<Trace>(*trace, loop_) : nullptr),
-      output_(trace_.get()),
-      drill_({loop_, dialogs_, printer_, help_, seeds(options.seed), host_.factory(), &words_},
+      words_(wordsOf(options)),
+      trace_(trace ? std::make_unique<Trace>(*trace, room_.loop) : nullptr),
+      drill_(room_.ports(host_, seeds(options.seed), words_ ? &*words_ : nullptr),
              {"", folder_.path().string(), "simulation"}, output_),
       // Its chance is its own, so that the same tasks can be given to different learners.
-      pupil_(loop_, options.learner, ~options.seed),
+      pupil_(room_.loop, options.learner, ~options.seed),
       road_(drill_, exercise_) {
+    host_.user.reset();
+    room_.dialogs.otherwise = options.keep;
+    if (trace_) trace_->hear(output_);
     if (!drill_.programm.forms.knows(options.form))
         throw UsageError("the drill has no form \"" + options.form + "\"");
     if (state_.uebungsmodus == core::modus::ausprobieren && options.tasks == 0)
@@ -69,20 +75,21 @@ void Simulation::openWorksheet() {
 Outcome Simulation::run() {
     outcome_ = {};
     over_ = false;
-    faults_ = host_.faults().size();
-    dialogs_.messages.clear();
-    const std::int64_t begin = lastTurn_ = loop_.elapsed();
+    host_.forget();
+    room_.dialogs.messages.clear();
+    room_.dialogs.questions.clear();
+    const std::int64_t begin = lastTurn_ = room_.loop.elapsed();
     if (!options_.throughSetup)
         openWorksheet();
     else if (kept_)
         road_.resume();
     else
         road_.go(options_.assignments, state_);
-    loop_.runUntil([this] {
-        if (loop_.elapsed() - lastTurn_ > day) throw std::logic_error("the run stands still");
+    room_.loop.runUntil([this] {
+        if (room_.loop.elapsed() - lastTurn_ > day) throw std::logic_error("the run stands still");
         return over_;
     });
-    outcome_.milliseconds = loop_.elapsed() - begin;
+    outcome_.milliseconds = room_.loop.elapsed() - begin;
     kept_ = options_.keep && outcome_.ending == Ending::Left && outcome_.bar;
     std::error_code ignored;
     std::filesystem::remove(drill_.xml.datei(), ignored);
@@ -105,7 +112,7 @@ void Simulation::made(form::Form& form) {
 }
 
 void Simulation::notice(worksheets::Arbeitsblatt::Ereignis turn) {
-    lastTurn_ = loop_.elapsed();
+    lastTurn_ = room_.loop.elapsed();
     if (trace_) trace_->notice(turn, *sheet_, drill_.programm.zustand);
     pupil_.notice(turn);
     if (turn == worksheets::Arbeitsblatt::Ereignis::LaufEnde) outcome_.ending = ending();
@@ -146,8 +153,12 @@ void Simulation::gone(form::Form& form) {
 }
 
 std::string Simulation::fault() const {
-    if (host_.faults().size() > faults_) return host_.faults()[faults_];
-    return dialogs_.messages.empty() ? std::string() : dialogs_.messages.front();
+    if (!host_.faults.empty()) {
+        const core::Value& first = host_.faults.front();
+        return first.at(0).text() + ": " + first.at(2).text();
+    }
+    const auto& messages = room_.dialogs.messages;
+    return messages.empty() ? std::string() : messages.front().text;
 }
 
 }  // namespace sim

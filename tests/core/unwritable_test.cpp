@@ -10,10 +10,10 @@ struct Unwritable : setup::test::SetUp {
     Unwritable() {
         words.texts = {{"815s", "no record in %1: free some space"},
                        {"834s", "no settings in %1: choose another folder"}};
-        drill.programm.aufruf.tempOrdner = gone;
-        drill.programm.aufruf.pruefEdit = true;
-        drill.programm.forms.unload("einstellung1");
-        drill.programm.forms.load("einstellung1");
+        programm.aufruf.tempOrdner = gone;
+        programm.aufruf.pruefEdit = true;
+        programm.forms.unload("einstellung1");
+        programm.forms.load("einstellung1");
         loop.advance(250);
     }
     const std::string gone = (std::filesystem::path(testing::TempDir()) / "gone/x").string();
@@ -21,17 +21,17 @@ struct Unwritable : setup::test::SetUp {
 
 TEST_F(Unwritable, RecordAndSettingsAreToldWithTheirPathAndWhatToDo) {
     dialogs.files = {gone + "/exam.mvs"};
-    const auto watch = drill.programm.forms.made.connect([&](form::Form& made) {
+    const auto watch = programm.forms.made.connect([&](form::Form& made) {
         if (made.name() != "frmSave") return;
         loop.post([&] {
             for (const char* name : {"cmdSave", "cmdOK"})
-                get<form::Button>(name, form::Place::noIndex, "frmSave").click();
+                control<form::Button>("frmSave", name).click();
         });
     });
     button("cmdOptionSave").click();
     button("cmdOK").click();
     loop.advance(500);
-    get<form::Panel>("zurueck", form::Place::noIndex, "arbeitsblatt1").click();
+    click("zurueck");
     ASSERT_EQ(dialogs.messages.size(), 2U);
     const std::string warning = "W720\nW721\nW722\nW723\n\n",
                       reason = " (No such file or directory)";

@@ -81,7 +81,7 @@ TEST_F(Leaving, ARunBearsTheFaultsOfHelpAndKeys) {
 }
 
 TEST_F(Leaving, APaletteKeepsItsColoursToTheEnd) {
-    Practice run(host, Practice::Way{false, 4});
+    Practice run(host, Way{false, 4});
     run.begin();
     run.next();
     const auto open = run.on<form::Group>("grdnot", 0).backColour();

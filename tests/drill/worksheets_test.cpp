@@ -14,7 +14,7 @@ namespace {
 using engine::AufgZustand;
 using sim::Writing;
 
-constexpr Practice::Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{true, 4};
+constexpr Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{true, 4};
 
 struct Exercise : Practice {
     using Practice::Practice;
@@ -56,7 +56,7 @@ TEST_F(Worksheets, FourWrongAnswersBringTheSolutionToSeeAndToHear) {
         for (int tries = 1; tries <= 4; ++tries) {
             EXPECT_NE(run.turn(), AufgZustand::Geschlossen);
             run.handIn(Writing::Wrong);
-            EXPECT_EQ(run.shown("zaehler", 1), std::to_string(tries));
+            EXPECT_EQ(run.caption("zaehler", 1), std::to_string(tries));
         }
         EXPECT_EQ(run.turn(), AufgZustand::Geschlossen);
         EXPECT_EQ(run.wrongColumns(), 0);
@@ -92,7 +92,8 @@ TEST_F(Worksheets, SpellingCountsAsMuchAsSound) {
     int misspelled = 0;
     for (int task = 0; task < 30; ++task) {
         run.next();
-        EXPECT_EQ(run.shown("aufg"), run.drill.programm.katalog.skal_name[0][run.task().skala_nr]);
+        EXPECT_EQ(run.caption("aufg"),
+                  run.drill.programm.katalog.skal_name[0][run.task().skala_nr]);
         sim::writeScale(run.sheet(), Writing::Enharmonic, run.chance);
         const bool same = run.wrongColumns() == 0;
         run.on<form::Button>("cmdOK").click();
@@ -170,7 +171,7 @@ TEST_F(Worksheets, TheoryAndWritingAreSavedUnderTheirOwnKeys) {
         EXPECT_EQ(again.z.uebungsmodus, 2);
         again.begin();
         EXPECT_EQ(again.weights(), weights);
-        EXPECT_EQ(again.shown("zaehler", 0), "3");
+        EXPECT_EQ(again.caption("zaehler", 0), "3");
         host.records.clear();
     }
 }

@@ -47,8 +47,8 @@ TEST_F(Fortsetzung, AnotherStartGoesOnWhereTheTrainingWasLeft) {
         for (const int i : {5, 4, 9, 10, 7, 0, 2, 1, 3, 11}) EXPECT_FALSE(run.group(i).enabled());
         run.begin();
         EXPECT_EQ(run.weights(), weights);
-        EXPECT_EQ(run.shown("zaehler", 0), std::to_string(4 + start));
-        EXPECT_EQ(run.shown("zaehler", 1), "2");
+        EXPECT_EQ(run.caption("zaehler", 0), std::to_string(4 + start));
+        EXPECT_EQ(run.caption("zaehler", 1), "2");
         float tasks = 0;
         for (int slot = 1; slot <= 16; ++slot) tasks += run.drill.wertung.auswertung.read(slot, 0);
         EXPECT_EQ(tasks, 4 + start);
@@ -82,7 +82,7 @@ TEST_F(Fortsetzung, AHalfSavedTrainingIsNeverOffered) {
     saved();
     for (int stores = 0; stores < 3; ++stores) {
         SCOPED_TRACE(stores);
-        support::FakeHost copy;
+        rehearsal::MemoryHost copy;
         copy.records = host.records;
         {
             Practice drill(copy);
@@ -124,7 +124,7 @@ TEST_F(Fortsetzung, ARecordThatDoesNotFitIsRefusedAsAWhole) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        support::FakeHost copy;
+        rehearsal::MemoryHost copy;
         copy.records = host.records;
         Practice drill(copy);
         drill.mode(2);
@@ -149,7 +149,7 @@ TEST_F(Fortsetzung, TheOrderOfTonesOnTheFormDoesNotMatter) {
     for (const bool saved : {false, true}) {
         SCOPED_TRACE(saved ? "melody" : "scale");
         host.records["zepha9/E1b"] = saved ? melody : scale;
-        Practice theory(host, Practice::Way{true, 1});
+        Practice theory(host, Way{true, 1});
         theory.option("abfolge", saved ? 0 : 1).click();
         theory.mode(2);
         EXPECT_EQ(theory.z.uebungsmodus, 2);
@@ -165,7 +165,7 @@ TEST_F(Fortsetzung, SettingsThatDoNotFitBecomeANewTraining) {
     for (const auto& [element, text] :
          {std::pair{0, "7"}, {2, "-1"}, {3, ""}, {5, "9"}, {6, "3"}, {8, "x"}, {11, "900"}}) {
         SCOPED_TRACE(element);
-        support::FakeHost copy;
+        rehearsal::MemoryHost copy;
         copy.records = host.records;
         auto array = record("E1").items();
         array[static_cast<std::size_t>(element)] = text;

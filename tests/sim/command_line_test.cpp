@@ -23,7 +23,7 @@ std::string contents(const char* file) {
 }
 
 TEST(CommandLine, TheProgramTellsItsStatusAndWritesItsFiles) {
-    const TempFolder folder;
+    const rehearsal::TempFolder folder;
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(folder.path());
 

@@ -6,13 +6,13 @@
 #include <utility>
 #include <vector>
 
-namespace support {
+namespace rehearsal {
 
 /// A MIDI device with two ports on virtual time. It keeps what was queued and sent, knows which
 /// notes sound, and raises its end event through the loop.
-class RecordingMidi final : public sound::MidiOutput {
+class MidiRecorder final : public sound::MidiOutput {
   public:
-    explicit RecordingMidi(form::VirtualTime& loop) : loop_(loop) {}
+    explicit MidiRecorder(form::VirtualTime& loop) : loop_(loop) {}
 
     int deviceCount() override { return 2; }
     sound::MidiDevice device(int id) override;
@@ -50,4 +50,4 @@ class RecordingMidi final : public sound::MidiOutput {
     form::Connection end_;         ///< of the queue that plays
 };
 
-}  // namespace support
+}  // namespace rehearsal

@@ -1,15 +1,15 @@
-#include "support/recording_midi.h"
+#include "rehearsal/midi_recorder.h"
 
 #include <algorithm>
 
-namespace support {
+namespace rehearsal {
 
-sound::MidiDevice RecordingMidi::device(int id) {
+sound::MidiDevice MidiRecorder::device(int id) {
     return id == mapper ? sound::MidiDevice{5, "built in"}
                         : sound::MidiDevice{1, "port " + std::to_string(id)};
 }
 
-void RecordingMidi::start() {
+void MidiRecorder::start() {
     starts.push_back(loop_.elapsed());
     startedAt_ = loop_.elapsed();
     std::int32_t last = 0;
@@ -21,19 +21,19 @@ void RecordingMidi::start() {
     });
 }
 
-void RecordingMidi::stop() {
+void MidiRecorder::stop() {
     queued.clear();
     startedAt_ = -1;
     end_ = {};
 }
 
-void RecordingMidi::setVolume(int left, int right) {
+void MidiRecorder::setVolume(int left, int right) {
     volume = {left, right};
     volumes.push_back(volume);
     if (volumeSet) volumeSet();
 }
 
-std::set<std::pair<int, int>> RecordingMidi::sounding() const {
+std::set<std::pair<int, int>> MidiRecorder::sounding() const {
     std::set<std::pair<int, int>> notes;
     if (startedAt_ < 0) return notes;
     auto events = queued;
@@ -49,7 +49,7 @@ std::set<std::pair<int, int>> RecordingMidi::sounding() const {
     return notes;
 }
 
-std::vector<sound::MidiEvent> RecordingMidi::noteOns() const {
+std::vector<sound::MidiEvent> MidiRecorder::noteOns() const {
     std::vector<sound::MidiEvent> ons;
     std::ranges::copy_if(queued, std::back_inserter(ons),
                          [](const auto& e) { return (e.status & 0xF0) == 0x90; });
@@ -57,11 +57,11 @@ std::vector<sound::MidiEvent> RecordingMidi::noteOns() const {
     return ons;
 }
 
-std::vector<sound::MidiEvent> RecordingMidi::sentWith(int status) const {
+std::vector<sound::MidiEvent> MidiRecorder::sentWith(int status) const {
     std::vector<sound::MidiEvent> found;
     std::ranges::copy_if(sends, std::back_inserter(found),
                          [status](const auto& e) { return (e.status & 0xF0) == status; });
     return found;
 }
 
-}  // namespace support
+}  // namespace rehearsal
