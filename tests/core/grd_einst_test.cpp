@@ -1,4 +1,3 @@
-#include "core/formular.h"
 #include "support/desk.h"
 
 #include <gtest/gtest.h>
@@ -6,18 +5,7 @@
 namespace core {
 namespace {
 
-/// Takes the place of a set-up form or worksheet.
-struct Other final : Formular {
-    using Formular::Formular;
-    void closeBox() override {}
-};
-
 struct StartForm : support::Desk {
-    StartForm() {
-        for (const char* name : {"einstellung1", "einstellung1b", "arbeitsblatt4"})
-            programm.forms.add(name,
-                               [this, name] { return std::make_unique<Other>(programm, name); });
-    }
     form::Form& form() { return Desk::form("grd_einst"); }
     template <class C>
     C& part(const char* name, int index = noIndex) {

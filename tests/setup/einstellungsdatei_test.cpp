@@ -194,6 +194,27 @@ TEST_F(Datei, WhatCannotBeWrittenOrReadIsToldWithItsPath) {
     EXPECT_NE(teacher.dialogs.messages.back().text.find("W889"), std::string::npos) << "no path";
 }
 
+TEST_F(Datei, NeitherSettingsNorRecordGetLostSilentlyWithTheirFolder) {
+    const std::string gone = (folder / "gone/x").string();
+    teacher.words.texts = {{"815s", "no record in %1: free some space"},
+                           {"834s", "no settings in %1: choose another folder"}};
+    teacher.programm.aufruf.tempOrdner = gone;
+    teacher.dialogs.files = {gone + "/exam.mvs"};
+    save({"cmdSave", "cmdOK"});
+    teacher.begin();
+    teacher.wait(500);
+    teacher.click("zurueck");
+    ASSERT_EQ(teacher.dialogs.messages.size(), 2U);
+    const std::string warning = "W720\nW721\nW722\nW723\n\n",
+                      reason = " (No such file or directory)";
+    EXPECT_EQ(teacher.dialogs.messages[0].text,
+              warning + "no settings in " + gone + "/exam.mvs: choose another folder" + reason);
+    const std::string file = teacher.drill.xml.datei();
+    EXPECT_TRUE(file.starts_with(gone));
+    EXPECT_EQ(teacher.dialogs.messages[1].text,
+              warning + "no record in " + file + ": free some space" + reason);
+}
+
 }  // namespace
 
 }  // namespace setup::test

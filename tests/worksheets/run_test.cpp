@@ -6,18 +6,7 @@
 namespace worksheets {
 namespace {
 
-using engine::AufgZustand;
 using support::Practice;
-
-/// One task, answered after half a second: at once right, or wrong until it is lost.
-void doTask(Practice& desk, bool right) {
-    desk.next();
-    desk.wait(500);
-    if (right)
-        desk.answerRight();
-    else
-        desk.lose();
-}
 
 const results::Testergebnis& result(const Practice& desk) {
     return dynamic_cast<results::Testergebnis&>(desk.form("testergebnis"));
@@ -37,50 +26,6 @@ void expectQuietHome(Practice& desk) {
     EXPECT_TRUE(desk.dialogs.messages.empty());
     EXPECT_TRUE(desk.setUp().visible());
     EXPECT_TRUE(std::filesystem::exists(desk.drill.xml.datei()));
-}
-
-TEST(Training, AConfusedScaleComesUpMoreOftenAndTheLastTaskCanBeHeardAfterTheEnd) {
-    Practice desk({.seed = 5});
-    desk.z.uebungsmodus = 1;
-    desk.z.richtung = 0;
-    desk.run();
-    desk.next();
-    const int asked = desk.task().skala_nr, confused = (asked + 3) % 7;
-    desk.answer(confused);
-    desk.answerRight();
-    for (int i = 1; i <= 7; ++i) {
-        const int code = desk.z.mathaeufgk_box(i, 0);
-        EXPECT_EQ(desk.z.mathaeufgk_box(i, 1), code == asked + 1      ? 6
-                                               : code == confused + 1 ? 5
-                                                                      : 4);
-    }
-    EXPECT_EQ(desk.caption("zaehler", 0) + desk.caption("zaehler", 1), "11");
-    while (desk.turn() != AufgZustand::TrainingBeendet) doTask(desk, false);
-    desk.click("wieder2");
-    desk.wait(desk.taskLength());
-    EXPECT_TRUE(desk.on("wieder2").usable());
-    EXPECT_FALSE(desk.on("CmdNextAufg").usable());
-}
-
-TEST(Exam, EndsByItsCountAndItsClockStops) {
-    Practice desk({.seed = 7});
-    std::size_t rows = 0;
-    desk.whenResult([&] { rows = result(desk).zeilen().size(); });
-    desk.z.uebungsmodus = 4;
-    desk.z.richtung = 0;
-    desk.run();
-    for (int n = 1; n <= 28; ++n) {
-        ASSERT_NE(desk.turn(), AufgZustand::PruefungBeendet) << n;
-        doTask(desk, n % 2 == 0);
-    }
-    EXPECT_EQ(desk.turn(), AufgZustand::PruefungBeendet);
-    const int left = desk.lauf().stand().restZeit;
-    desk.wait(60000);
-    EXPECT_EQ(desk.lauf().stand().restZeit, left);
-    desk.click("zurueck");
-    expectQuietHome(desk);
-    EXPECT_EQ(rows, 7U);
-    EXPECT_FALSE(desk.host.records.contains("zepha9/A1"));
 }
 
 /// The clock may run out while a task waits, sounds or is open.
@@ -188,25 +133,10 @@ TEST(Leaving, ThenTheNextRunIsAFreshOne) {
         desk.wait(500);
         desk.run();
     }
-    doTask(desk, true);
+    desk.task(true);
     desk.programm.forms.show("arbeitsblatt1");
     desk.wait(1000);
     EXPECT_EQ(desk.caption("zaehler", 0), "1") << "another activation does not begin it anew";
-}
-
-TEST(Fault, InADrawIsLoggedShownAndLeadsHome) {
-    Practice desk;
-    desk.z.uebungsmodus = 1;
-    desk.run();
-    desk.z.FrquMinAkt = 32767;
-    desk.click("CmdNextAufg");
-    desk.wait(1000);
-    EXPECT_FALSE(desk.running());
-    ASSERT_EQ(desk.host.faults.size(), 1U);
-    EXPECT_EQ(desk.host.faults[0].at(0).text(), "zepha9.MatWahl.arbeitsblatt1");
-    EXPECT_EQ(desk.host.faults[0].at(1), core::Value(6));
-    EXPECT_EQ(desk.dialogs.messages.size(), 1U);
-    EXPECT_TRUE(desk.setUp().visible());
 }
 
 }  // namespace
