@@ -1,5 +1,6 @@
 #include "sim/simulation.h"
 
+#include "sim/seeds.h"
 #include "sim/usage_error.h"
 
 namespace sim {
@@ -7,14 +8,6 @@ namespace sim {
 namespace {
 
 constexpr std::int64_t day = 24LL * 60 * 60 * 1000;
-
-/// One for each run, so that the tasks of a run do not hang on the length of the run before.
-std::function<std::int64_t()> seeds(std::int64_t seed) {
-    return [chance = base::Rnd(seed)]() mutable {
-        constexpr int half = 1 << 24;
-        return std::int64_t{chance.below(half)} * half + chance.below(half);
-    };
-}
 
 std::optional<FileWords> wordsOf(const Options& options) {
     if (options.words.empty()) return {};
@@ -26,21 +19,18 @@ std::optional<FileWords> wordsOf(const Options& options) {
 Simulation::Simulation(const Options& options, std::ostream* trace)
     : options_(options),
       exercise_(exercise(options.form)),
-      state_(exerciseState(exercise_, options.assignments)),
+      state_(exerciseState(options)),
       words_(wordsOf(options)),
       trace_(trace ? std::make_unique<Trace>(*trace, room_.loop) : nullptr),
       drill_(room_.ports(host_, seeds(options.seed), words_ ? &*words_ : nullptr),
              {"", folder_.path().string(), "simulation"}, output_),
-      // Its chance is its own, so that the same tasks can be given to different learners.
-      pupil_(room_.loop, options.learner, ~options.seed),
+      pupil_(room_.loop, options.learner, learnersSeed(options.seed)),
       road_(drill_, exercise_) {
     host_.user.reset();
     room_.dialogs.otherwise = options.keep;
     if (trace_) trace_->hear(output_);
     if (!drill_.programm.forms.knows(options.form))
         throw UsageError("the drill has no form \"" + options.form + "\"");
-    if (state_.uebungsmodus == core::modus::ausprobieren && options.tasks == 0)
-        throw UsageError("uebungsmodus 0 does not end by itself: --tasks is needed");
     made_ = drill_.programm.forms.made.connect([this](form::Form& form) { made(form); });
     gone_ = drill_.programm.forms.gone.connect([this](form::Form& form) { gone(form); });
     if (!options.throughSetup) startUp();
@@ -119,35 +109,18 @@ void Simulation::notice(worksheets::Arbeitsblatt::Ereignis turn) {
 }
 
 Ending Simulation::ending() const {
-    switch (sheet_->lauf().aufgZustand()) {
-        case engine::AufgZustand::TrainingBeendet:
-            return sheet_->lauf().zielErreicht() ? Ending::Goal : Ending::Failed;
-        case engine::AufgZustand::PruefungBeendet:
-            return Ending::Count;
-        case engine::AufgZustand::Offen:
-        case engine::AufgZustand::Geschlossen:
-        case engine::AufgZustand::Weiter:
-            break;
-    }
+    if (const auto end = endingOf(sheet_->lauf())) return *end;
     if (pupil_.leftAtLimit()) return options_.tasks == 0 ? Ending::Endless : Ending::Left;
     return Ending::Clock;
 }
 
 void Simulation::gone(form::Form& form) {
     if (&form != sheet_) return;
-    const core::Zustand& z = drill_.programm.zustand;
-    const engine::Matbox& box = sheet_->lauf().matbox();
     outcome_.tasks = pupil_.tasks();
     outcome_.rightFirst = pupil_.rightFirst();
     outcome_.fault = fault();
     if (!outcome_.fault.empty()) outcome_.ending = Ending::Fault;
-    if (core::imTraining(z) && z.mathaeufgk_box.rows() > box.potSkala()) {
-        double sum = 0;
-        const int codes = box.potSkala();
-        for (int i = 1; i <= codes; ++i) sum += z.mathaeufgk_box(i, core::gewicht::spalteGewicht);
-        outcome_.meanWeight = sum / codes;
-        outcome_.bar = box.prozent();
-    }
+    outcome_.weigh(sheet_->lauf(), drill_.programm.zustand);
     if (trace_) trace_->end(outcome_);
     over_ = true;
 }

@@ -21,9 +21,6 @@ namespace sim {
 /// simulated learner.
 class Simulation {
   public:
-    /// Tasks after which a run without a limit is given up.
-    static constexpr int endless = 100000;
-
     /// @param trace nullptr for none. @throws UsageError for options that cannot be carried out.
     explicit Simulation(const Options& options, std::ostream* trace = nullptr);
 
