@@ -5,7 +5,6 @@
 #include "qt/printer.h"
 #include "qt/stage.h"
 #include "setup/einstellungsdatei.h"
-#include "support/fake_words.h"
 
 #include <QApplication>
 #include <QListWidget>
@@ -50,8 +49,8 @@ struct Painted final : QObject {
 void choose(benchmark::State& state) {
     Stage stage;
     stage.openSetup();
-    stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(tetrachords);
-    stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+    stage.combo("skal_typ_cmb").setListIndex(tetrachords);
+    stage.option("ska_ausw", 1).click();
     QWidget& window = stage.window("einstellung1");
     window.resize(2560, 1400);
     QApplication::processEvents();
@@ -76,60 +75,21 @@ BENCHMARK(choose)->Name("setup/choose")->Arg(15)->Unit(benchmark::kMillisecond)-
 
 // OK until the first task can be called, on a host in memory.
 
-struct Desk {
-    support::FakeHost host;
-    form::VirtualTime loop;
-    support::FakeWords words;
-    support::ScriptedDialogs dialogs;
-    support::FakePrinter printer;
-    support::FakeHelp help;
-    support::RecordingMidi midi{loop};
-    drill::Drill drill{
-        {loop, dialogs, printer, help, [] { return 1; }, [this] { return host.connect(); }, &words},
-        {.tempOrdner = "/tmp", .rechnername = "desk"},
-        midi};
-
-    Desk() {
-        drill.programm.forms.load("grd_einst");
-        loop.advance(5);
-        get<form::Button>("grd_einst", "cmdOK").click();
-        loop.advance(250);
-        get<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(tetrachords);
-    }
-    template <class C>
-    C& get(const std::string& form, const std::string& name, int index = form::Place::noIndex) {
-        return static_cast<C&>(*drill.programm.forms.loaded(form)->find(name, index));
-    }
+struct Desk : support::Practice {
+    Desk() { combo("skal_typ_cmb").setListIndex(tetrachords); }
     /// From the choice of the mode to the worksheet that is ready.
-    void start(int mode) {
-        get<form::Combo>("einstellung1", "training_Combo").setListIndex(mode);
-        get<form::Button>("einstellung1", "cmdOK").click();
-        while (!sheetReady()) loop.advance(1);
-        if (drill.programm.zustand.potSkala != 20) throw std::logic_error("other than 20 rows");
-    }
-    bool sheetReady() {
-        return drill.programm.forms.loaded("arbeitsblatt1") &&
-               get<form::Button>("arbeitsblatt1", "CmdNextAufg").usable();
-    }
-    void task() {
-        get<form::Button>("arbeitsblatt1", "CmdNextAufg").click();
-        auto& right =
-            get<form::Picture>("arbeitsblatt1", "ton_art", drill.programm.zustand.skala_nr);
-        while (!right.usable()) loop.advance(100);
-        right.click();
-        loop.advance(3000);
-    }
-    void leave(bool keep) {
-        dialogs.answers = {keep};
-        get<form::Panel>("arbeitsblatt1", "zurueck").click();
-        loop.advance(500);
+    void start(int chosen) {
+        mode(chosen);
+        button("cmdOK").click();
+        while (!running() || !on("CmdNextAufg").usable()) wait(1);
+        if (lauf().matbox().potSkala() != 20) throw std::logic_error("other than 20 rows");
     }
 };
 
 void startTraining(benchmark::State& state) {
     Desk desk;
     desk.start(core::modus::training);
-    desk.task();
+    desk.task(true);
     desk.leave(true);
     for ([[maybe_unused]] const auto _ : state) {
         desk.start(static_cast<int>(state.range(0)));
@@ -178,8 +138,8 @@ double peakOf(const std::string& what, const std::string& path) {
 /// A result with its longest content: fifteen chosen scales, twenty rows, all settings.
 QWidget& longestResult(Stage& stage) {
     stage.openSetup();
-    stage.control<form::Combo>("einstellung1", "skal_typ_cmb").setListIndex(tetrachords);
-    stage.control<form::Option>("einstellung1", "ska_ausw", 1).click();
+    stage.combo("skal_typ_cmb").setListIndex(tetrachords);
+    stage.option("ska_ausw", 1).click();
     for (int chosen = 0; chosen < 15; ++chosen)
         stage.control<form::ListBox>("einstellung1", "lst_ska", 0).click(0);
     stage.control<form::Combo>("einstellung1", "training_Combo").setListIndex(1);

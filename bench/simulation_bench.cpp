@@ -1,3 +1,4 @@
+#include "sim/bare_runs.h"
 #include "sim/simulation.h"
 
 #include <benchmark/benchmark.h>
@@ -6,9 +7,11 @@
 
 namespace {
 
-void simulate(benchmark::State& state, const std::vector<const char*>& arguments) {
+/// @tparam Runs what makes the runs: `Simulation` or `BareRuns`.
+template <class Runs>
+void runAll(benchmark::State& state, const std::vector<const char*>& arguments) {
     const sim::Options options = sim::parseOptions(arguments);
-    sim::Simulation simulation(options);
+    Runs simulation(options);
     std::int64_t tasks = 0;
     for ([[maybe_unused]] const auto _ : state) {
         const sim::Outcome outcome = simulation.run();
@@ -17,6 +20,8 @@ void simulate(benchmark::State& state, const std::vector<const char*>& arguments
     }
     state.SetItemsProcessed(tasks);
 }
+constexpr auto simulate = runAll<sim::Simulation>;
+constexpr auto simulateBare = runAll<sim::BareRuns>;
 BENCHMARK_CAPTURE(simulate, long_run, {"--tasks", "20000", "--learner", "random:0.7"})
     ->Name("tasks/one_long_run")
     ->Unit(benchmark::kMillisecond);
@@ -43,6 +48,16 @@ BENCHMARK_CAPTURE(simulate, write_training,
 BENCHMARK_CAPTURE(simulate, theory,
                   {"--form", "arbeitsblatt1b", "--tasks", "5000", "--learner", "random:0.7"})
     ->Name("tasks/identify_seen")
+    ->Unit(benchmark::kMillisecond);
+
+BENCHMARK_CAPTURE(simulateBare, bare_trainings,
+                  {"--bare", "--set", "uebungsmodus=1", "--learner", "random:0.7"})
+    ->Name("tasks/bare_trainings")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(simulateBare, bare_writing,
+                  {"--bare", "--form", "arbeitsblatt4", "--set", "uebungsmodus=1", "--learner",
+                   "random:0.7"})
+    ->Name("tasks/bare_write_trainings")
     ->Unit(benchmark::kMillisecond);
 
 constexpr int lessons = 10000;

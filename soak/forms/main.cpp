@@ -2,11 +2,13 @@
 #include "forms/user.h"
 #include "forms/watch.h"
 #include "forms/world.h"
+#include "rehearsal/number_words.h"
+#include "rehearsal/recording_help.h"
+#include "rehearsal/temp_folder.h"
 #include "setup/einstellungsdatei.h"
+#include "sim/file_words.h"
 #include "sim/number.h"
-#include "sim/temp_folder.h"
 #include "sim/usage_error.h"
-#include "sim/words.h"
 
 #include <unistd.h>
 
@@ -109,7 +111,7 @@ soak::Weather weatherOf(base::Rnd& chance) {
 class Episode {
   public:
     /// @param foreign what is saved may be of another language.
-    Episode(soak::UnsteadyHost& host, sim::Words& words, bool foreign,
+    Episode(soak::UnsteadyHost& host, core::SprachListe& words, bool foreign,
             const std::filesystem::path& folder, base::Rnd& chance)
         : host_(host),
           foreign_(foreign),
@@ -234,24 +236,26 @@ class Episode {
     form::VirtualTime loop_;
     soak::Answers dialogs_;
     soak::NoPrinter printer_;
-    soak::NoHelp help_;
+    rehearsal::RecordingHelp help_;
     soak::TimedOutput output_;
     drill::Drill drill_;
     soak::Watch watch_;
 };
 
+using Languages = std::vector<std::unique_ptr<core::SprachListe>>;
+
 /// One user: some episodes on one host.
-void useIt(std::vector<sim::Words>& languages) {
+void useIt(const Languages& languages) {
     base::Rnd chance(seat);
     soak::UnsteadyHost host(chance, tally);
-    const sim::TempFolder folder;
+    const rehearsal::TempFolder folder;
     // A training is known only in the language in which it was kept.
     const bool oneLanguage = oncePer(chance, 2);
     const auto anyLanguage = [&] { return int(chance.below(int(languages.size()))); };
     const int mother = anyLanguage();
     for (int i = chance.upTo(6); i > 0 && tally.broken.empty(); --i) {
         host.weather = weatherOf(chance);
-        auto& words = languages[static_cast<std::size_t>(oneLanguage ? mother : anyLanguage())];
+        auto& words = *languages[static_cast<std::size_t>(oneLanguage ? mother : anyLanguage())];
         const soak::Weather& weather = host.weather;
         tally.note("the program starts; lost calls " + std::to_string(weather.lostCalls) +
                    ", refusals " + std::to_string(weather.refusals) + ", damaged " +
@@ -274,9 +278,11 @@ std::string figures(const std::map<std::string, long>& counted) {
 
 int soakFor(const Options& options) {
     using Clock = std::chrono::steady_clock;
-    std::vector<sim::Words> languages(1);
+    Languages languages;
+    languages.push_back(std::make_unique<rehearsal::NumberWords>());
     for (const char* suffix : {"de", "en", "es", "fr"})
-        languages.emplace_back(SOAK_WORDS "/melvoralang." + std::string(suffix) + ".ts");
+        languages.push_back(std::make_unique<sim::FileWords>(SOAK_WORDS "/melvoralang." +
+                                                             std::string(suffix) + ".ts"));
     const auto begin = Clock::now();
     const auto passed = [&] { return std::chrono::duration<double>(Clock::now() - begin).count(); };
     double first = 0;  // memory after the first tenth, when everything was used once

@@ -1,6 +1,7 @@
 #include "forms/user.h"
 
 #include "form/controls.h"
+#include "staff/noteneingabe.h"
 
 #include <array>
 #include <utility>
@@ -71,13 +72,7 @@ std::string learnerKind(base::Rnd& chance) {
 
 User::User(drill::Drill& drill, form::VirtualTime& loop, Answers& answers, Watch& watch,
            base::Rnd& chance, Tally& tally)
-    : drill_(drill),
-      loop_(loop),
-      answers_(answers),
-      watch_(watch),
-      chance_(chance),
-      tally_(tally),
-      hand_(loop) {
+    : drill_(drill), loop_(loop), answers_(answers), watch_(watch), chance_(chance), tally_(tally) {
     form::Forms& forms = drill.programm.forms;
     made_ = forms.made.connect([this](form::Form& form) {
         if (auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form)) seat(*sheet);
@@ -100,8 +95,8 @@ void User::turn(worksheets::Arbeitsblatt::Ereignis turn) {
     using enum worksheets::Arbeitsblatt::Ereignis;
     if (turn == LaufBereit && !leaving_ && oncePer(chance_, 2)) {
         learners_.push_back(std::make_unique<sim::Learner>(learnerKind(chance_)));
-        pupils_.push_back(std::make_unique<sim::Pupil>(
-            loop_, *learners_.back(), drill_.programm.zustand, chance_.below(1 << 20)));
+        pupils_.push_back(
+            std::make_unique<sim::Pupil>(loop_, *learners_.back(), chance_.below(1 << 20)));
         pupil_ = pupils_.back().get();
         pupil_->begin(*sheet_, oncePer(chance_, 2) ? chance_.upTo(12) : 1 << 20);
         ++tally_.reached["learners"];
@@ -126,7 +121,7 @@ void User::plan() {
                       : kind < 38 ? chance_.below(3000)
                       : kind < 39 ? chance_.below(20000)
                                   : chance_.below(120000);
-    hand_.in(impatient_.empty() ? pause : chance_.upTo(200), [this] { act(); });
+    hand_ = loop_.after(impatient_.empty() ? pause : chance_.upTo(200), [this] { act(); });
 }
 
 /// The form that the user has in front: one that is modal, or any that can be seen.

@@ -1,7 +1,6 @@
 #pragma once
 #include "forms/watch.h"
 #include "forms/world.h"
-#include "sim/alarm.h"
 #include "sim/pupil.h"
 
 #include <memory>
@@ -42,7 +41,7 @@ class User {
     Watch& watch_;
     base::Rnd& chance_;
     Tally& tally_;
-    sim::Alarm hand_;
+    form::Connection hand_;
     int depth_ = 0;  ///< actions inside each other: one within what another waits for
     int done_ = 0, left_ = 0;
     bool leaving_ = false;

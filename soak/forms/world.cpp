@@ -170,13 +170,13 @@ void TimedOutput::queue(const sound::MidiEvent& event) {
 void TimedOutput::send(const sound::MidiEvent& event) { check(event); }
 
 void TimedOutput::start() {
-    end_.in(length_, [this] {
+    end_ = loop_.after(length_, [this] {
         if (queueEmpty) queueEmpty();
     });
 }
 
 void TimedOutput::stop() {
-    end_.cancel();
+    end_ = {};
     length_ = 0;
 }
 

@@ -4,8 +4,7 @@
 #include "form/ports.h"
 #include "form/virtual_time.h"
 #include "forms/tally.h"
-#include "sim/alarm.h"
-#include "sim/memory_host.h"
+#include "rehearsal/memory_host.h"
 #include "sound/null_output.h"
 
 #include <filesystem>
@@ -32,7 +31,9 @@ struct Weather {
 /// A host that outlives the episodes of one user, and fails as the weather has it.
 class UnsteadyHost {
   public:
-    UnsteadyHost(base::Rnd& chance, Tally& tally) : chance_(chance), tally_(tally) {}
+    UnsteadyHost(base::Rnd& chance, Tally& tally) : chance_(chance), tally_(tally) {
+        memory_.user.reset();
+    }
     core::Host::Factory factory();
 
     Weather weather;
@@ -47,7 +48,7 @@ class UnsteadyHost {
 
     base::Rnd& chance_;
     Tally& tally_;
-    sim::MemoryHost memory_;
+    rehearsal::MemoryHost memory_;
 };
 
 /// Message boxes are answered in their time; files are good, missing or damaged.
@@ -81,7 +82,7 @@ class Answers final : public form::Dialogs {
 /// A device whose queue ends in its time, and whose volume can be faded.
 class TimedOutput final : public sound::NullOutput {
   public:
-    TimedOutput(form::MessageLoop& loop, Tally& tally) : tally_(tally), end_(loop) {}
+    TimedOutput(form::MessageLoop& loop, Tally& tally) : tally_(tally), loop_(loop) {}
     void queue(const sound::MidiEvent& event) override;
     void send(const sound::MidiEvent& event) override;
     void start() override;
@@ -100,7 +101,8 @@ class TimedOutput final : public sound::NullOutput {
     void check(const sound::MidiEvent& event);
 
     Tally& tally_;
-    sim::Alarm end_;
+    form::MessageLoop& loop_;
+    form::Connection end_;
     int length_ = 0;
 };
 
@@ -110,10 +112,6 @@ struct NoPrinter final : form::Printer {
         if (oncePer(chance_, 3)) throw form::PrintFault(oncePer(chance_, 2) ? "" : "printer");
     }
     base::Rnd& chance_;
-};
-
-struct NoHelp final : form::Help {
-    void open(const std::string&, const std::string&) override {}
 };
 
 }  // namespace soak

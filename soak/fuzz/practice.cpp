@@ -17,13 +17,10 @@ std::string folder() {
 
 }  // namespace
 
-Practice::Practice(support::FakeHost& host, const std::string& exercise)
-    : WholeDrill(host, {.tempOrdner = folder(), .rechnername = "desk", .pruefEdit = true}),
+Practice::Practice(rehearsal::MemoryHost& host, const std::string& exercise)
+    : support::Practice({.host = &host, .call = {.tempOrdner = folder(), .pruefEdit = true}},
+                        {exercise.ends_with('b'), exercise.starts_with('4') ? 4 : 1}),
       writes_(exercise.starts_with('4')) {
-    drill.programm.forms.load("grd_einst");
-    loop.advance(5);
-    toSetUp(exercise.ends_with('b'), writes_ ? 4 : 1);
-    loop.advance(250);
     law(setUp().visible(), "the set-up form is open");
 }
 

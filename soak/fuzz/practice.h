@@ -1,14 +1,14 @@
 #pragma once
-#include "support/whole_drill.h"
+#include "support/desk.h"
 
 #include <string>
 
 namespace soak {
 
 /// The drill with its set-up form open, as a user has it who has just started it.
-struct Practice : support::WholeDrill {
+struct Practice : support::Practice {
     /// @param exercise the end of a record's key: 1 naming, 4 writing, with a b in music theory.
-    Practice(support::FakeHost& host, const std::string& exercise);
+    Practice(rehearsal::MemoryHost& host, const std::string& exercise);
 
     /// What is chosen is something that the form offers.
     void expectInRange() const;

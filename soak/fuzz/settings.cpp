@@ -19,7 +19,7 @@ std::string exerciseOf(const setup::Einstellungssatz& file) {
 void tryFile(const std::string& bytes) {
     const auto file = setup::EinstellungenLesenAus(bytes);
     if (file.eintraege.empty()) return;
-    support::FakeHost host;
+    rehearsal::MemoryHost host;
     Practice pupil(host, exerciseOf(file));
     setup::EinstellungenAnwenden(pupil.setUp(), file);
     pupil.expectInRange();
@@ -32,7 +32,7 @@ std::map<std::string, std::string> honest() {
     std::map<std::string, std::string> files;
     for (const std::string exercise : {"1", "4"})
         for (int choice = 0; choice < 6; ++choice) {
-            support::FakeHost host;
+            rehearsal::MemoryHost host;
             Practice teacher(host, exercise);
             for (const int group : {0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 15})
                 if (choice != 1 || group % 2 == 0) teacher.mark(group);

@@ -30,7 +30,7 @@ void tryTraining(std::string_view text) {
     const Value settings = hostlink::fromVariant(lines.value()).value_or(Value()),
                 state = hostlink::fromVariant(lines.value()).value_or(Value());
 
-    support::FakeHost host;
+    rehearsal::MemoryHost host;
     host.records[keyOf('E', exercise)] = settings;
     host.records[keyOf('A', exercise)] = state;
     // Whether there is something to continue is asked for the records of ear training.
@@ -59,7 +59,7 @@ std::map<std::string, std::string> honest() {
     std::map<std::string, std::string> inputs;
     for (const std::string exercise : exercises)
         for (int choice = 0; choice < 3; ++choice) {
-            support::FakeHost host;
+            rehearsal::MemoryHost host;
             Practice pupil(host, exercise);
             if (choice == 1) pupil.pick({1, -1, 2, -2});
             if (choice == 2) pupil.option("abfolge", 1).click();

@@ -2,8 +2,8 @@
 #include "base/rnd.h"
 #include "core/host.h"
 #include "core/zustand.h"
+#include "rehearsal/scripted_dialogs.h"
 #include "sound/midi.h"
-#include "support/fake_ports.h"
 #include "synth/mail.h"
 #include "synth/synth_options.h"
 #include "threads/sound_server.h"
@@ -18,8 +18,9 @@ class MailLoop final : public form::MessageLoop {
   public:
     base::Moment now() const override { return {}; }
     float clock() const override { return 0; }
-    void arm(form::Timer&, int) override { throw std::logic_error("no timers here"); }
-    void disarm(form::Timer&) override {}
+    form::Connection after(int, std::function<void()>) override {
+        throw std::logic_error("no timers here");
+    }
     void doEvents() override { mail.runFor(std::chrono::milliseconds(0)); }
     void wait(double milliseconds, const bool& abort) override {
         mail.runUntil([&abort] { return abort; },
@@ -91,7 +92,7 @@ class Lane {
     base::Rnd rnd_;
     Progress progress_;
     MailLoop loop_;
-    support::ScriptedDialogs dialogs_;
+    rehearsal::ScriptedDialogs dialogs_;
     core::Zustand state_;
     core::Host host_{[] { return nullptr; }, dialogs_, state_};
     std::string who_;

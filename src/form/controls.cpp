@@ -124,27 +124,23 @@ void Slider::setValue(int value) {
 }
 
 Timer::Timer(Form& form, Place place, int interval)
-    : Control(form, Kind::Timer, std::move(place)), loop_(form.loop()), interval_(interval) {}
-
-Timer::~Timer() { stop(); }
+    : Control(form, Kind::Timer, std::move(place)), interval_(interval) {}
 
 void Timer::setInterval(int milliseconds) {
     interval_ = milliseconds;
-    if (!running_) return;
-    stop();
-    start();
+    if (running()) await();
 }
 
 void Timer::start() {
-    if (running_) return;
-    running_ = true;
-    loop_.arm(*this, interval_);
+    if (!running()) await();
 }
 
-void Timer::stop() {
-    if (!running_) return;
-    running_ = false;
-    loop_.disarm(*this);
+/// The tick after this one is asked for first: the handler may wait, or stop the timer.
+void Timer::await() {
+    next_ = form().loop().after(interval_, [this] {
+        await();
+        raise(onTick);
+    });
 }
 
 }  // namespace form

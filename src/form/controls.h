@@ -1,14 +1,14 @@
 #pragma once
 #include "base/runtime_error.h"
 #include "form/control.h"
+#include "form/signal.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace form {
-
-class MessageLoop;
 
 class Label : public Control {
   public:
@@ -173,21 +173,19 @@ class TextBox : public Control {
 class Timer : public Control {
   public:
     Timer(Form& form, Place place, int interval);
-    ~Timer() override;
     int interval() const { return interval_; }
     /// Milliseconds, above 0. A running timer starts anew.
     void setInterval(int milliseconds);
     void start();
-    void stop();
-    bool running() const { return running_; }
-    /// Called by the message loop when the interval has passed.
-    void tick() { raise(onTick); }
+    void stop() { next_.reset(); }
+    bool running() const { return next_.has_value(); }
     Handler onTick;
 
   private:
-    MessageLoop& loop_;
+    void await();
+
     int interval_;
-    bool running_ = false;
+    std::optional<Connection> next_;  ///< the next tick, while it runs
 };
 
 /// An array of like controls with one name and any indices.

@@ -1,11 +1,10 @@
 #pragma once
 #include "base/moment.h"
+#include "form/signal.h"
 
 #include <functional>
 
 namespace form {
-
-class Timer;
 
 /// Time and the flow of events. It exists so that a ten-minute exam can run in milliseconds: one
 /// implementation is the toolkit's event loop, another a clock that is advanced by hand.
@@ -19,9 +18,9 @@ class MessageLoop {
     /// forward, whatever becomes of the day or of the system's clock.
     virtual float clock() const = 0;
 
-    /// Ticks the timer every `milliseconds` until it is disarmed.
-    virtual void arm(Timer& timer, int milliseconds) = 0;
-    virtual void disarm(Timer& timer) = 0;
+    /// Has the call made once, in so many milliseconds, at least 1; not made when the connection is
+    /// gone by then.
+    [[nodiscard]] virtual Connection after(int milliseconds, std::function<void()> call) = 0;
 
     /// Lets everything that is due happen, and returns.
     virtual void doEvents() = 0;

@@ -1,7 +1,5 @@
 #include "form/virtual_time.h"
 
-#include "form/controls.h"
-
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -29,13 +27,10 @@ base::Moment VirtualTime::now() const {
     return moment;
 }
 
-void VirtualTime::arm(Timer& timer, int milliseconds) {
-    const int interval = std::max(1, milliseconds);
-    armed_.push_back({&timer, interval, elapsed_ + interval});
-}
-
-void VirtualTime::disarm(Timer& timer) {
-    std::erase_if(armed_, [&](const Armed& a) { return a.timer == &timer; });
+Connection VirtualTime::after(int milliseconds, std::function<void()> call) {
+    auto held = std::make_shared<std::function<void()>>(std::move(call));
+    awaited_.push_back({held, elapsed_ + std::max(1, milliseconds)});
+    return Connection(std::move(held));
 }
 
 bool VirtualTime::step(std::int64_t limit) {
@@ -45,13 +40,14 @@ bool VirtualTime::step(std::int64_t limit) {
         call();
         return true;
     }
-    const auto next = std::ranges::min_element(armed_, {}, &Armed::due);
-    if (next == armed_.end() || next->due > limit) return false;
+    std::erase_if(awaited_, [](const Awaited& a) { return a.call.expired(); });
+    // Of calls due together the one asked for first, so that they take turns.
+    const auto next = std::ranges::min_element(awaited_, {}, &Awaited::due);
+    if (next == awaited_.end() || next->due > limit) return false;
     elapsed_ = std::max(elapsed_, next->due);
-    next->due = elapsed_ + next->interval;
-    // Behind the others, so that timers due together take turns.
-    std::rotate(next, next + 1, armed_.end());
-    armed_.back().timer->tick();
+    const auto call = next->call.lock();
+    awaited_.erase(next);
+    (*call)();
     return true;
 }
 

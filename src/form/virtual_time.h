@@ -3,12 +3,13 @@
 
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <vector>
 
 namespace form {
 
-/// A message loop whose clock stands still but for waits: waiting advances it from one due timer to
-/// the next and fires them in order, so the same run twice happens the same way twice.
+/// A message loop whose clock stands still but for waits: waiting advances it from one due call to
+/// the next and makes them in order, so the same run twice happens the same way twice.
 class VirtualTime final : public MessageLoop {
   public:
     /// @param start the moment at which the clock begins.
@@ -19,8 +20,7 @@ class VirtualTime final : public MessageLoop {
         return static_cast<float>(static_cast<double>(start_.sinceMidnight()) +
                                   static_cast<double>(elapsed_) / 1000);
     }
-    void arm(Timer& timer, int milliseconds) override;
-    void disarm(Timer& timer) override;
+    [[nodiscard]] Connection after(int milliseconds, std::function<void()> call) override;
     void doEvents() override { advance(0); }
     void wait(double milliseconds, const bool& abort) override;
     /// @throws std::logic_error when nothing is left that could happen.
@@ -33,9 +33,8 @@ class VirtualTime final : public MessageLoop {
     std::int64_t elapsed() const { return elapsed_; }
 
   private:
-    struct Armed {
-        Timer* timer;
-        int interval;
+    struct Awaited {
+        std::weak_ptr<std::function<void()>> call;
         std::int64_t due;
     };
     /// Lets the next thing due up to `limit` happen. @return false when there is none.
@@ -43,7 +42,7 @@ class VirtualTime final : public MessageLoop {
 
     base::Moment start_;
     std::int64_t elapsed_ = 0;
-    std::vector<Armed> armed_;
+    std::vector<Awaited> awaited_;  ///< in the order of asking
     std::deque<std::function<void()>> posted_;
 };
 

@@ -1,10 +1,12 @@
 #include "qt/message_loop.h"
 
-#include "form/controls.h"
-
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QElapsedTimer>
+#include <QTimer>
+
+#include <algorithm>
+#include <memory>
 
 namespace qt {
 
@@ -25,22 +27,13 @@ base::Moment QtMessageLoop::systemTime() {
             time.minute(), time.second(), time.msec()};
 }
 
-void QtMessageLoop::arm(form::Timer& timer, int milliseconds) {
-    auto& armed = timers_[&timer];
-    armed = std::make_unique<QTimer>();
-    armed->setTimerType(Qt::PreciseTimer);
-    QObject::connect(armed.get(), &QTimer::timeout, &context_, [&timer] { timer.tick(); });
-    armed->start(milliseconds);
-}
-
-/// A timer may be disarmed inside its own tick: the toolkit still holds it then.
-void QtMessageLoop::disarm(form::Timer& timer) {
-    const auto it = timers_.find(&timer);
-    if (it == timers_.end()) return;
-    it->second->stop();
-    it->second->disconnect();
-    it->second.release()->deleteLater();
-    timers_.erase(it);
+form::Connection QtMessageLoop::after(int milliseconds, std::function<void()> call) {
+    auto held = std::make_shared<std::function<void()>>(std::move(call));
+    QTimer::singleShot(std::max(1, milliseconds), Qt::PreciseTimer, &context_,
+                       [awaited = std::weak_ptr(held)] {
+                           if (const auto still = awaited.lock()) (*still)();
+                       });
+    return form::Connection(std::move(held));
 }
 
 void QtMessageLoop::doEvents() { QCoreApplication::processEvents(); }

@@ -3,10 +3,6 @@
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
-
-#include <memory>
-#include <unordered_map>
 
 namespace qt {
 
@@ -16,8 +12,7 @@ class QtMessageLoop final : public form::MessageLoop {
     QtMessageLoop();
     base::Moment now() const override;
     float clock() const override;
-    void arm(form::Timer& timer, int milliseconds) override;
-    void disarm(form::Timer& timer) override;
+    [[nodiscard]] form::Connection after(int milliseconds, std::function<void()> call) override;
     void doEvents() override;
     void wait(double milliseconds, const bool& abort) override;
     void runUntil(const std::function<bool()>& done) override;
@@ -29,7 +24,6 @@ class QtMessageLoop final : public form::MessageLoop {
     QObject context_;
     const float start_;  ///< seconds since midnight
     QElapsedTimer running_;
-    std::unordered_map<form::Timer*, std::unique_ptr<QTimer>> timers_;
 };
 
 }  // namespace qt

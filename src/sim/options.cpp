@@ -26,6 +26,8 @@ const char* const helpText = R"(zepha9-sim: the drill without a screen, with a s
                        scale A for B and B for A, from 0), slow:SECONDS (right, but late), enharmonic
                        (writes what sounds alike)
   --keep               a training that is left is saved, and the next run continues it
+  --bare               mass runs without forms, sound, clock and record: the same tasks and answers,
+                       ten times as fast; not with --trace, --record, --words, --through-setup
   --through-setup      take the whole road: start form, set-up form, worksheet, result form
   --words FILE         words of a language (.ts); without it a word tells its number
   --trace FILE         everything that happens, as JSON lines; "-" for standard output
@@ -59,9 +61,6 @@ Options parseOptions(std::span<const char* const> arguments) {
             options.assignments.push_back({text.substr(0, equals), text.substr(equals + 1)});
         } else if (option == "--tasks") {
             options.tasks = count(0);
-            if (options.tasks > mostTasks)
-                throw UsageError("--tasks: at most " + std::to_string(mostTasks) +
-                                 ", since a run keeps its whole record in memory; use --runs");
         } else if (option == "--runs") {
             options.runs = count(1);
         } else if (option == "--seed") {
@@ -77,13 +76,25 @@ Options parseOptions(std::span<const char* const> arguments) {
             options.words = value();
         } else if (option == "--keep") {
             options.keep = true;
+        } else if (option == "--bare") {
+            options.bare = true;
         } else if (option == "--through-setup") {
             options.throughSetup = true;
         } else {
             throw UsageError("no option " + option + "; see --help");
         }
     }
+    if (options.tasks > mostTasks && !options.bare)
+        throw UsageError("--tasks: at most " + std::to_string(mostTasks) +
+                         ", since a run keeps its whole record in memory; use --runs or --bare");
     return options;
+}
+
+core::Zustand exerciseState(const Options& options) {
+    core::Zustand z = exerciseState(exercise(options.form), options.assignments);
+    if (z.uebungsmodus == core::modus::ausprobieren && options.tasks == 0)
+        throw UsageError("uebungsmodus 0 does not end by itself: --tasks is needed");
+    return z;
 }
 
 }  // namespace sim

@@ -21,11 +21,16 @@ struct Options {
     std::string record;  ///< file, "" for none
     std::string words;   ///< file of a language, "" for words that tell their number
     bool throughSetup = false;
+    bool bare = false;  ///< without forms, sound, clock and record
     bool keep = false;  ///< a training that is left is saved, and the next run continues it
     bool help = false;
 };
 
 extern const char* const helpText;
+
+/// The exercise state that the options describe. @throws UsageError for fields, values
+/// and choices that do not go, and for a run that would never end.
+core::Zustand exerciseState(const Options& options);
 
 /// @throws UsageError for what it does not know.
 Options parseOptions(std::span<const char* const> arguments);

@@ -1,4 +1,6 @@
 #pragma once
+#include "engine/lauf.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,17 +18,25 @@ enum class Ending {
     Fault     ///< the drill met an error
 };
 const char* endingName(Ending ending);
+/// How a run has ended by itself, if it has; the clock is not known to it.
+std::optional<Ending> endingOf(const engine::Lauf& run);
 
 /// What became of one run.
 struct Outcome {
     Ending ending = Ending::Fault;
     int tasks = 0;
-    int rightFirst = 0;                ///< tasks answered right at once
-    std::optional<double> meanWeight;  ///< of the scale codes at the end, in training only
-    std::optional<int> bar;            ///< 0..100, in training only
-    std::int64_t milliseconds = 0;     ///< simulated
-    std::string total;                 ///< of the result form, "" when it was not shown
+    int rightFirst = 0;                        ///< tasks answered right at once
+    std::optional<double> meanWeight;          ///< of the scale codes at the end, in training only
+    std::optional<int> bar;                    ///< 0..100, in training only
+    std::optional<std::int64_t> milliseconds;  ///< simulated, where there was a clock
+    std::string total;                         ///< of the result form, "" when it was not shown
     std::string fault;
+
+    /// Takes the weights of a training that has got as far as having them.
+    void weigh(const engine::Lauf& run, const core::Zustand& z);
 };
+
+/// Tasks after which a run without a limit is given up.
+inline constexpr int endless = 100000;
 
 }  // namespace sim

@@ -41,27 +41,27 @@ void Pupil::notice(worksheets::Arbeitsblatt::Ereignis turn) {
     using enum worksheets::Arbeitsblatt::Ereignis;
     switch (turn) {
         case LaufBereit:
-            hand_.in(pause, [this] { goOn(); });
+            in(pause, [this] { goOn(); });
             break;
         case AufgabeGezogen:
             ++tasks_;
             tries_ = 0;
             break;
         case AntwortOffen:
-            hand_.in(learner_.thinkingTime(), [this] { answer(); });
+            in(learner_.thinkingTime(), [this] { answer(); });
             break;
         case Geantwortet:
             if (tries_++ == 0 && sheet_->lauf().letzteAntwort().richtig) ++rightFirst_;
             if (sheet_->lauf().aufgZustand() == AufgZustand::Weiter)
-                hand_.in(learner_.thinkingTime(), [this] { answer(); });
+                in(learner_.thinkingTime(), [this] { answer(); });
             break;
         case Geschlossen:
-            hand_.in(pause, [this] { goOn(); });
+            in(pause, [this] { goOn(); });
             break;
         case Uhr:
             break;
         case LaufEnde:
-            if (!sheet_->lauf().zuEnde()) hand_.cancel();
+            if (!sheet_->lauf().zuEnde()) rest();
             break;
     }
 }
@@ -111,7 +111,7 @@ void Pupil::goOn() {
 }
 
 void Pupil::readResult(form::Form& result, std::function<void()> read) {
-    hand_.in(glance, [this, &result, read = std::move(read)] {
+    in(glance, [this, &result, read = std::move(read)] {
         auto* const button = control<form::Button>(result, "cmdOK");
         if (!result.visible() || !button->usable()) return readResult(result, read);
         read();

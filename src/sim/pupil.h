@@ -1,5 +1,6 @@
 #pragma once
-#include "sim/alarm.h"
+#include "form/controls.h"
+#include "form/message_loop.h"
 #include "sim/learner.h"
 #include "worksheets/arbeitsblatt.h"
 
@@ -14,14 +15,14 @@ class Pupil {
     static constexpr int pause = 500;
 
     Pupil(form::MessageLoop& loop, const Learner& learner, std::int64_t seed)
-        : learner_(learner), chance_(seed), hand_(loop) {}
+        : learner_(learner), chance_(seed), loop_(loop) {}
 
     /// Sits down before a worksheet. @param limit tasks after which it leaves.
     void begin(worksheets::Arbeitsblatt& sheet, int limit);
     /// Hears of a turn of the run.
     void notice(worksheets::Arbeitsblatt::Ereignis turn);
     /// Lays the pen down: nothing that it had in mind is done any more.
-    void rest() { hand_.cancel(); }
+    void rest() { hand_ = {}; }
     /// The result form has come: presses its button as soon as it can be seen.
     /// @param read called before that.
     void readResult(form::Form& result, std::function<void()> read);
@@ -38,10 +39,15 @@ class Pupil {
     void name();
     void write();
     void goOn();
+    /// What it does next, in some milliseconds, in place of what it had in mind.
+    void in(int milliseconds, std::function<void()> act) {
+        hand_ = loop_.after(milliseconds, std::move(act));
+    }
 
     const Learner& learner_;
     base::Rnd chance_;
-    Alarm hand_;
+    form::MessageLoop& loop_;
+    form::Connection hand_;
     worksheets::Arbeitsblatt* sheet_ = nullptr;
     std::vector<form::Picture*> pictures_;
     std::vector<form::Panel*> names_;

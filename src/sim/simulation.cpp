@@ -1,5 +1,6 @@
 #include "sim/simulation.h"
 
+#include "sim/seeds.h"
 #include "sim/usage_error.h"
 
 namespace sim {
@@ -8,12 +9,9 @@ namespace {
 
 constexpr std::int64_t day = 24LL * 60 * 60 * 1000;
 
-/// One for each run, so that the tasks of a run do not hang on the length of the run before.
-std::function<std::int64_t()> seeds(std::int64_t seed) {
-    return [chance = base::Rnd(seed)]() mutable {
-        constexpr int half = 1 << 24;
-        return std::int64_t{chance.below(half)} * half + chance.below(half);
-    };
+std::optional<FileWords> wordsOf(const Options& options) {
+    if (options.words.empty()) return {};
+    return FileWords(options.words);
 }
 
 }  // namespace
@@ -21,20 +19,18 @@ std::function<std::int64_t()> seeds(std::int64_t seed) {
 Simulation::Simulation(const Options& options, std::ostream* trace)
     : options_(options),
       exercise_(exercise(options.form)),
-      state_(exerciseState(exercise_, options.assignments)),
-      words_(options.words.empty() ? Words() : Words(options.words)),
-      dialogs_(options.keep),
-      trace_(trace ? std::make_unique<Trace>(*trace, loop_) : nullptr),
-      output_(trace_.get()),
-      drill_({loop_, dialogs_, printer_, help_, seeds(options.seed), host_.factory(), &words_},
+      state_(exerciseState(options)),
+      words_(wordsOf(options)),
+      trace_(trace ? std::make_unique<Trace>(*trace, room_.loop) : nullptr),
+      drill_(room_.ports(host_, seeds(options.seed), words_ ? &*words_ : nullptr),
              {"", folder_.path().string(), "simulation"}, output_),
-      // Its chance is its own, so that the same tasks can be given to different learners.
-      pupil_(loop_, options.learner, ~options.seed),
+      pupil_(room_.loop, options.learner, learnersSeed(options.seed)),
       road_(drill_, exercise_) {
+    host_.user.reset();
+    room_.dialogs.otherwise = options.keep;
+    if (trace_) trace_->hear(output_);
     if (!drill_.programm.forms.knows(options.form))
         throw UsageError("the drill has no form \"" + options.form + "\"");
-    if (state_.uebungsmodus == core::modus::ausprobieren && options.tasks == 0)
-        throw UsageError("uebungsmodus 0 does not end by itself: --tasks is needed");
     made_ = drill_.programm.forms.made.connect([this](form::Form& form) { made(form); });
     gone_ = drill_.programm.forms.gone.connect([this](form::Form& form) { gone(form); });
     if (!options.throughSetup) startUp();
@@ -69,20 +65,21 @@ void Simulation::openWorksheet() {
 Outcome Simulation::run() {
     outcome_ = {};
     over_ = false;
-    faults_ = host_.faults().size();
-    dialogs_.messages.clear();
-    const std::int64_t begin = lastTurn_ = loop_.elapsed();
+    host_.forget();
+    room_.dialogs.messages.clear();
+    room_.dialogs.questions.clear();
+    const std::int64_t begin = lastTurn_ = room_.loop.elapsed();
     if (!options_.throughSetup)
         openWorksheet();
     else if (kept_)
         road_.resume();
     else
         road_.go(options_.assignments, state_);
-    loop_.runUntil([this] {
-        if (loop_.elapsed() - lastTurn_ > day) throw std::logic_error("the run stands still");
+    room_.loop.runUntil([this] {
+        if (room_.loop.elapsed() - lastTurn_ > day) throw std::logic_error("the run stands still");
         return over_;
     });
-    outcome_.milliseconds = loop_.elapsed() - begin;
+    outcome_.milliseconds = room_.loop.elapsed() - begin;
     kept_ = options_.keep && outcome_.ending == Ending::Left && outcome_.bar;
     std::error_code ignored;
     std::filesystem::remove(drill_.xml.datei(), ignored);
@@ -105,49 +102,36 @@ void Simulation::made(form::Form& form) {
 }
 
 void Simulation::notice(worksheets::Arbeitsblatt::Ereignis turn) {
-    lastTurn_ = loop_.elapsed();
+    lastTurn_ = room_.loop.elapsed();
     if (trace_) trace_->notice(turn, *sheet_, drill_.programm.zustand);
     pupil_.notice(turn);
     if (turn == worksheets::Arbeitsblatt::Ereignis::LaufEnde) outcome_.ending = ending();
 }
 
 Ending Simulation::ending() const {
-    switch (sheet_->lauf().aufgZustand()) {
-        case engine::AufgZustand::TrainingBeendet:
-            return sheet_->lauf().zielErreicht() ? Ending::Goal : Ending::Failed;
-        case engine::AufgZustand::PruefungBeendet:
-            return Ending::Count;
-        case engine::AufgZustand::Offen:
-        case engine::AufgZustand::Geschlossen:
-        case engine::AufgZustand::Weiter:
-            break;
-    }
+    if (const auto end = endingOf(sheet_->lauf())) return *end;
     if (pupil_.leftAtLimit()) return options_.tasks == 0 ? Ending::Endless : Ending::Left;
     return Ending::Clock;
 }
 
 void Simulation::gone(form::Form& form) {
     if (&form != sheet_) return;
-    const core::Zustand& z = drill_.programm.zustand;
-    const engine::Matbox& box = sheet_->lauf().matbox();
     outcome_.tasks = pupil_.tasks();
     outcome_.rightFirst = pupil_.rightFirst();
     outcome_.fault = fault();
     if (!outcome_.fault.empty()) outcome_.ending = Ending::Fault;
-    if (core::imTraining(z) && z.mathaeufgk_box.rows() > box.potSkala()) {
-        double sum = 0;
-        const int codes = box.potSkala();
-        for (int i = 1; i <= codes; ++i) sum += z.mathaeufgk_box(i, core::gewicht::spalteGewicht);
-        outcome_.meanWeight = sum / codes;
-        outcome_.bar = box.prozent();
-    }
+    outcome_.weigh(sheet_->lauf(), drill_.programm.zustand);
     if (trace_) trace_->end(outcome_);
     over_ = true;
 }
 
 std::string Simulation::fault() const {
-    if (host_.faults().size() > faults_) return host_.faults()[faults_];
-    return dialogs_.messages.empty() ? std::string() : dialogs_.messages.front();
+    if (!host_.faults.empty()) {
+        const core::Value& first = host_.faults.front();
+        return first.at(0).text() + ": " + first.at(2).text();
+    }
+    const auto& messages = room_.dialogs.messages;
+    return messages.empty() ? std::string() : messages.front().text;
 }
 
 }  // namespace sim

@@ -41,33 +41,13 @@ std::string spread(const std::vector<double>& values, Text text) {
 
 }  // namespace
 
-const char* endingName(Ending ending) {
-    switch (ending) {
-        case Ending::Goal:
-            return "goal";
-        case Ending::Failed:
-            return "failed";
-        case Ending::Count:
-            return "count";
-        case Ending::Clock:
-            return "clock";
-        case Ending::Left:
-            return "left";
-        case Ending::Endless:
-            return "endless";
-        case Ending::Fault:
-            return "fault";
-    }
-    return "";
-}
-
 std::string summary(std::span<const Outcome> outcomes) {
     std::vector<double> tasks, weights, bars, times;
     std::map<Ending, int> endings;
     double right = 0, all = 0;
     for (const Outcome& outcome : outcomes) {
         tasks.push_back(outcome.tasks);
-        times.push_back(static_cast<double>(outcome.milliseconds));
+        if (outcome.milliseconds) times.push_back(static_cast<double>(*outcome.milliseconds));
         if (outcome.meanWeight) weights.push_back(*outcome.meanWeight);
         if (outcome.bar) bars.push_back(*outcome.bar);
         right += outcome.rightFirst;
@@ -89,7 +69,7 @@ std::string summary(std::span<const Outcome> outcomes) {
     text += row("ended by", ends);
     if (outcomes.size() == 1 && !outcomes[0].total.empty())
         text += row("result", outcomes[0].total);
-    text += row("simulated time", spread(times, duration));
+    if (!times.empty()) text += row("simulated time", spread(times, duration));
     return text;
 }
 

@@ -131,6 +131,11 @@ void Trace::closed(const engine::Lauf& run, const core::Zustand& z) {
     stream_ << line.finish();
 }
 
+void Trace::hear(rehearsal::MidiTap& device) {
+    device.queued = [this](const sound::MidiEvent& event) { midi(event, event.time); };
+    device.sent = [this](const sound::MidiEvent& event) { midi(event, -1); };
+}
+
 void Trace::midi(const sound::MidiEvent& event, int time) {
     stream_ << JsonLine("midi")
                    .number("t", loop_.elapsed())

@@ -1,9 +1,9 @@
 #pragma once
 #include "form/virtual_time.h"
+#include "rehearsal/midi_tap.h"
 #include "results/testergebnis.h"
 #include "sim/json_line.h"
 #include "sim/outcome.h"
-#include "sound/null_output.h"
 #include "staff/notenzeile.h"
 #include "worksheets/arbeitsblatt.h"
 
@@ -21,9 +21,8 @@ class Trace {
     /// A turn of a run.
     void notice(worksheets::Arbeitsblatt::Ereignis turn, const worksheets::Arbeitsblatt& sheet,
                 const core::Zustand& z);
-    /// @param time milliseconds from the queue's start, `atOnce` without a queue.
-    void midi(const sound::MidiEvent& event, int time);
-    static constexpr int atOnce = -1;
+    /// From now on what a device is given is told.
+    void hear(rehearsal::MidiTap& device);
     void result(const results::Testergebnis& form);
     void end(const Outcome& outcome);
 
@@ -32,6 +31,8 @@ class Trace {
     void task(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z);
     void spelling(JsonLine& line, const worksheets::Arbeitsblatt& sheet);
     void draw(int column);
+    /// @param time milliseconds from the queue's start, -1 without a queue.
+    void midi(const sound::MidiEvent& event, int time);
     void answer(const engine::Lauf& run);
     void closed(const engine::Lauf& run, const core::Zustand& z);
 
@@ -40,21 +41,6 @@ class Trace {
     staff::Notenzeile* staff_ = nullptr;
     form::Connection draws_;
     std::string drawn_;  ///< notes not told yet
-};
-
-/// A silent device that tells a trace what it was given.
-class TracedOutput final : public sound::NullOutput {
-  public:
-    explicit TracedOutput(Trace* trace) : trace_(trace) {}
-    void queue(const sound::MidiEvent& event) override {
-        if (trace_) trace_->midi(event, event.time);
-    }
-    void send(const sound::MidiEvent& event) override {
-        if (trace_) trace_->midi(event, Trace::atOnce);
-    }
-
-  private:
-    Trace* trace_;
 };
 
 }  // namespace sim

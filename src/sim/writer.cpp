@@ -3,9 +3,6 @@
 #include "staff/noteneingabe.h"
 #include "staff/notenzeile.h"
 
-#include <array>
-#include <utility>
-
 namespace sim {
 
 namespace {
@@ -14,7 +11,6 @@ using staff::Notenzeile;
 namespace quelle = staff::quelle;
 
 constexpr int first = 1, last = 6;  // columns that can be written in
-using Accidentals = std::array<int, last + 1>;
 
 Accidentals wanted(const engine::Aufgabe& task) {
     Accidentals all{};
@@ -44,15 +40,19 @@ void drop(worksheets::Arbeitsblatt& sheet, int column, int accidental) {
 
 }  // namespace
 
-void writeScale(worksheets::Arbeitsblatt& sheet, Writing how, base::Rnd& chance) {
-    const engine::Aufgabe& task = sheet.lauf().aufgabe();
-    Accidentals accidentals = wanted(task);
-    if (how == Writing::Enharmonic) misspell(accidentals, task.akt_richtung);
+Accidentals accidentals(const engine::Aufgabe& task, Writing how, base::Rnd& chance) {
+    Accidentals all = wanted(task);
+    if (how == Writing::Enharmonic) misspell(all, task.akt_richtung);
     if (how == Writing::Wrong) {
-        int& one = base::at(accidentals, first + chance.below(last));
+        int& one = base::at(all, first + chance.below(last));
         one = one > 0 ? one - 1 : one + 1;
     }
-    for (int c = first; c <= last; ++c) drop(sheet, c, base::at(accidentals, c));
+    return all;
+}
+
+void writeScale(worksheets::Arbeitsblatt& sheet, Writing how, base::Rnd& chance) {
+    const Accidentals all = accidentals(sheet.lauf().aufgabe(), how, chance);
+    for (int c = first; c <= last; ++c) drop(sheet, c, base::at(all, c));
 }
 
 }  // namespace sim

@@ -1,6 +1,6 @@
 #include "core/formular.h"
 
-#include "core/bench_programm.h"
+#include "support/desk.h"
 
 #include <gtest/gtest.h>
 
@@ -25,13 +25,13 @@ struct Faulty final : Formular {
 TEST(CommonErrorPath, LogsWarnsAndGoesOnAlsoWithoutAHost) {
     for (const std::string host : {"silent", "warning", "gone"}) {
         SCOPED_TRACE(host);
-        BenchProgramm bench;
-        bench.p.host.HostVerbinden();
-        bench.p.worte.SprachenLaden();
-        bench.p.worte.SpracheSetzen("Deutsch");
+        support::Desk bench;
+        bench.programm.host.HostVerbinden();
+        bench.programm.worte.SprachenLaden();
+        bench.programm.worte.SpracheSetzen("Deutsch");
         bench.host.warnsOfErrors = host == "warning";
         bench.host.gone = host == "gone";
-        Faulty form(bench.p);
+        Faulty form(bench.programm);
         form.timer.start();
         bench.loop.advance(1000);
         EXPECT_EQ(form.ticks, 1) << "the timer stays off";
@@ -50,14 +50,14 @@ TEST(CommonErrorPath, LogsWarnsAndGoesOnAlsoWithoutAHost) {
 }
 
 TEST(FrmMessage, ShowsALongTextUntilItIsPutAway) {
-    BenchProgramm bench;
-    bench.p.Melden("title", "first");
-    bench.p.Melden("title", "second");
-    form::Form* message = bench.p.forms.loaded("frmMessage");
+    support::Desk bench;
+    bench.programm.Melden("title", "first");
+    bench.programm.Melden("title", "second");
+    form::Form* message = bench.programm.forms.loaded("frmMessage");
     ASSERT_NE(message, nullptr);
     EXPECT_EQ(static_cast<form::TextBox*>(message->find("txtPrompt"))->text(), "second");
     message->key({form::Key::Kind::Escape});
-    EXPECT_EQ(bench.p.forms.loaded("frmMessage"), nullptr);
+    EXPECT_EQ(bench.programm.forms.loaded("frmMessage"), nullptr);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "core/bench_programm.h"
+#include "support/desk.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@ namespace {
 TEST(HostVerbinden, StandsOnlyWithTheHostThatStartedTheModule) {
     struct Row {
         const char* name;
-        std::function<void(support::FakeHost&)> set;
+        std::function<void(rehearsal::MemoryHost&)> set;
         std::string module;
         int status;
         std::string message;
@@ -23,11 +23,11 @@ TEST(HostVerbinden, StandsOnlyWithTheHostThatStartedTheModule) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        BenchProgramm bench;
+        support::Desk bench;
         row.set(bench.host);
         int status = 0;
         try {
-            bench.p.host.HostVerbinden(row.module);
+            bench.programm.host.HostVerbinden(row.module);
         } catch (const ProgrammEnde& end) {
             status = end.status;
         }
@@ -41,24 +41,24 @@ TEST(HostVerbinden, StandsOnlyWithTheHostThatStartedTheModule) {
 }
 
 TEST(HostLesen, FindsOnlyWhatIsARecord) {
-    BenchProgramm bench;
-    bench.p.host.HostVerbinden();
+    support::Desk bench;
+    bench.programm.host.HostVerbinden();
     Value& kept = bench.host.records["zepha9/A1"];
     const Value record = Value::Array{"True", "3", "x"};
     for (const Value& value : {Value(Value::Array{"True", "NIL", "x"}),
                                Value(Value::Array{"False"}), Value("True"), record}) {
         kept = value;
-        bench.p.zustand.gelesen_a = "before";
-        EXPECT_EQ(bench.p.host.LeseAbbruch("A1"), value == record);
-        EXPECT_EQ(bench.p.zustand.gelesen_a, value == record ? record : Value("before"));
+        bench.programm.zustand.gelesen_a = "before";
+        EXPECT_EQ(bench.programm.host.LeseAbbruch("A1"), value == record);
+        EXPECT_EQ(bench.programm.zustand.gelesen_a, value == record ? record : Value("before"));
     }
-    EXPECT_FALSE(bench.p.host.LeseAbbruch("A2")) << "never stored";
+    EXPECT_FALSE(bench.programm.host.LeseAbbruch("A2")) << "never stored";
 }
 
 TEST(Host, EveryRequestToleratesAHostThatIsGoneAndEveryLossIsTold) {
-    BenchProgramm bench;
-    bench.p.host.HostVerbinden();
-    Host& host = bench.p.host;
+    support::Desk bench;
+    bench.programm.host.HostVerbinden();
+    Host& host = bench.programm.host;
     std::vector<std::string> lost;
     host.verlust = [&](const Host::Verlust& was) {
         lost.push_back(was.hostFort ? "gone" : "refused: " + was.grund);

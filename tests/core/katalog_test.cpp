@@ -1,7 +1,7 @@
 #include "core/katalog.h"
 
 #include "core/worte.h"
-#include "support/fake_words.h"
+#include "rehearsal/number_words.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ struct KatalogTest : testing::Test {
         worte.SpracheSetzen("Deutsch");
         k.KatalogInit(worte);
     }
-    support::FakeWords words;
+    rehearsal::NumberWords words;
     Worte worte{&words};
     Katalog k;
 };

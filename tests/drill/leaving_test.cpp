@@ -29,6 +29,12 @@ TEST_F(Leaving, TheWorksheetStaysUntilTheResultHasCome) {
         EXPECT_FALSE(run.on<form::Panel>("wieder").enabled());
         EXPECT_EQ(run.on<form::Panel>("wieder2").visible(), mode == 1);
         EXPECT_EQ(run.on<form::Panel>("wieder2").enabled(), mode == 1);
+        if (mode == 1) run.click("wieder2");
+        const int left = run.lauf().stand().restZeit;
+        run.wait(60000);
+        EXPECT_EQ(run.lauf().stand().restZeit, left) << "the clock of an exam stops";
+        EXPECT_EQ(run.on("wieder2").usable(), mode == 1) << "as often as wanted";
+        EXPECT_FALSE(run.on("CmdNextAufg").usable());
 
         auto& forms = run.drill.programm.forms;
         std::vector<std::string> seen;
@@ -75,13 +81,16 @@ TEST_F(Leaving, ARunBearsTheFaultsOfHelpAndKeys) {
     run.answerRight();
     EXPECT_EQ(run.turn(), AufgZustand::Geschlossen) << "the run goes on";
     run.z.tempoIdx = 99;  // the task cannot be played
-    run.on<form::Button>("CmdNextAufg").click();
-    run.loop.advance(500);
+    run.click("CmdNextAufg");
+    run.wait(500);
     EXPECT_FALSE(run.running());
+    EXPECT_TRUE(run.setUp().visible());
+    EXPECT_EQ(host.faults.back().at(0).text(), "zepha9.MatWahl.arbeitsblatt1");
+    EXPECT_EQ(host.faults.back().at(1), core::Value(9));
 }
 
 TEST_F(Leaving, APaletteKeepsItsColoursToTheEnd) {
-    Practice run(host, Practice::Way{false, 4});
+    Practice run(host, Way{false, 4});
     run.begin();
     run.next();
     const auto open = run.on<form::Group>("grdnot", 0).backColour();
@@ -91,27 +100,6 @@ TEST_F(Leaving, APaletteKeepsItsColoursToTheEnd) {
     });
     run.on<form::Panel>("zurueck").click();
     EXPECT_EQ(last, open);
-}
-
-TEST_F(Leaving, NoRunGoesOnWithTheChanceOfAnExam) {
-    const auto tasks = [](Practice& run, int mode, int number) {
-        run.mode(mode);
-        run.z.zufallsNr = number;
-        run.begin();
-        std::vector<std::pair<int, int>> drawn;
-        for (int i = 0; i < 4; ++i) {
-            run.next();
-            drawn.emplace_back(run.task().skala_nr, run.task().noten[0]);
-            run.answerRight();
-        }
-        run.leave();
-        return drawn;
-    };
-    Practice run(host), other(host);
-    const auto exam = tasks(run, 4, 5);
-    EXPECT_NE(exam, tasks(other, 4, 6));
-    EXPECT_EQ(tasks(run, 0, 0), tasks(other, 0, 0)) << "the clock decides, not the exam before";
-    EXPECT_EQ(exam, tasks(run, 4, 5)) << "an exam with a number repeats its tasks";
 }
 
 }  // namespace

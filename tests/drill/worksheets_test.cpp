@@ -4,9 +4,6 @@
 
 #include <pugixml.hpp>
 
-#include <cstdlib>
-#include <set>
-
 namespace setup::test {
 
 namespace {
@@ -14,7 +11,7 @@ namespace {
 using engine::AufgZustand;
 using sim::Writing;
 
-constexpr Practice::Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{true, 4};
+constexpr Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{true, 4};
 
 struct Exercise : Practice {
     using Practice::Practice;
@@ -56,7 +53,7 @@ TEST_F(Worksheets, FourWrongAnswersBringTheSolutionToSeeAndToHear) {
         for (int tries = 1; tries <= 4; ++tries) {
             EXPECT_NE(run.turn(), AufgZustand::Geschlossen);
             run.handIn(Writing::Wrong);
-            EXPECT_EQ(run.shown("zaehler", 1), std::to_string(tries));
+            EXPECT_EQ(run.caption("zaehler", 1), std::to_string(tries));
         }
         EXPECT_EQ(run.turn(), AufgZustand::Geschlossen);
         EXPECT_EQ(run.wrongColumns(), 0);
@@ -92,7 +89,8 @@ TEST_F(Worksheets, SpellingCountsAsMuchAsSound) {
     int misspelled = 0;
     for (int task = 0; task < 30; ++task) {
         run.next();
-        EXPECT_EQ(run.shown("aufg"), run.drill.programm.katalog.skal_name[0][run.task().skala_nr]);
+        EXPECT_EQ(run.caption("aufg"),
+                  run.drill.programm.katalog.skal_name[0][run.task().skala_nr]);
         sim::writeScale(run.sheet(), Writing::Enharmonic, run.chance);
         const bool same = run.wrongColumns() == 0;
         run.on<form::Button>("cmdOK").click();
@@ -103,40 +101,6 @@ TEST_F(Worksheets, SpellingCountsAsMuchAsSound) {
         EXPECT_TRUE(run.midi.noteOns().empty()) << "nothing sounds";
     }
     EXPECT_GT(misspelled, 5);
-}
-
-/// An exam to its end: no scale comes twice in one key, and every scale of the result counts.
-TEST_F(Worksheets, AnExamOfWrittenScalesKeepsTheBest) {
-    for (const auto& way : {writing, theoryWriting}) {
-        SCOPED_TRACE(testing::Message() << "theory " << way.theory << " type " << way.type);
-        Exercise run(host, way);
-        run.mode(4);
-        run.begin();
-        const int tasks = run.lauf().stand().pruefAufgaben;
-        std::set<std::pair<int, int>> drawn;
-        int signs = 0;
-        const auto lookIntoBag = [&] {
-            for (int i = 1; i <= run.lauf().matbox().matboxanz(); ++i) {
-                const int key = run.lauf().matbox().tonart(i);
-                signs += std::abs(key);
-                EXPECT_TRUE(key != 0 && std::abs(key) <= 6) << key;
-                EXPECT_TRUE(drawn.emplace(std::abs(int(run.lauf().matbox().code(i))), key).second);
-            }
-        };
-        lookIntoBag();
-        for (int task = 0; task < tasks; ++task) {
-            run.next();
-            run.handIn(Writing::Right);
-            if (run.lauf().stand().restAufgaben == tasks / 2) lookIntoBag();
-        }
-        EXPECT_NEAR(signs / double(tasks), 3, 0.25) << "the second half evens out the first";
-        EXPECT_EQ(run.turn(), AufgZustand::PruefungBeendet);
-        for (int slot = 1; slot <= 7; ++slot) {
-            const auto row = results::ergebnisZeile(run.drill.wertung.auswertung, run.z, slot);
-            EXPECT_TRUE(row.zaehlt);
-            EXPECT_GT(row.anteil, 0.9F);
-        }
-    }
 }
 
 TEST_F(Worksheets, TheoryAndWritingAreSavedUnderTheirOwnKeys) {
@@ -170,7 +134,7 @@ TEST_F(Worksheets, TheoryAndWritingAreSavedUnderTheirOwnKeys) {
         EXPECT_EQ(again.z.uebungsmodus, 2);
         again.begin();
         EXPECT_EQ(again.weights(), weights);
-        EXPECT_EQ(again.shown("zaehler", 0), "3");
+        EXPECT_EQ(again.caption("zaehler", 0), "3");
         host.records.clear();
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include "core/katalog.h"
 #include "engine/lauf.h"
+#include "support/choices.h"
 
 #include <algorithm>
 #include <map>
@@ -27,15 +28,8 @@ struct BareRun {
     BareRun(const BareRun&) = delete;
     BareRun& operator=(const BareRun&) = delete;
 
-    void category(int skal_typ) {
-        z.skal_typ = skal_typ;
-        z.skal_anz = katalog::kategorie(skal_typ).skal_max;
-    }
-    void choose(const std::vector<int>& codes) {
-        z.ska_ausw = 1;
-        z.einzelAnz = codes.size() - 1;
-        for (int i = 0; const int code : codes) z.einzel_wahl[i++] = code;
-    }
+    void category(int skal_typ) { support::category(z, skal_typ); }
+    void choose(const std::vector<int>& codes) { support::choose(z, codes); }
     Lauf& begin(int uebungsmodus = core::modus::ausprobieren) {
         z.uebungsmodus = uebungsmodus;
         run.emplace(z, rnd, wertung, exercise_);
@@ -63,12 +57,7 @@ struct BareRun {
         for (int i = 1; i <= run->matbox().matboxanz(); ++i) ++count[run->matbox().code(i)];
         return count;
     }
-    std::map<int, int> weights() const {
-        std::map<int, int> all;
-        for (int i = 1; i < z.mathaeufgk_box.rows(); ++i)
-            all[z.mathaeufgk_box(i, 0)] = z.mathaeufgk_box(i, 1);
-        return all;
-    }
+    std::map<int, int> weights() const { return support::weights(z); }
     /// Codes that the run may draw.
     std::vector<int> codes() const {
         std::vector<int> all;

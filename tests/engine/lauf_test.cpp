@@ -63,6 +63,27 @@ TEST(Draw, ARunThatCouldOnlyRepeatItselfIsRefused) {
     }
 }
 
+TEST(Draw, OnlyAnExamWithANumberRepeatsItsTasksAndNoRunGoesOnWithItsChance) {
+    BareRun one(hearing, 1), other(hearing, 2), again(hearing, 1);
+    for (const int mode : {pruefung, core::modus::test, 0}) {
+        SCOPED_TRACE(mode);
+        const auto tasks = [&](BareRun& bare, int number) {
+            bare.z.zufallsNr = number;
+            bare.begin(mode);
+            std::vector<int> all;
+            for (int n = 0; n < 8; ++n) {
+                all.push_back(bare.run->ziehen().noten[0]);
+                all.push_back(bare.code());
+            }
+            return all;
+        };
+        const auto numbered = tasks(one, 5);
+        EXPECT_EQ(numbered == tasks(other, 5), mode == pruefung);
+        EXPECT_EQ(numbered != tasks(again, 6), mode == pruefung);
+        EXPECT_EQ(numbered, tasks(one, 5));
+    }
+}
+
 TEST(TryingOut, DrawsEvenlyAndACodeEnteredTwiceDoubly) {
     BareRun bare;
     bare.choose({1, -2, -2});
@@ -120,6 +141,8 @@ TEST(Task, BooksAndWeighsWhatTheLearnerDid) {
             EXPECT_FLOAT_EQ(bare.wertung.auswertung.read(slot, 1), row.booked);
             EXPECT_EQ(bare.weights().at(code), row.weight);
             EXPECT_EQ(bare.weights().at(-code), 4);
+            const int confused = (run.aufgabe().skala_nr + 1) % 7 + 1;
+            EXPECT_EQ(bare.weights().at(code > 0 ? confused : -confused), 4 + row.wrong);
         }
     }
 }
@@ -168,10 +191,40 @@ TEST(Run, IsTakenUpWhereItWasLeft) {
         EXPECT_EQ(run.sichern(), saved.items());
         EXPECT_EQ(again.weights(), left.weights());
         EXPECT_EQ(run.matbox().prozent(), left.run->matbox().prozent());
-        core::Value::Array broken = saved.items();
-        broken[1] = "99";
+    }
+}
+
+TEST(Run, ARecordThatDoesNotFitIsRefusedAsAWhole) {
+    using core::Value;
+    struct Row {
+        const char* name;
+        std::function<void(Value::Array&)> spoil;
+    };
+    BareRun bare;
+    bare.category(2);
+    bare.choose({5, -5, 2, -2, 7, -7});
+    Lauf& run = bare.begin(training);
+    for (int n = 0; n < 9; ++n) bare.task(n % 3 != 0);
+    const Value::Array saved = run.sichern();
+    for (const Row& row :
+         {Row{"too short", [](auto& a) { a.pop_back(); }},
+          {"too long", [](auto& a) { a.resize(a.size() + 6, "1"); }},
+          {"no such scale", [](auto& a) { a[1] = "9"; }},
+          {"scale 0", [](auto& a) { a[1] = "0"; }},
+          {"a scale twice", [](auto& a) { a[1] = a[2], a[13] = a[17]; }},
+          {"no number", [](auto& a) { a[8] = "x"; }},
+          {"beyond 16 bits", [](auto& a) { a[8] = "70000"; }},
+          {"nothing left to train", [](auto& a) { std::fill_n(a.begin() + 7, 6, "-3"); }},
+          {"long failed", [](auto& a) { a[7] = "30000"; }},
+          {"foreign slot", [](auto& a) { a[13] = "15"; }},
+          {"score is no number", [](auto& a) { a[15] = "nan"; }},
+          {"counter below zero", [](auto& a) { a.back() = "-1"; }},
+          {"an array inside", [](auto& a) { a[3] = Value::Array{"1"}; }}}) {
+        SCOPED_TRACE(row.name);
+        Value::Array broken = saved;
+        row.spoil(broken);
         EXPECT_THROW(run.aufnehmen(broken), base::RuntimeError);
-        EXPECT_EQ(run.sichern(), saved.items()) << "what does not fit changes nothing";
+        EXPECT_EQ(run.sichern(), saved) << "nothing is changed";
     }
 }
 

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <set>
+
 namespace engine {
 namespace {
 
@@ -143,6 +146,33 @@ TEST(Bag, EveryCodeComesInEachHalfOfAnExam) {
             }
             EXPECT_TRUE(run.zuEnde());
         }
+}
+
+/// No scale comes twice in a key while there are others, and the second half evens out the first.
+TEST(Bag, OfAWrittenExamHasTheKeysToo) {
+    for (int seed = 0; seed < 20; ++seed) {
+        SCOPED_TRACE(seed);
+        BareRun bare(writing, seed);
+        Lauf& run = bare.begin(pruefung);
+        const int tasks = run.stand().pruefAufgaben;
+        std::map<int, std::set<int>> keys;
+        int signs = 0;
+        for (int n = 0; n < tasks; ++n) {
+            for (int i = 1; n % (tasks / 2) == 0 && i <= run.matbox().matboxanz(); ++i) {
+                const int key = run.matbox().tonart(i);
+                signs += std::abs(key);
+                EXPECT_TRUE(key != 0 && std::abs(key) <= 6) << key;
+                auto& before = keys[std::abs(int(run.matbox().code(i)))];
+                EXPECT_TRUE(before.insert(key).second || before.size() == 12) << key;
+            }
+            bare.task(true);
+        }
+        EXPECT_NEAR(signs / double(tasks), 3, 0.25);
+        for (int slot = 1; slot <= 7; ++slot) {
+            const auto row = results::ergebnisZeile(bare.wertung.auswertung, bare.z, slot);
+            EXPECT_TRUE(row.zaehlt && row.anteil > 0.9F) << "its best count";
+        }
+    }
 }
 
 }  // namespace

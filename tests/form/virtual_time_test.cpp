@@ -30,5 +30,34 @@ TEST(VirtualTime, TicksInStepsAndWaitsInsideEachOtherAndOverMidnight) {
     EXPECT_FLOAT_EQ(late.clock(), 86400.2F);
 }
 
+/// Two timers that tick together, one of which begins anew in its own tick and stops in its fifth.
+TEST(VirtualTime, CallsDueTogetherTakeTurnsBehindWhatIsPosted) {
+    Bench bench;
+    std::string order;
+    Timer first(bench.form, {"first"}, 10), second(bench.form, {"second"}, 10);
+    first.onTick = {"", [&] {
+                        order += 'a';
+                        bench.loop.post([&] { order += '.'; });
+                    }};
+    second.onTick = {"", [&] {
+                         order += 'b';
+                         second.setInterval(10);
+                         if (order.size() > 12) second.stop();
+                     }};
+    first.start();
+    second.start();
+    int made = 0;
+    Connection gone = bench.loop.after(5, [&] { ++made; });
+    const Connection kept = bench.loop.after(0, [&] {
+        ++made;
+        gone = {};
+    });
+    bench.loop.advance(0);
+    EXPECT_EQ(made, 0) << "in a millisecond at the earliest";
+    bench.loop.advance(61);
+    EXPECT_EQ(order, "a.ba.ba.ba.ba.ba.");
+    EXPECT_EQ(made, 1);
+}
+
 }  // namespace
 }  // namespace form

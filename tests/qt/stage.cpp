@@ -3,33 +3,30 @@
 #include <QApplication>
 #include <QKeyEvent>
 
-#include <filesystem>
-
 Stage::Stage(const std::string& language)
-    : WholeDrill(host,
-                 {.tempOrdner = std::filesystem::temp_directory_path().string(),
-                  .rechnername = "practice-room-3",
-                  .programmOrdner = (suite::languageFolder() + "/..").toStdString()},
-                 1, &languages),
-      windows(drill.programm.forms) {
+    : Desk(
+          {.call = {.rechnername = "practice-room-3",
+                    .programmOrdner = (suite::languageFolder() + "/..").toStdString()},
+           .languages = &languages}),
+      windows(programm.forms) {
     host.language = language;
-    drill.programm.forms.load("grd_einst");
+    programm.forms.load("grd_einst");
     wait(10);
 }
 
-Stage::~Stage() { drill.programm.forms.unloadAll(); }
+Stage::~Stage() { programm.forms.unloadAll(); }
 
 QWidget& Stage::window(const std::string& name) const { return *windows.of(form(name)); }
 
 void Stage::wait(std::int64_t milliseconds) {
-    loop.advance(milliseconds);
+    Desk::wait(milliseconds);
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void Stage::openSetup(bool theory, int type) {
-    toSetUp(theory, type);
-    wait(300);
+void Stage::openSetup(const support::Way& way) {
+    toSetUp(way);
+    wait(50);
 }
 
 void Stage::openWorksheet() {
@@ -38,7 +35,7 @@ void Stage::openWorksheet() {
 }
 
 void Stage::next() {
-    WholeDrill::next();
+    Desk::next();
     wait(0);
 }
 
@@ -47,12 +44,12 @@ bool Stage::task(bool right) {
     if (right)
         answerRight();
     else
-        while (answerWrong()) continue;
+        lose();
     return turn() == engine::AufgZustand::Geschlossen;
 }
 
 void Stage::leave() {
-    WholeDrill::leave();
+    Desk::leave();
     wait(0);
 }
 
@@ -63,7 +60,7 @@ void Stage::press(QWidget& widget, Qt::Key key) {
 }
 
 void Stage::whenResult(const std::function<void()>& look) {
-    WholeDrill::whenResult([this, look] {
+    Desk::whenResult([this, look] {
         wait(10);
         look();
     });

@@ -1,7 +1,7 @@
 #pragma once
 #include "qt/language_files.h"
 #include "qt/windows.h"
-#include "support/whole_drill.h"
+#include "support/desk.h"
 
 #include <QWidget>
 
@@ -12,8 +12,8 @@ struct WithLanguages {
     qt::LanguageFiles languages{suite::languageFolder()};
 };
 
-/// The whole drill with real windows under virtual time: forms open and close as fast as they can.
-struct Stage : support::WithHost, WithLanguages, support::WholeDrill {
+/// A desk with real windows: forms open and close as fast as they can.
+struct Stage : WithLanguages, support::Desk {
     explicit Stage(const std::string& language = "Deutsch");
     ~Stage();
 
@@ -22,13 +22,12 @@ struct Stage : support::WithHost, WithLanguages, support::WholeDrill {
     W& widget(const std::string& form, const std::string& id) const {
         return *window(form).findChild<W*>(QString::fromStdString(id));
     }
+    /// Lets time pass, and the windows follow.
     void wait(std::int64_t milliseconds);
     /// On to the set-up form.
-    void openSetup(bool theory = false, int type = 1);
-    const std::string& setup() const { return setup_; }
+    void openSetup(const support::Way& way = {});
     /// On to the worksheet of its choices.
     void openWorksheet();
-    const std::string& sheet() const { return sheet_; }
     /// Calls the next task and waits until its answers are open.
     void next();
     /// Plays the task in hand to its end and answers it. @return false when the run is over.

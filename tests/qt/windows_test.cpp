@@ -38,9 +38,9 @@ TEST(Windows, EveryFormIsReadableInEveryLanguageAndSize) {
         look("einstellung1", "-8-chosen");
         stage.option("ska_ausw", 0).choose();
         for (const char* dialog : {"frmSave", "frmLoad"}) {
-            stage.drill.programm.forms.load(dialog);
+            stage.programm.forms.load(dialog);
             look(dialog, std::string("-9-") + dialog);
-            stage.drill.programm.forms.unload(dialog);
+            stage.programm.forms.unload(dialog);
         }
         stage.combo("skal_typ_cmb").setListIndex(6);
         stage.combo("Combo_richtung").setListIndex(2);

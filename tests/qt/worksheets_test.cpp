@@ -2,7 +2,6 @@
 #include "pictures.h"
 #include "qt/staff_widget.h"
 #include "sim/writer.h"
-#include "worksheets/arbeitsblatt.h"
 
 #include <QRegularExpression>
 
@@ -14,13 +13,9 @@ namespace {
 
 using engine::AufgZustand;
 
-worksheets::Arbeitsblatt& writing(const Stage& stage) {
-    return dynamic_cast<worksheets::Arbeitsblatt&>(stage.form(stage.sheet()));
-}
-
 /// Hands in wrong versions until the solution stands there.
 void lose(Stage& stage) {
-    auto& sheet = writing(stage);
+    auto& sheet = stage.sheet();
     base::Rnd chance(1);
     while (sheet.lauf().aufgZustand() != AufgZustand::Geschlossen) {
         sim::writeScale(sheet, sim::Writing::Wrong, chance);
@@ -36,24 +31,24 @@ TEST(Worksheets, AreReadableInEveryLanguageAndSize) {
             lookAt(stage, form, std::string(language).append(picture).append(form));
         };
         for (const bool theory : {false, true}) {
-            stage.openSetup(theory, 4);
-            look(stage.setup(), "-a-4-");
+            stage.openSetup({theory, 4});
+            look(stage.setUp().name(), "-a-4-");
             stage.openWorksheet();
             stage.next();
-            look(stage.sheet(), "-b-");
+            look(stage.sheet().name(), "-b-");
             lose(stage);
-            look(stage.sheet(), "-c-solution-");
+            look(stage.sheet().name(), "-c-solution-");
             stage.leave();
             stage.button("cmdZurueck").click();
             stage.wait(50);
         }
-        stage.openSetup(true, 1);
-        look(stage.setup(), "-d-");
+        stage.openSetup({true, 1});
+        look(stage.setUp().name(), "-d-");
         for (const int names : {0, 1}) {
             stage.z.an_zeig = names;
             stage.openWorksheet();
             stage.next();
-            look(stage.sheet(), "-e-" + std::to_string(names) + "-");
+            look(stage.sheet().name(), "-e-" + std::to_string(names) + "-");
             stage.leave();
         }
     }
@@ -61,12 +56,12 @@ TEST(Worksheets, AreReadableInEveryLanguageAndSize) {
 
 TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
     Stage stage("English");
-    stage.openSetup(false, 4);
+    stage.openSetup({false, 4});
     stage.openWorksheet();
-    auto& sheet = writing(stage);
-    auto& staff = stage.widget<qt::StaffWidget>(stage.sheet(), "PicBNot");
+    auto& sheet = stage.sheet();
+    auto& staff = stage.widget<qt::StaffWidget>(stage.sheet().name(), "PicBNot");
     const auto press = [&](Qt::Key key) { Stage::press(staff, key); };
-    stage.press(stage.sheet(), Qt::Key_Return);
+    stage.press(stage.sheet().name(), Qt::Key_Return);
     stage.wait(14000);
     for (int column = 1; column <= 6; ++column) {
         const int accidental = core::vorzeichen(sheet.lauf().aufgabe().tonAn(column).qz);
@@ -83,9 +78,9 @@ TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
                     return sheet.notenzeile()->NotSelb(c).ton();
                 }).richtig);
     EXPECT_NE(staff.accessibleDescription().indexOf(QRegularExpression("flat|sharp")), -1);
-    stage.press(stage.sheet(), Qt::Key_Return);
+    stage.press(stage.sheet().name(), Qt::Key_Return);
     EXPECT_EQ(sheet.lauf().aufgZustand(), AufgZustand::Geschlossen);
-    EXPECT_EQ(stage.shown("zaehler", 0), "1");
+    EXPECT_EQ(stage.caption("zaehler", 0), "1");
     const auto before = sheet.notenzeile()->NotSelb(1).midi;
     press(Qt::Key_Up);
     EXPECT_EQ(sheet.notenzeile()->NotSelb(1).midi, before) << "a closed task stands";

@@ -1,5 +1,5 @@
 #include "base/whole_file.h"
-#include "support/drill_fixture.h"
+#include "support/desk.h"
 
 #include <gtest/gtest.h>
 
@@ -9,14 +9,14 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(Record, IsOneFileASecondOfTheLastRunWithItsSettingsMasked) {
-    support::DrillFixture drill;
-    Skalaxml& xml = drill.drill.xml;
+    support::Practice desk;
+    Skalaxml& xml = desk.drill.xml;
     xml.SkalaXmlNeu();
     xml.LektionNeu("first");
     xml.SkalaXmlSichern({"0"});
     xml.SkalaXmlNeu();
     EXPECT_TRUE(xml.lektion().empty()) << "a new record has no lesson in hand";
-    drill.wait(61000);
+    desk.wait(61000);
     xml.SkalaXmlSichern({"2", "Tempo <schnell", "\"60\"\x01 & größer\n&#1;"});
     const fs::path file = xml.datei();
     EXPECT_EQ(file.filename(), "RSX260102100000.xml");
@@ -29,7 +29,7 @@ TEST(Record, IsOneFileASecondOfTheLastRunWithItsSettingsMasked) {
 	<lessons />
 </exercise>
 )");
-    drill.programm.aufruf.tempOrdner.clear();
+    desk.programm.aufruf.tempOrdner.clear();
     xml.SkalaXmlNeu();
     EXPECT_EQ(xml.datei(), "RSX260102100101.xml") << "the current folder where no other is named";
     xml.LektionNeu("third");

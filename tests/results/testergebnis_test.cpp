@@ -1,6 +1,6 @@
 #include "results/testergebnis.h"
 
-#include "support/drill_fixture.h"
+#include "support/desk.h"
 
 #include <gtest/gtest.h>
 
@@ -8,16 +8,16 @@ namespace results {
 namespace {
 
 /// A result form after a training in church modes, shown over a table that a test fills.
-struct ResultForm : support::DrillFixture {
+struct ResultForm : support::Practice {
     ResultForm() {
-        wertung.vorbereiten();
+        drill.wertung.vorbereiten();
         z.bewertung_basis = 2;
         z.uebungsmodus = 1;
     }
     /// A slot with one task and what it booked.
     void score(int slot, float booked) {
-        wertung.auswertung.Save(slot, 0, 1);
-        wertung.auswertung.Save(slot, 1, booked);
+        drill.wertung.auswertung.Save(slot, 0, 1);
+        drill.wertung.auswertung.Save(slot, 1, booked);
     }
     Testergebnis& opened() {
         auto& form = static_cast<Testergebnis&>(programm.forms.load("testergebnis"));
@@ -25,7 +25,7 @@ struct ResultForm : support::DrillFixture {
         return form;
     }
     form::Control& part(const std::string& name, int index = form::Place::noIndex) {
-        return WholeDrill::control<form::Control>("testergebnis", name, index);
+        return control("testergebnis", name, index);
     }
 };
 
@@ -91,15 +91,15 @@ TEST(Testergebnis, LeavesToTheSetUpFormAndByItselfAfterAFaultWhileItFills) {
         SCOPED_TRACE(faulty);
         ResultForm result;
         auto& forms = result.programm.forms;
-        if (faulty) result.wertung.auswertung.init_arr(2, 1);
-        forms.load("einstellung1");
+        if (faulty) result.drill.wertung.auswertung.init_arr(2, 1);
+        forms.hide("einstellung1");
         result.later(500, [&] {
             if (form::Form* form = forms.loaded("testergebnis"))
                 form->key({form::Key::Kind::Enter});
         });
         EXPECT_NO_THROW(forms.runModal("testergebnis"));
         EXPECT_EQ(result.host.faults.size(), faulty ? 1U : 0U);
-        EXPECT_EQ(forms.loaded("einstellung1")->visible(), !faulty) << "else the worksheet does it";
+        EXPECT_EQ(result.setUp().visible(), !faulty) << "else the worksheet does it";
     }
 }
 

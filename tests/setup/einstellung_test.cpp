@@ -135,10 +135,10 @@ TEST_F(SetUp, ASoundCheckIsClosedWhateverItEndsBehind) {
         return button("klang_contr").enabled() && button("cmdOK").enabled();
     };
     button("klang_contr").click();
-    drill.programm.Melden("title", "text");
+    programm.Melden("title", "text");
     loop.advance(20000);
     EXPECT_FALSE(closed()) << "another form is on top";
-    drill.programm.forms.unload("frmMessage");
+    programm.forms.unload("frmMessage");
     EXPECT_TRUE(closed());
     button("klang_contr").click();
     option("ska_ausw", 1).click();

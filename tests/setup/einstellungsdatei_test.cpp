@@ -2,8 +2,8 @@
 #include "setup/einstellungsdatei.h"
 
 #include "base/whole_file.h"
+#include "rehearsal/temp_folder.h"
 #include "setup/set_up.h"
-#include "sim/temp_folder.h"
 
 #include <fstream>
 
@@ -15,12 +15,11 @@ namespace fs = std::filesystem;
 
 /// The set-up form of a teacher, and a folder for its files.
 struct Datei : OnHost {
-    const sim::TempFolder temporary;
+    const rehearsal::TempFolder temporary;
     const fs::path folder = temporary.path();
-    Practice teacher{host,
-                     {.tempOrdner = "/nowhere",
-                      .stueckeOrdner = (folder / "Stuecke_Files").string(),
-                      .pruefEdit = true}};
+    Practice teacher{
+        Start{.host = &host,
+              .call = {.stueckeOrdner = (folder / "Stuecke_Files").string(), .pruefEdit = true}}};
 
     std::string text() { return EinstellungenText(teacher.setUp(), 1, "für ♭"); }
     void press(const char* form, const char* button) {
@@ -28,7 +27,7 @@ struct Datei : OnHost {
     }
     /// Saves by the dialog, in which these buttons are pressed.
     void save(const std::vector<const char*>& buttons) {
-        auto& forms = teacher.drill.programm.forms;
+        auto& forms = teacher.programm.forms;
         const form::Connection dialog = forms.made.connect([&](form::Form& form) {
             if (form.name() != "frmSave") return;
             teacher.loop.post([&] {
@@ -83,7 +82,7 @@ TEST_F(Datei, ReadBackOnAnotherMachineItSetsAndLocks) {
     EXPECT_EQ(teacher.dialogs.questions.back(),
               "W841|" + (folder / "Stuecke_Files" / "VESHNA_Set_XX.mvs").string());
 
-    Practice pupil(host, {.tempOrdner = "/nowhere", .startdatei = file.string()});
+    Practice pupil(Start{.host = &host, .call = {.startdatei = file.string()}});
     using Z = core::Zustand;
     for (const auto field : {&Z::skal_typ, &Z::tempoIdx, &Z::stimmung, &Z::final, &Z::abfolge,
                              &Z::FrquMinAkt, &Z::FrquMaxAkt})
@@ -172,7 +171,7 @@ TEST_F(Datei, OnlyWellFormedFilesAreRead) {
 
 TEST_F(Datei, WhatCannotBeWrittenOrReadIsToldWithItsPath) {
     teacher.words.texts = {{"835s", "no settings: %1"}};
-    teacher.drill.programm.forms.load("frmLoad");
+    teacher.programm.forms.load("frmLoad");
     std::ofstream(folder / "bad.mvs") << "<a><b></a>";
     teacher.dialogs.files = {(folder / "bad.mvs").string()};
     press("frmLoad", "cmdSave");
@@ -193,6 +192,27 @@ TEST_F(Datei, WhatCannotBeWrittenOrReadIsToldWithItsPath) {
 
     save({"cmdOK"});
     EXPECT_NE(teacher.dialogs.messages.back().text.find("W889"), std::string::npos) << "no path";
+}
+
+TEST_F(Datei, NeitherSettingsNorRecordGetLostSilentlyWithTheirFolder) {
+    const std::string gone = (folder / "gone/x").string();
+    teacher.words.texts = {{"815s", "no record in %1: free some space"},
+                           {"834s", "no settings in %1: choose another folder"}};
+    teacher.programm.aufruf.tempOrdner = gone;
+    teacher.dialogs.files = {gone + "/exam.mvs"};
+    save({"cmdSave", "cmdOK"});
+    teacher.begin();
+    teacher.wait(500);
+    teacher.click("zurueck");
+    ASSERT_EQ(teacher.dialogs.messages.size(), 2U);
+    const std::string warning = "W720\nW721\nW722\nW723\n\n",
+                      reason = " (No such file or directory)";
+    EXPECT_EQ(teacher.dialogs.messages[0].text,
+              warning + "no settings in " + gone + "/exam.mvs: choose another folder" + reason);
+    const std::string file = teacher.drill.xml.datei();
+    EXPECT_TRUE(file.starts_with(gone));
+    EXPECT_EQ(teacher.dialogs.messages[1].text,
+              warning + "no record in " + file + ": free some space" + reason);
 }
 
 }  // namespace

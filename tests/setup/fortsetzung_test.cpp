@@ -3,8 +3,6 @@
 
 #include "setup/set_up.h"
 
-#include <functional>
-
 namespace setup::test {
 
 namespace {
@@ -47,8 +45,8 @@ TEST_F(Fortsetzung, AnotherStartGoesOnWhereTheTrainingWasLeft) {
         for (const int i : {5, 4, 9, 10, 7, 0, 2, 1, 3, 11}) EXPECT_FALSE(run.group(i).enabled());
         run.begin();
         EXPECT_EQ(run.weights(), weights);
-        EXPECT_EQ(run.shown("zaehler", 0), std::to_string(4 + start));
-        EXPECT_EQ(run.shown("zaehler", 1), "2");
+        EXPECT_EQ(run.caption("zaehler", 0), std::to_string(4 + start));
+        EXPECT_EQ(run.caption("zaehler", 1), "2");
         float tasks = 0;
         for (int slot = 1; slot <= 16; ++slot) tasks += run.drill.wertung.auswertung.read(slot, 0);
         EXPECT_EQ(tasks, 4 + start);
@@ -82,7 +80,7 @@ TEST_F(Fortsetzung, AHalfSavedTrainingIsNeverOffered) {
     saved();
     for (int stores = 0; stores < 3; ++stores) {
         SCOPED_TRACE(stores);
-        support::FakeHost copy;
+        rehearsal::MemoryHost copy;
         copy.records = host.records;
         {
             Practice drill(copy);
@@ -101,45 +99,21 @@ TEST_F(Fortsetzung, AHalfSavedTrainingIsNeverOffered) {
     }
 }
 
-TEST_F(Fortsetzung, ARecordThatDoesNotFitIsRefusedAsAWhole) {
+TEST_F(Fortsetzung, ATrainingThatCannotBeTakenUpIsToldLeftAloneAndOfferedNoMore) {
     saved();
-    struct Row {
-        const char* name;
-        std::function<void(Value::Array&)> spoil;
-    };
-    const Row rows[] = {
-        {"too short", [](auto& a) { a.pop_back(); }},
-        {"too long", [](auto& a) { a.resize(a.size() + 6, "1"); }},
-        {"no such scale", [](auto& a) { a[1] = "9"; }},
-        {"scale 0", [](auto& a) { a[1] = "0"; }},
-        {"a scale twice", [](auto& a) { a[1] = a[2], a[13] = a[17]; }},
-        {"no number", [](auto& a) { a[8] = "x"; }},
-        {"beyond 16 bits", [](auto& a) { a[8] = "70000"; }},
-        {"nothing left to train", [](auto& a) { std::fill_n(a.begin() + 7, 6, "-3"); }},
-        {"long failed", [](auto& a) { a[7] = "30000"; }},
-        {"foreign slot", [](auto& a) { a[13] = "15"; }},
-        {"score is no number", [](auto& a) { a[15] = "nan"; }},
-        {"counter below zero", [](auto& a) { a.back() = "-1"; }},
-        {"an array inside", [](auto& a) { a[3] = Value::Array{"1"}; }},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        support::FakeHost copy;
-        copy.records = host.records;
-        Practice drill(copy);
-        drill.mode(2);
-        auto array = record("A1").items();
-        row.spoil(array);
-        copy.records["zepha9/A1"] = array;
-        drill.begin();
-        drill.loop.advance(1000);
-        EXPECT_FALSE(drill.running());
-        ASSERT_EQ(copy.faults.size(), 1U);
-        EXPECT_EQ(copy.faults[0].at(0).text(), "zepha9.start_timer.arbeitsblatt1");
-        EXPECT_EQ(copy.records["zepha9/A1"], Value(array)) << "nothing is overwritten";
-        EXPECT_EQ(drill.offered(), core::keineFortsetzung);
-        EXPECT_EQ(drill.z.uebungsmodus, 1);
-    }
+    Practice desk(host);
+    desk.mode(2);
+    auto array = record("A1").items();
+    array.pop_back();
+    record("A1") = array;
+    desk.begin();
+    desk.wait(1000);
+    EXPECT_FALSE(desk.running());
+    ASSERT_EQ(host.faults.size(), 1U);
+    EXPECT_EQ(host.faults[0].at(0).text(), "zepha9.start_timer.arbeitsblatt1");
+    EXPECT_EQ(record("A1"), Value(array)) << "nothing is overwritten";
+    EXPECT_EQ(desk.offered(), core::keineFortsetzung);
+    EXPECT_EQ(desk.z.uebungsmodus, 1);
 }
 
 TEST_F(Fortsetzung, TheOrderOfTonesOnTheFormDoesNotMatter) {
@@ -149,7 +123,7 @@ TEST_F(Fortsetzung, TheOrderOfTonesOnTheFormDoesNotMatter) {
     for (const bool saved : {false, true}) {
         SCOPED_TRACE(saved ? "melody" : "scale");
         host.records["zepha9/E1b"] = saved ? melody : scale;
-        Practice theory(host, Practice::Way{true, 1});
+        Practice theory(host, Way{true, 1});
         theory.option("abfolge", saved ? 0 : 1).click();
         theory.mode(2);
         EXPECT_EQ(theory.z.uebungsmodus, 2);
@@ -165,7 +139,7 @@ TEST_F(Fortsetzung, SettingsThatDoNotFitBecomeANewTraining) {
     for (const auto& [element, text] :
          {std::pair{0, "7"}, {2, "-1"}, {3, ""}, {5, "9"}, {6, "3"}, {8, "x"}, {11, "900"}}) {
         SCOPED_TRACE(element);
-        support::FakeHost copy;
+        rehearsal::MemoryHost copy;
         copy.records = host.records;
         auto array = record("E1").items();
         array[static_cast<std::size_t>(element)] = text;

@@ -23,7 +23,7 @@ std::string contents(const char* file) {
 }
 
 TEST(CommandLine, TheProgramTellsItsStatusAndWritesItsFiles) {
-    const TempFolder folder;
+    const rehearsal::TempFolder folder;
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(folder.path());
 
@@ -43,12 +43,19 @@ TEST(CommandLine, TheProgramTellsItsStatusAndWritesItsFiles) {
              {"--fast", "--fast"},
              {"", "--tasks"},
              {"--tasks 1 --trace /nowhere/trace", "/nowhere/trace"},
+             {"--bare --tasks 1 --trace -", "--trace"},
+             {"--bare --tasks 1 --record r", "--record"},
+             {"--bare --tasks 1 --through-setup", "--through-setup"},
+             {"--bare", "--tasks"},
          }) {
         EXPECT_EQ(program(arguments), 2) << arguments;
         EXPECT_NE(contents("err").find(told), std::string::npos) << contents("err");
     }
     EXPECT_EQ(program("--set einzel_wahl=2 --set final=1 --tasks 1"), 1);
 
+    EXPECT_EQ(program("--bare --tasks 100 --runs 3"), 0);
+    EXPECT_NE(contents("out").find("left 3"), std::string::npos);
+    EXPECT_EQ(contents("out").find("time"), std::string::npos) << "it is not known";
     EXPECT_EQ(program("--set uebungsmodus=1 --trace trace --record record.xml"), 0);
     EXPECT_NE(contents("out").find("goal"), std::string::npos);
     const std::string trace = contents("trace");

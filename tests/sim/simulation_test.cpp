@@ -1,3 +1,4 @@
+#include "sim/bare_runs.h"
 #include "sim/traced_run.h"
 #include "sim/usage_error.h"
 
@@ -44,6 +45,11 @@ TEST(Simulation, CountsWhatTheLearnerDid) {
     EXPECT_EQ(wrong.outcome.rightFirst, 0);
     EXPECT_EQ(wrong.outcome.bar, 100);
     EXPECT_GT(wrong.outcome.meanWeight, 4);
+    const auto closed = wrong.lines("closed");
+    int weight = 0;
+    for (const auto& row : closed.front()["weights"].toArray()) weight += row.toArray()[1].toInt();
+    EXPECT_EQ(weight, closed.front()["matbox_zahl"].toInt());
+    EXPECT_EQ(closed.back()["FloodPercent"].toInt(), 100);
 
     const TracedRun slow("--set uebungsmodus=4 --set abfrage=1 --learner slow:8");
     EXPECT_EQ(slow.outcome.ending, Ending::Clock);
@@ -54,20 +60,6 @@ TEST(Simulation, CountsWhatTheLearnerDid) {
 
     const TracedRun half("--tasks 400 --learner random:0.5");
     EXPECT_NEAR(half.outcome.rightFirst, 200, 40);
-}
-
-TEST(Simulation, AFixedTaskNumberFixesTheTasksOfAnExamOnly) {
-    for (const int modus : {3, 4}) {
-        const auto tasks = [&](const char* seed) {
-            std::vector<std::vector<int>> all;
-            const TracedRun run("--set zufallsNr=5 --set uebungsmodus=" + std::to_string(modus) +
-                                seed);
-            for (const auto& task : run.lines("task")) all.push_back(numbers(task["noten"]));
-            return all;
-        };
-        EXPECT_EQ(tasks(" --seed 1"), tasks(" --seed 1"));
-        EXPECT_EQ(tasks(" --seed 1") == tasks(" --seed 2"), modus == 4);
-    }
 }
 
 TEST(Simulation, OneRunAfterTheOtherStartsAfresh) {
@@ -105,6 +97,58 @@ TEST(Simulation, TheRoadThroughTheFormsLeadsToTheSameTasks) {
         for (std::size_t i = 0; i < wanted.size(); ++i)
             EXPECT_EQ(wanted[i]["noten"], drawn[i]["noten"]);
         EXPECT_EQ(direct.outcome.total, road.outcome.total);
+    }
+}
+
+/// Writes down what a bare run asks and what is answered.
+struct Noted final : engine::Protokoll {
+    std::vector<std::vector<int>> tasks;
+    std::vector<int> answers;
+    void aufgabe(const engine::Aufgabe& a) override {
+        tasks.emplace_back();
+        for (int i = 0; i < a.tonAnz; ++i) tasks.back().push_back(a.noten[i]);
+        tasks.back().push_back(a.akt_richtung);
+    }
+    void antwort(const engine::Aufgabe&, const engine::Antwort& answer) override {
+        answers.push_back(answer.index);
+    }
+    void weitererVersuch(base::i16) override {}
+};
+
+TEST(BareRuns, AreThoseOfTheForms) {
+    for (const char* choices :
+         {"--set uebungsmodus=1 --learner random:0.7", "--set uebungsmodus=1 --learner wrong",
+          "--set uebungsmodus=4 --learner confuse:0:3 --set abfolge=1 --set richtung=0",
+          "--tasks 20 --set ska_ausw=1 --set einzel_wahl=1,-1,4 --learner random:0.4",
+          "--form arbeitsblatt1b --set uebungsmodus=1 --learner slow:4 --tasks 30 --keep",
+          "--form arbeitsblatt4 --set uebungsmodus=1 --learner random:0.8 --tasks 40 --keep",
+          "--form arbeitsblatt4 --set uebungsmodus=1 --learner enharmonic --tasks 20",
+          "--form arbeitsblatt4b --set uebungsmodus=3 --learner random:0.8",
+          "--set einzel_wahl=2 --set final=1 --set uebungsmodus=1"}) {
+        SCOPED_TRACE(choices);
+        TracedRun forms(choices);
+        Noted noted;
+        BareRuns bare(forms.given, &noted);
+        for (int run = 0; run < 2; ++run) {
+            const Outcome outcome = bare.run();
+            if (run > 0) forms.outcome = forms.simulation.run();
+            EXPECT_STREQ(endingName(outcome.ending), endingName(forms.outcome.ending));
+            EXPECT_EQ(outcome.tasks, forms.outcome.tasks);
+            EXPECT_EQ(outcome.rightFirst, forms.outcome.rightFirst);
+            EXPECT_EQ(outcome.meanWeight, forms.outcome.meanWeight);
+            EXPECT_EQ(outcome.bar, forms.outcome.bar);
+        }
+        std::vector<std::vector<int>> tasks;
+        std::vector<int> answers;
+        forms.text = forms.stream.str();
+        for (const auto& line : forms.lines("task")) {
+            tasks.emplace_back();
+            for (const auto& note : line["noten"].toArray()) tasks.back().push_back(note.toInt());
+            tasks.back().push_back(line["akt_richtung"].toInt());
+        }
+        for (const auto& line : forms.lines("answer")) answers.push_back(line["index"].toInt());
+        EXPECT_EQ(noted.tasks, tasks);
+        EXPECT_EQ(noted.answers, answers);
     }
 }
 

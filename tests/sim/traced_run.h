@@ -50,10 +50,4 @@ struct TracedRun {
     std::string text;
 };
 
-inline std::vector<int> numbers(const QJsonValue& list) {
-    std::vector<int> all;
-    for (const auto& item : list.toArray()) all.push_back(item.toInt());
-    return all;
-}
-
 }  // namespace sim::test

@@ -1,7 +1,6 @@
 #include "sound/midi.h"
 
-#include "core/bench_programm.h"
-#include "support/recording_midi.h"
+#include "support/desk.h"
 
 #include <gtest/gtest.h>
 
@@ -14,14 +13,14 @@ TEST(Midi, TakesTheHostsDeviceOrTheLastOfTheList) {
                                         {" 1 x", 1},
                                         {"40000", 1},
                                         {{}, 1}}) {
-        core::BenchProgramm bench;
+        support::Desk bench;
         bench.host.midi = given;
-        bench.p.host.HostVerbinden();
-        support::RecordingMidi out{bench.loop};
-        Midi midi(bench.loop, bench.p.host);
+        bench.programm.host.HostVerbinden();
+        rehearsal::MidiRecorder out{bench.loop};
+        Midi midi(bench.loop, bench.programm.host);
         midi.MidiReset();
         midi.MidiNote(60, 0, 100, 0, 1);
-        EXPECT_EQ(out.opened, support::RecordingMidi::none) << "before it is taken over";
+        EXPECT_EQ(out.opened, rehearsal::MidiRecorder::none) << "before it is taken over";
         const auto devices = midi.MidiGeraete(out);
         ASSERT_EQ(devices.size(), 3U) << "the built-in one and two ports";
         EXPECT_EQ(devices[0].technology, 5);
@@ -31,10 +30,10 @@ TEST(Midi, TakesTheHostsDeviceOrTheLastOfTheList) {
 }
 
 TEST(Midi, AFadeOutAndInComesBackToBothVolumesInSmallSteps) {
-    core::BenchProgramm bench;
-    bench.p.host.HostVerbinden();
-    support::RecordingMidi out{bench.loop};
-    Midi midi{bench.loop, bench.p.host};
+    support::Desk bench;
+    bench.programm.host.HostVerbinden();
+    rehearsal::MidiRecorder out{bench.loop};
+    Midi midi{bench.loop, bench.programm.host};
     midi.MidiInit(out);
     out.volume = {0, 0};
     midi.MidiAusblenden();

@@ -1,4 +1,4 @@
-#include "support/drill_fixture.h"
+#include "support/desk.h"
 
 #include <gtest/gtest.h>
 
@@ -7,61 +7,61 @@
 namespace worksheets {
 namespace {
 
-using support::DrillFixture;
+using support::Practice;
 
-std::set<int> openAnswers(const DrillFixture& drill) {
+std::set<int> openAnswers(const Practice& desk) {
     std::set<int> open;
     for (int i = 0; i < 10; ++i)
-        if (drill.open(i)) open.insert(i);
+        if (desk.open(i)) open.insert(i);
     return open;
 }
 
 TEST(Answers, OnlyTheScalesOfTheRunAreOfferedAsPicturesOrNames) {
     for (const int an_zeig : {0, 1}) {
-        DrillFixture drill;
-        drill.choose({3, -3, 1});  // up and down is one answer
-        drill.z.an_zeig = an_zeig;
-        const form::Connection made = drill.programm.forms.made.connect([&](form::Form& form) {
+        Practice desk;
+        desk.choose({3, -3, 1});  // up and down is one answer
+        desk.z.an_zeig = an_zeig;
+        const form::Connection made = desk.programm.forms.made.connect([&](form::Form& form) {
             if (form.name() != "arbeitsblatt1") return;
-            EXPECT_TRUE(openAnswers(drill).empty()) << "before the run is ready";
+            EXPECT_TRUE(openAnswers(desk).empty()) << "before the run is ready";
         });
-        drill.run();
-        EXPECT_TRUE(openAnswers(drill).empty());
-        drill.next();
-        EXPECT_EQ(openAnswers(drill), (std::set{0, 2}));
+        desk.run();
+        EXPECT_TRUE(openAnswers(desk).empty());
+        desk.next();
+        EXPECT_EQ(openAnswers(desk), (std::set{0, 2}));
         for (int i = 0; i < 10; ++i) {
-            EXPECT_EQ(drill.control("tonart", i).visible(), an_zeig == 1 && i % 2 == 0 && i < 3);
-            EXPECT_EQ(drill.control("skal_pan", i).visible(), an_zeig == 0 && i % 2 == 0 && i < 3);
+            EXPECT_EQ(desk.on("tonart", i).visible(), an_zeig == 1 && i % 2 == 0 && i < 3);
+            EXPECT_EQ(desk.on("skal_pan", i).visible(), an_zeig == 0 && i % 2 == 0 && i < 3);
         }
         using enum form::Key::Kind;
-        EXPECT_FALSE(drill.sheet()->key({Digit, 3})) << "digits count what is offered";
-        EXPECT_TRUE(drill.sheet()->key({Digit, drill.task().skala_nr == 0 ? 1 : 2}));
-        EXPECT_EQ(drill.caption("zaehler", 0) + drill.caption("zaehler", 1), "10");
+        EXPECT_FALSE(desk.sheet().key({Digit, 3})) << "digits count what is offered";
+        EXPECT_TRUE(desk.sheet().key({Digit, desk.task().skala_nr == 0 ? 1 : 2}));
+        EXPECT_EQ(desk.caption("zaehler", 0) + desk.caption("zaehler", 1), "10");
     }
 }
 
 TEST(Answers, AWrongOneIsLockedUntilTheTaskIsClosed) {
-    DrillFixture drill;
-    drill.category(6);
-    drill.run();
-    drill.next();
+    Practice desk;
+    desk.category(6);
+    desk.run();
+    desk.next();
     std::set<int> expected{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-    EXPECT_EQ(openAnswers(drill), expected);
+    EXPECT_EQ(openAnswers(desk), expected);
     for (int n = 1; n <= 3; ++n) {
-        const int wrong = (drill.task().skala_nr + n) % 10;
-        drill.answer(wrong);
+        const int wrong = (desk.task().skala_nr + n) % 10;
+        desk.answer(wrong);
         expected.erase(wrong);
-        EXPECT_EQ(openAnswers(drill), expected);
+        EXPECT_EQ(openAnswers(desk), expected);
     }
-    drill.click("wieder");
-    EXPECT_TRUE(openAnswers(drill).empty()) << "closed while it sounds";
-    drill.wait(drill.taskLength());
-    EXPECT_EQ(openAnswers(drill), expected) << "still locked after a repetition";
-    drill.answer((drill.task().skala_nr + 4) % 10);
-    EXPECT_TRUE(openAnswers(drill).empty()) << "the fourth loses the task";
-    EXPECT_EQ(drill.caption("zaehler", 0) + drill.caption("zaehler", 1), "04");
-    drill.next();
-    EXPECT_EQ(openAnswers(drill).size(), 10U);
+    desk.click("wieder");
+    EXPECT_TRUE(openAnswers(desk).empty()) << "closed while it sounds";
+    desk.wait(desk.taskLength());
+    EXPECT_EQ(openAnswers(desk), expected) << "still locked after a repetition";
+    desk.answer((desk.task().skala_nr + 4) % 10);
+    EXPECT_TRUE(openAnswers(desk).empty()) << "the fourth loses the task";
+    EXPECT_EQ(desk.caption("zaehler", 0) + desk.caption("zaehler", 1), "04");
+    desk.next();
+    EXPECT_EQ(openAnswers(desk).size(), 10U);
 }
 
 /// One fewer than there are answers may be wrong, at most four. In both directions the ascending
@@ -81,27 +81,26 @@ TEST(Answers, EveryChoiceOfScalesCanBeWorkedThroughAndAllowsItsWrongAnswers) {
         for (const int modus : {0, 1, 3}) {
             SCOPED_TRACE(testing::Message()
                          << row.ascending << " up " << row.descending << " down " << modus);
-            DrillFixture drill;
-            drill.category(2);
-            drill.z.uebungsmodus = modus;
-            drill.z.richtung = row.richtung;
-            drill.z.ska_ausw = 1;
-            drill.z.einzelAnz = row.ascending + row.descending - 1;
-            for (int i = 0; i < row.ascending; ++i) drill.z.einzel_wahl[i] = i + 1;
+            Practice desk;
+            desk.category(2);
+            desk.z.uebungsmodus = modus;
+            desk.z.richtung = row.richtung;
+            desk.z.ska_ausw = 1;
+            desk.z.einzelAnz = row.ascending + row.descending - 1;
+            for (int i = 0; i < row.ascending; ++i) desk.z.einzel_wahl[i] = i + 1;
             for (int i = 0; i < row.descending; ++i)
-                drill.z.einzel_wahl[row.ascending + i] = -(i + 1);
-            drill.run();
-            for (int n = 0; n < 3 && drill.control("CmdNextAufg").usable(); ++n) {
-                drill.next();
+                desk.z.einzel_wahl[row.ascending + i] = -(i + 1);
+            desk.run();
+            for (int n = 0; n < 3 && desk.on("CmdNextAufg").usable(); ++n) {
+                desk.next();
                 int wrong = 0;
-                while (drill.answerWrong()) ++wrong;
+                while (desk.answerWrong()) ++wrong;
                 EXPECT_EQ(wrong, row.wrong);
-                EXPECT_EQ(drill.open(drill.task().skala_nr),
-                          row.ascending < 2 && row.richtung == 2);
-                drill.answerRight();
-                ASSERT_NE(drill.sheet(), nullptr);
+                EXPECT_EQ(desk.open(desk.task().skala_nr), row.ascending < 2 && row.richtung == 2);
+                desk.answerRight();
+                ASSERT_TRUE(desk.running());
             }
-            EXPECT_TRUE(drill.host.faults.empty());
+            EXPECT_TRUE(desk.host.faults.empty());
         }
 }
 
@@ -120,45 +119,44 @@ TEST(Solution, IsNamedByDirectionAndTetrachord) {
                            {"tetrachord down, lost", 6, 1, 0, {-7, -5}, false, "", "W700W375 "},
                            {"tetrachord without modes", 6, 2, 0, {2, 5}, true, "", ""}}) {
         SCOPED_TRACE(row.name);
-        DrillFixture drill;
-        drill.category(row.category);
-        drill.choose({row.chosen[0], row.chosen[1]});
-        drill.z.richtung = row.richtung;
-        drill.z.abfolge = row.abfolge;
-        drill.run();
-        drill.next();
-        for (; drill.task().skala_nr != std::abs(row.chosen[0]) - 1; drill.next())
-            drill.answerRight();
+        Practice desk;
+        desk.category(row.category);
+        desk.choose({row.chosen[0], row.chosen[1]});
+        desk.z.richtung = row.richtung;
+        desk.z.abfolge = row.abfolge;
+        desk.run();
+        desk.next();
+        for (; desk.task().skala_nr != std::abs(row.chosen[0]) - 1; desk.next()) desk.answerRight();
         if (row.right)
-            drill.answerRight();
+            desk.answerRight();
         else
-            while (drill.answerWrong()) continue;
+            desk.lose();
         const std::string name =
-            drill.programm.katalog.skal_name[row.category][drill.task().skala_nr];
-        EXPECT_EQ(drill.caption("ergebnis"), row.before + name + row.after);
+            desk.programm.katalog.skal_name[row.category][desk.task().skala_nr];
+        EXPECT_EQ(desk.caption("ergebnis"), row.before + name + row.after);
     }
 }
 
 TEST(AnswerTime, BeginsWithTheOpenAnswersAndAddsUpOverRepetitions) {
-    DrillFixture drill;
-    drill.z.uebungsmodus = 1;
-    drill.run();
-    drill.next();
+    Practice desk;
+    desk.z.uebungsmodus = 1;
+    desk.run();
+    desk.next();
     for (const int before : {1400, 400}) {
-        drill.wait(before);
-        drill.click("wieder");  // the silence of 50 ms before it counts too
-        drill.wait(drill.taskLength());
+        desk.wait(before);
+        desk.click("wieder");  // the silence of 50 ms before it counts too
+        desk.wait(desk.taskLength());
     }
-    drill.wait(600);
-    drill.answerRight();
-    EXPECT_EQ(drill.lauf().letzteAntwort().dauer, 25);
-    EXPECT_FLOAT_EQ(drill.task().verlauf.zeit_malus, 1.2F);
-    drill.next();
-    drill.wait(4000);
-    drill.answerWrong();
-    drill.wait(700);
-    drill.answerRight();
-    EXPECT_EQ(drill.lauf().letzteAntwort().dauer, 7) << "anew after a wrong answer";
+    desk.wait(600);
+    desk.answerRight();
+    EXPECT_EQ(desk.lauf().letzteAntwort().dauer, 25);
+    EXPECT_FLOAT_EQ(desk.task().verlauf.zeit_malus, 1.2F);
+    desk.next();
+    desk.wait(4000);
+    desk.answerWrong();
+    desk.wait(700);
+    desk.answerRight();
+    EXPECT_EQ(desk.lauf().letzteAntwort().dauer, 7) << "anew after a wrong answer";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "support/drill_fixture.h"
+#include "support/desk.h"
 
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
@@ -6,7 +6,7 @@
 namespace worksheets {
 namespace {
 
-using support::DrillFixture;
+using support::Practice;
 
 /// Names and attributes of a record from a node on, in their order.
 std::string told(const pugi::xml_node& node) {
@@ -20,31 +20,32 @@ std::string told(const pugi::xml_node& node) {
 }
 
 TEST(Record, TellsTheWholeRun) {
-    DrillFixture drill(2);
-    drill.choose({1, 2, 3});
-    drill.z.richtung = 0;
-    drill.run();
-    const auto name = [&](int scale) { return drill.programm.katalog.skal_name[0][scale % 3]; };
+    Practice desk({.seed = 2});
+    desk.choose({1, 2, 3});
+    desk.z.richtung = 0;
+    desk.z.einst_liste = {"4", "Tempo", "60", "Tonraum", "2"};
+    desk.run();
+    const auto name = [&](int scale) { return desk.programm.katalog.skal_name[0][scale % 3]; };
 
-    drill.next();
-    const int first = drill.task().skala_nr;
-    drill.wait(2300);
-    drill.answer((first + 1) % 3);
-    drill.wait(650);
-    drill.click("wieder");
-    drill.wait(drill.taskLength() + 500);
-    drill.answerRight();
-    drill.next();
-    const std::string second = name(drill.task().skala_nr);
-    const std::string file = drill.drill.xml.datei();
-    drill.click("zurueck");
+    desk.next();
+    const int first = desk.task().skala_nr;
+    desk.wait(2300);
+    desk.answer((first + 1) % 3);
+    desk.wait(650);
+    desk.click("wieder");
+    desk.wait(desk.taskLength() + 500);
+    desk.answerRight();
+    desk.next();
+    const std::string second = name(desk.task().skala_nr);
+    const std::string file = desk.drill.xml.datei();
+    desk.click("zurueck");
 
     pugi::xml_document document;
     ASSERT_TRUE(document.load_file(file.c_str()));
     const auto property = [](const std::string& text) { return "property(" + text + " )"; };
     EXPECT_EQ(told(document.child("exercise")),
               "exercise(properties(programm:ZEPHA9 ukey:u7 exercise:W154 timestamp:" +
-                  drill.loop.now().dateAndTime() +
+                  desk.loop.now().dateAndTime() +
                   " description:Untersuchung: W492 )settings(setting(Tempo 60 )setting(Tonraum 2 ))"
                   "lessons(lesson(properties(" +
                   property("Tonskala " + name(first)) + ")answers(answer(lfd:1 " +

@@ -1,14 +1,14 @@
-#include "support/fake_words.h"
+#include "rehearsal/number_words.h"
 
 #include <stdexcept>
 
-namespace support {
+namespace rehearsal {
 
 namespace {
 
 class Words final : public core::SprachObjekt {
   public:
-    Words(const FakeWords& list, std::string letter) : list_(list), letter_(std::move(letter)) {}
+    Words(const NumberWords& list, std::string letter) : list_(list), letter_(std::move(letter)) {}
     std::string Wort(const std::string& key) override {
         if (list_.lacking.contains(key) || key.empty() || key.back() != 's' ||
             key.find(' ') != std::string::npos)
@@ -18,16 +18,16 @@ class Words final : public core::SprachObjekt {
     }
 
   private:
-    const FakeWords& list_;
+    const NumberWords& list_;
     std::string letter_;
 };
 
 }  // namespace
 
-std::unique_ptr<core::SprachObjekt> FakeWords::erzeugen(const std::string& klasse) {
+std::unique_ptr<core::SprachObjekt> NumberWords::erzeugen(const std::string& klasse) {
     if (klasse == "melvoralang.de") return std::make_unique<Words>(*this, "W");
     if (klasse == "melvoralang.en") return std::make_unique<Words>(*this, "E");
     return nullptr;
 }
 
-}  // namespace support
+}  // namespace rehearsal

@@ -1,7 +1,7 @@
 #pragma once
 #include <filesystem>
 
-namespace sim {
+namespace rehearsal {
 
 /// A fresh folder that lives as long as this. @throws std::runtime_error when it can't be made.
 class TempFolder {
@@ -16,4 +16,4 @@ class TempFolder {
     std::filesystem::path path_;
 };
 
-}  // namespace sim
+}  // namespace rehearsal

@@ -1,35 +1,38 @@
-#include "support/fake_host.h"
+#include "rehearsal/memory_host.h"
 
-namespace support {
+namespace rehearsal {
 
 namespace {
 
 class Link final : public core::HostPort {
   public:
-    explicit Link(FakeHost& host) : host_(host) {}
+    explicit Link(MemoryHost& host) : host_(host) {}
     bool request(const std::string& key, const core::Value& argument,
                  core::Value& result) override {
         return host_.answer(key, argument, result);
     }
 
   private:
-    FakeHost& host_;
+    MemoryHost& host_;
 };
 
 }  // namespace
 
-std::unique_ptr<core::HostPort> FakeHost::connect() {
-    return present ? std::make_unique<Link>(*this) : nullptr;
+core::Host::Factory MemoryHost::factory() {
+    return [this]() -> std::unique_ptr<core::HostPort> {
+        if (!present) return nullptr;
+        return std::make_unique<Link>(*this);
+    };
 }
 
-bool FakeHost::answer(const std::string& key, const core::Value& argument, core::Value& result) {
+bool MemoryHost::answer(const std::string& key, const core::Value& argument, core::Value& result) {
     requests.push_back(key);
     if (gone || failing.contains(key)) throw core::HostGone("no answer");
     if (refused.contains(key)) {
         if (!reason.empty()) result = reason;
         return false;
     }
-    const std::string record = argument.at(0).text() + "/" + argument.at(1).text();
+    const auto record = [&] { return argument.at(0).text() + "/" + argument.at(1).text(); };
     if (key == "APP") result = core::Value::Array{"", started};
     if (key == "MIDI" && midi) result = *midi;
     if (key == "MIDI") return midi.has_value();
@@ -41,10 +44,12 @@ bool FakeHost::answer(const std::string& key, const core::Value& argument, core:
             gone = true;
             throw core::HostGone("gone");
         }
-        records[record] = argument.at(2);
+        records[record()] = argument.at(2);
     }
-    if (key == "READ")
-        result = records.contains(record) ? records.at(record) : core::Value::Array{"", "NIL"};
+    if (key == "READ") {
+        const auto kept = records.find(record());
+        result = kept == records.end() ? core::Value(core::Value::Array{"", "NIL"}) : kept->second;
+    }
     if (key == "LOGERR") {
         faults.push_back(argument);
         return warnsOfErrors;
@@ -52,4 +57,10 @@ bool FakeHost::answer(const std::string& key, const core::Value& argument, core:
     return true;
 }
 
-}  // namespace support
+void MemoryHost::forget() {
+    log.clear();
+    faults.clear();
+    requests.clear();
+}
+
+}  // namespace rehearsal

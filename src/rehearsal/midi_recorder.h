@@ -2,19 +2,17 @@
 #include "form/virtual_time.h"
 #include "sound/midi_output.h"
 
-#include <memory>
 #include <set>
 #include <utility>
 #include <vector>
 
-namespace support {
+namespace rehearsal {
 
 /// A MIDI device with two ports on virtual time. It keeps what was queued and sent, knows which
 /// notes sound, and raises its end event through the loop.
-class RecordingMidi final : public sound::MidiOutput {
+class MidiRecorder final : public sound::MidiOutput {
   public:
-    explicit RecordingMidi(form::VirtualTime& loop);
-    ~RecordingMidi() override;
+    explicit MidiRecorder(form::VirtualTime& loop) : loop_(loop) {}
 
     int deviceCount() override { return 2; }
     sound::MidiDevice device(int id) override;
@@ -47,10 +45,9 @@ class RecordingMidi final : public sound::MidiOutput {
     std::function<void()> volumeSet;           ///< called after each of them
 
   private:
-    struct EndTimer;
     form::VirtualTime& loop_;
     std::int64_t startedAt_ = -1;  ///< -1 while nothing plays
-    std::unique_ptr<EndTimer> end_;
+    form::Connection end_;         ///< of the queue that plays
 };
 
-}  // namespace support
+}  // namespace rehearsal

@@ -1,10 +1,10 @@
-#include "sim/temp_folder.h"
+#include "rehearsal/temp_folder.h"
 
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
 
-namespace sim {
+namespace rehearsal {
 
 namespace {
 
@@ -33,4 +33,4 @@ TempFolder::~TempFolder() {
     std::filesystem::remove_all(path_, ignored);
 }
 
-}  // namespace sim
+}  // namespace rehearsal

@@ -6,12 +6,11 @@
 
 namespace sim {
 
-/// One language, called "Deutsch": the texts of a file, or words that tell their number ("W354").
-class Words final : public core::SprachListe {
+/// One language, called "Deutsch": the texts of a file.
+class FileWords final : public core::SprachListe {
   public:
-    Words() = default;
     /// @param file in Qt Linguist's format. @throws UsageError when it cannot be read.
-    explicit Words(const std::string& file);
+    explicit FileWords(const std::string& file);
 
     std::vector<Sprache> sprachen() override { return {{"Deutsch", "de"}}; }
     std::unique_ptr<core::SprachObjekt> erzeugen(const std::string& klasse) override;

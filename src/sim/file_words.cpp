@@ -1,4 +1,4 @@
-#include "sim/words.h"
+#include "sim/file_words.h"
 
 #include "sim/usage_error.h"
 
@@ -8,15 +8,9 @@ namespace sim {
 
 namespace {
 
-struct NumberWords final : core::SprachObjekt {
-    std::string Wort(const std::string& key) override {
-        return "W" + key.substr(0, key.size() - 1);
-    }
-};
-
-class FileWords final : public core::SprachObjekt {
+class Words final : public core::SprachObjekt {
   public:
-    explicit FileWords(const std::map<std::string, std::string>& texts) : texts_(texts) {}
+    explicit Words(const std::map<std::string, std::string>& texts) : texts_(texts) {}
     std::string Wort(const std::string& key) override { return texts_.at(key); }
 
   private:
@@ -25,7 +19,7 @@ class FileWords final : public core::SprachObjekt {
 
 }  // namespace
 
-Words::Words(const std::string& file) {
+FileWords::FileWords(const std::string& file) {
     pugi::xml_document document;
     const auto outcome = document.load_file(file.c_str());
     if (!outcome) throw UsageError(file + ": " + outcome.description());
@@ -34,9 +28,8 @@ Words::Words(const std::string& file) {
     if (texts_.empty()) throw UsageError(file + ": no words in it");
 }
 
-std::unique_ptr<core::SprachObjekt> Words::erzeugen(const std::string&) {
-    if (texts_.empty()) return std::make_unique<NumberWords>();
-    return std::make_unique<FileWords>(texts_);
+std::unique_ptr<core::SprachObjekt> FileWords::erzeugen(const std::string&) {
+    return std::make_unique<Words>(texts_);
 }
 
 }  // namespace sim

@@ -5,11 +5,11 @@
 #include <set>
 #include <string>
 
-namespace support {
+namespace rehearsal {
 
 /// Two languages whose word for a number tells the number: "W354" in "Deutsch", "E354" in
 /// "English".
-struct FakeWords final : core::SprachListe {
+struct NumberWords final : core::SprachListe {
     std::set<std::string> lacking;             ///< keys such as "354s" that both languages lack
     std::map<std::string, std::string> texts;  ///< keys whose word is another
 
@@ -17,4 +17,4 @@ struct FakeWords final : core::SprachListe {
     std::unique_ptr<core::SprachObjekt> erzeugen(const std::string& klasse) override;
 };
 
-}  // namespace support
+}  // namespace rehearsal

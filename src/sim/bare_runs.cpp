@@ -1,0 +1,137 @@
+#include "sim/bare_runs.h"
+
+#include "base/runtime_error.h"
+#include "sim/seeds.h"
+#include "sim/usage_error.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <span>
+
+namespace sim {
+
+namespace {
+
+using engine::AufgZustand;
+
+/// What the options ask for that a bare run has not. @throws UsageError
+void refuse(const Options& options) {
+    const auto needsForms = [](bool asked, const char* option) {
+        if (asked) throw UsageError(std::string("--bare has no ") + option);
+    };
+    needsForms(!options.trace.empty(), "trace: --trace needs the forms");
+    needsForms(!options.record.empty(), "record: --record needs the forms");
+    needsForms(!options.words.empty(), "words: --words needs the forms");
+    needsForms(options.throughSetup, "forms to go through: --through-setup");
+}
+
+bool offered(const core::Zustand& z, int scale) {
+    if (z.ska_ausw == 0) return true;
+    for (int i = 0; i <= z.einzelAnz; ++i)
+        if (std::abs(z.einzel_wahl[i]) == scale + 1) return true;
+    return false;
+}
+
+}  // namespace
+
+BareRuns::BareRuns(const Options& options, engine::Protokoll* protocol)
+    : options_((refuse(options), options)),
+      exercise_(exercise(options.form)),
+      state_(exerciseState(options)),
+      protocol_(protocol),
+      seeds_(seeds(options.seed)),
+      learnersChance_(learnersSeed(options.seed)),
+      time_(static_cast<float>(options.learner.thinkingTime()) / 1000) {}
+
+Outcome BareRuns::run() {
+    Outcome outcome;
+    z_ = state_;
+    if (!saved_.isEmpty()) z_.uebungsmodus = core::modus::fortsetzung;
+    scores_.vorbereiten();
+    engine::Lauf run(z_, rnd_, scores_, exercise_, protocol_);
+    const int limit = options_.tasks == 0 ? endless : options_.tasks;
+    try {
+        begin(run);
+        while (!run.zuEnde() && outcome.tasks < limit) {
+            run.ziehen();
+            ++outcome.tasks;
+            outcome.rightFirst += task(run) ? 1 : 0;
+        }
+        const Ending left = options_.tasks == 0 ? Ending::Endless : Ending::Left;
+        outcome.ending = endingOf(run).value_or(left);
+    } catch (const base::RuntimeError& fault) {
+        outcome.fault = fault.what();
+    }
+    outcome.weigh(run, z_);
+    const bool keeps = options_.keep && outcome.ending == Ending::Left && outcome.bar;
+    saved_ = keeps ? core::Value(run.sichern()) : core::Value();
+    return outcome;
+}
+
+void BareRuns::begin(engine::Lauf& run) {
+    const int tones = core::katalog::kategorie(z_.skal_typ).tonAnz;
+    run.beginnen({.vorfuehrung = exercise_.klingt() ? int(z_.tempo_dauer[z_.tempoIdx]) * tones : 0},
+                 seeds_);
+    if (!saved_.isEmpty()) run.aufnehmen(saved_);
+}
+
+/// Answers the task until it is closed. @return whether it was right at once.
+bool BareRuns::task(engine::Lauf& run) {
+    openCount_ = 0;
+    for (int scale = 0; scale <= z_.skal_anz; ++scale)
+        if (offered(z_, scale)) base::at(open_, openCount_++) = scale;
+    standing_ = {};
+    handedIn_ = false;
+    clock_ = 0;
+    run.antwortOffen(clock_);
+    bool rightFirst = false;
+    AufgZustand state = AufgZustand::Weiter;
+    for (int tries = 0; state == AufgZustand::Weiter; ++tries) {
+        think();
+        const engine::Antwort answer =
+            exercise_.schriftlich() ? written(run, tries) : named(run, tries);
+        rightFirst = tries == 0 && answer.richtig;
+        state = run.werten(answer, clock_);
+    }
+    return rightFirst;
+}
+
+/// A wrong answer cannot be given again.
+engine::Antwort BareRuns::named(const engine::Lauf& run, int tries) {
+    const engine::Aufgabe& a = run.aufgabe();
+    const auto open = std::span(open_).first(static_cast<std::size_t>(openCount_));
+    const int scale = options_.learner.answer({a.skala_nr, tries, open}, learnersChance_);
+    openCount_ = static_cast<int>(std::ranges::remove(open, scale).begin() - open.begin());
+    return engine::benannt(a, scale);
+}
+
+/// What was handed in once is heard again before it is handed in as it stands, or is changed where
+/// nothing sounds.
+engine::Antwort BareRuns::written(engine::Lauf& run, int tries) {
+    const engine::Aufgabe& a = run.aufgabe();
+    const auto write = [&](Writing how) {
+        const Accidentals wanted = accidentals(a, how, learnersChance_);
+        if (wanted != standing_) handedIn_ = false;
+        standing_ = wanted;
+    };
+    const auto asItDoes = [&] {
+        write(options_.learner.writes({a.skala_nr, tries, {}}, learnersChance_));
+    };
+    asItDoes();
+    while (handedIn_ && !exercise_.klingt()) write(Writing::Wrong);
+    while (handedIn_) {
+        run.wiederholt(clock_);
+        handedIn_ = false;
+        run.antwortOffen(clock_);
+        think();
+        asItDoes();
+    }
+    handedIn_ = true;
+    return engine::geschrieben(a, [&](int place) {
+        const core::Ton letter = core::ohneVorzeichen(a.tonAn(place));
+        const int accidental = base::at(standing_, place);
+        return core::Ton{letter.midi + accidental, letter.qz + 7 * accidental};
+    });
+}
+
+}  // namespace sim
