@@ -11,8 +11,8 @@ namespace engine {
 float ZeitStrafeBerechnen(float AntwDau, i16 zeit_faktor) {
     const auto grenze = static_cast<float>(zeit_faktor);
     if (AntwDau <= grenze) return 0;
-    return static_cast<float>(base::floorInt(static_cast<double>(AntwDau - grenze)) / 2) / 10.0F +
-           1.0F;
+    const int ueber = base::floorInt(static_cast<double>(AntwDau - grenze)) / 2;
+    return static_cast<float>(ueber) / 10.0F + 1.0F;
 }
 
 i16 erlaubteFehler(const core::Zustand& z) {

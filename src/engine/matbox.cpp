@@ -88,9 +88,9 @@ i16 Matbox::freierCode() {
 void Matbox::MatFuellen() {
     for (int i = 1; i <= matboxanz_; ++i) {
         const i16 code = i <= potSkala_ ? fuellCode(i) : freierCode();
-        matbox_(i, spalteCode) = code;
+        matbox_(i, poolCode) = code;
         if (mitTonart_)
-            matbox_(i, spalteTonart) = tonarten_.Ziehen(std::abs(int(code)) - 1, matboxanz_, rnd_);
+            matbox_(i, poolTonart) = tonarten_.Ziehen(std::abs(int(code)) - 1, matboxanz_, rnd_);
     }
     for (int i = 1; i <= potSkala_; ++i) wertung_.AnwesenheitMerken(code(i));
 }
@@ -126,7 +126,7 @@ void Matbox::MatAusBox(i16 versatz) {
     int k = 0;
     for (int i = 1; i <= potSkala_; ++i) {
         const int anzahl = z.mathaeufgk_box(i, spalteGewicht) + versatz;
-        for (int j = 0; j < anzahl; ++j) matbox_(++k, spalteCode) = z.mathaeufgk_box(i, spalteCode);
+        for (int j = 0; j < anzahl; ++j) matbox_(++k, poolCode) = z.mathaeufgk_box(i, spalteCode);
     }
 }
 
@@ -190,10 +190,10 @@ i16 Matbox::Ziehen(bool nutzeBox, Aufgabe& a) {
     return zeile;
 }
 
-void Matbox::verbrauchen(i16 verbraucht) {
+void Matbox::verbrauchen(i16 gezogen) {
     for (int i = 1; i <= matboxanz_; ++i)
-        if (code(i) == verbraucht) {
-            matbox_(i, spalteCode) = 0;
+        if (code(i) == gezogen) {
+            matbox_(i, poolCode) = 0;
             return;
         }
 }

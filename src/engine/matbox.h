@@ -42,12 +42,12 @@ class Matbox {
     /// @return row of the pool, 0 after a plain draw.
     i16 Ziehen(bool nutzeBox, Aufgabe& a);
     /// Takes the first entry with that code out of the bag.
-    void verbrauchen(i16 code);
+    void verbrauchen(i16 gezogen);
     /// Key of a row of the bag, in fifths from C.
-    i16 tonart(int zeile) const { return matbox_(zeile, spalteTonart); }
+    i16 tonart(int zeile) const { return matbox_(zeile, poolTonart); }
 
     /// Signed scale code of a row of the pool, 1..matboxanz; 0 when it is used up.
-    i16 code(int zeile) const { return matbox_(zeile, spalteCode); }
+    i16 code(int zeile) const { return matbox_(zeile, poolCode); }
     /// Rows of the pool.
     i16 matboxanz() const { return matboxanz_; }
     /// Number of different scale codes of the run.
@@ -59,7 +59,8 @@ class Matbox {
     int prozent() const;
 
   private:
-    static constexpr int spalteCode = 0, spalteTonart = 1;
+    /// Columns of the pool.
+    static constexpr int poolCode = 0, poolTonart = 1;
 
     i16 neuerCode(int i) const;
     i16 fuellCode(int zeile) const;

@@ -54,7 +54,7 @@ void Midi::SetzeKlangfarbe(i16 KFarbe, i16 KChannel) {
 }
 
 void Midi::SetzeKlangfarben(const base::FixedArray<i16, 9>& patch) {
-    for (int kanal = 0; kanal < patch.size(); ++kanal) SetzeKlangfarbe(patch[kanal], kanal);
+    for (int kanal = 0; const i16 klangfarbe : patch) SetzeKlangfarbe(klangfarbe, kanal++);
 }
 
 void Midi::MidiReset() {

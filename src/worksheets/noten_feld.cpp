@@ -124,7 +124,7 @@ void NotenFeld::LoesungZeigen(const engine::Aufgabe& a) {
 
 /// The notes in words, and what stands under the hand.
 std::string NotenFeld::beschreibung() const {
-    const std::string text = bild_.beschreibung();
+    std::string text = bild_.beschreibung();
     const i16 hier = tasten_.spalte();
     const staff::Spalte& note = bild_.zeile.NotSelb(hier);
     if (!note.hatNote()) return text;
