@@ -16,7 +16,7 @@ function(module name)
   target_link_libraries(${name} ${scope} ${M_USES} ${M_LIBRARIES})
 endfunction()
 
-# One test binary per folder, linked with that folder and the shared fakes.
+# One test binary per folder, linked with that folder.
 #
 #   module_tests(engine SOURCES melodik_test.cpp ... [LIBRARIES ...] [TIMEOUT seconds])
 function(module_tests name)
