@@ -39,6 +39,8 @@ TITLES = {
     "tasks/write_named": "simulated tasks, named and written",
     "tasks/write_trainings": "simulated tasks, trainings of writing",
     "tasks/identify_seen": "simulated tasks, seen and named",
+    "tasks/bare_trainings": "simulated tasks without forms, trainings",
+    "tasks/bare_write_trainings": "simulated tasks without forms, trainings of writing",
     "record/save_10000_lessons": "saving a record of 10,000 lessons",
 }
 

@@ -25,7 +25,7 @@ function(module_headers target folder scope)
   target_include_directories(${target} ${scope} ${alone})
 endfunction()
 
-# One test binary per folder, linked with that folder and the shared fakes.
+# One test binary per folder, linked with that folder.
 #
 #   module_tests(engine SOURCES melodik_test.cpp ... [LIBRARIES ...] [TIMEOUT seconds])
 function(module_tests name)

@@ -28,9 +28,26 @@ base::Moment VirtualTime::now() const {
 }
 
 Connection VirtualTime::after(int milliseconds, std::function<void()> call) {
-    auto held = std::make_shared<std::function<void()>>(std::move(call));
+    if (spare_.empty()) spare_.push_back(std::make_shared<std::function<void()>>());
+    Call held = std::move(spare_.back());
+    spare_.pop_back();
+    *held = std::move(call);
     awaited_.push_back({held, elapsed_ + std::max(1, milliseconds)});
     return Connection(std::move(held));
+}
+
+std::vector<VirtualTime::Awaited>::iterator VirtualTime::first() {
+    std::size_t found = 0;
+    for (std::size_t i = 0; i < awaited_.size();) {
+        if (awaited_[i].call.use_count() == 1) {  // its connection has gone
+            spare_.push_back(std::move(awaited_[i].call));
+            awaited_.erase(awaited_.begin() + static_cast<std::ptrdiff_t>(i));
+            continue;
+        }
+        if (awaited_[i].due < awaited_[found].due) found = i;
+        ++i;
+    }
+    return awaited_.begin() + static_cast<std::ptrdiff_t>(found);
 }
 
 bool VirtualTime::step(std::int64_t limit) {
@@ -40,14 +57,13 @@ bool VirtualTime::step(std::int64_t limit) {
         call();
         return true;
     }
-    std::erase_if(awaited_, [](const Awaited& a) { return a.call.expired(); });
-    // Of calls due together the one asked for first, so that they take turns.
-    const auto next = std::ranges::min_element(awaited_, {}, &Awaited::due);
+    const auto next = first();
     if (next == awaited_.end() || next->due > limit) return false;
     elapsed_ = std::max(elapsed_, next->due);
-    const auto call = next->call.lock();
+    const Call call = std::move(next->call);
     awaited_.erase(next);
     (*call)();
+    if (call.use_count() == 1) spare_.push_back(call);
     return true;
 }
 

@@ -33,16 +33,20 @@ class VirtualTime final : public MessageLoop {
     std::int64_t elapsed() const { return elapsed_; }
 
   private:
+    using Call = std::shared_ptr<std::function<void()>>;
     struct Awaited {
-        std::weak_ptr<std::function<void()>> call;
+        Call call;  ///< held by its connection too, until that has gone
         std::int64_t due;
     };
+    /// The call due first, of those due together the one asked for first; `end` without any.
+    std::vector<Awaited>::iterator first();
     /// Lets the next thing due up to `limit` happen. @return false when there is none.
     bool step(std::int64_t limit);
 
     base::Moment start_;
     std::int64_t elapsed_ = 0;
     std::vector<Awaited> awaited_;  ///< in the order of asking
+    std::vector<Call> spare_;       ///< made or forgotten, to be used again
     std::deque<std::function<void()>> posted_;
 };
 

@@ -27,7 +27,7 @@ const char* const helpText = R"(zepha9-sim: the drill without a screen, with a s
                        (writes what sounds alike)
   --keep               a training that is left is saved, and the next run continues it
   --bare               mass runs without forms, sound, clock and record: the same tasks and answers,
-                       ten times as fast; not with --trace, --record, --words, --through-setup
+                       several times as fast; not with --trace, --record, --words, --through-setup
   --through-setup      take the whole road: start form, set-up form, worksheet, result form
   --words FILE         words of a language (.ts); without it a word tells its number
   --trace FILE         everything that happens, as JSON lines; "-" for standard output
