@@ -101,7 +101,7 @@ engine::Antwort BareRuns::named(const engine::Lauf& run, int tries) {
     const engine::Aufgabe& a = run.aufgabe();
     const auto open = std::span(open_).first(static_cast<std::size_t>(openCount_));
     const int scale = options_.learner.answer({a.skala_nr, tries, open}, learnersChance_);
-    openCount_ = static_cast<int>(std::ranges::remove(open, scale).begin() - open.begin());
+    openCount_ = static_cast<int>(std::remove(open.begin(), open.end(), scale) - open.begin());
     return engine::benannt(a, scale);
 }
 

@@ -85,11 +85,10 @@ TEST(Answers, EveryChoiceOfScalesCanBeWorkedThroughAndAllowsItsWrongAnswers) {
             desk.category(2);
             desk.z.uebungsmodus = modus;
             desk.z.richtung = row.richtung;
-            desk.z.ska_ausw = 1;
-            desk.z.einzelAnz = row.ascending + row.descending - 1;
-            for (int i = 0; i < row.ascending; ++i) desk.z.einzel_wahl[i] = i + 1;
-            for (int i = 0; i < row.descending; ++i)
-                desk.z.einzel_wahl[row.ascending + i] = -(i + 1);
+            std::vector<int> codes;
+            for (int i = 1; i <= row.ascending; ++i) codes.push_back(i);
+            for (int i = 1; i <= row.descending; ++i) codes.push_back(-i);
+            desk.choose(codes);
             desk.run();
             for (int n = 0; n < 3 && desk.on("CmdNextAufg").usable(); ++n) {
                 desk.next();
