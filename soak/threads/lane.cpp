@@ -1,6 +1,5 @@
 #include "threads/lane.h"
 
-#include "sound/klang.h"
 #include "synth/synth_output.h"
 
 #include <fstream>
@@ -12,6 +11,9 @@ using namespace std::chrono_literals;
 using sound::MidiOutput;
 
 namespace {
+
+/// Channels that a task uses.
+constexpr int channels = decltype(core::Zustand::patch)::size();
 
 /// So long may anything take that must happen in the end, on a busy machine too.
 constexpr auto patience = 25s;
@@ -174,7 +176,7 @@ void Lane::queueTask() {
     const int beat = oneIn(6) ? 2 : 20 + rnd_.below(180);
     const int first = 40 + rnd_.below(40);
     for (int i = 0; i < tones; ++i) {
-        const int channel = tuned ? i % sound::kanaele : 0;
+        const int channel = tuned ? i % channels : 0;
         if (tuned) midi_->MidiPitchBend(channel, rnd_.below(128));
         midi_->MidiNote(first + rnd_.below(3), beat * i, std::max(1, beat * 9 / 10), channel, i);
     }
@@ -183,7 +185,7 @@ void Lane::queueTask() {
 void Lane::present() {
     midi_->MidiReset();
     midi_->Delay(static_cast<float>(rnd_.below(10)));
-    for (int i = 0; i < sound::kanaele; ++i) midi_->SetzeKlangfarbe(rnd_.below(128), i);
+    for (int i = 0; i < channels; ++i) midi_->SetzeKlangfarbe(rnd_.below(128), i);
     midi_->MidiAusblenden();
     queueTask();
     midi_->Delay(static_cast<float>(rnd_.below(10)));
