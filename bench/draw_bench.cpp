@@ -1,4 +1,4 @@
-#include "engine/lauf.h"
+#include "engine/run.h"
 
 #include <benchmark/benchmark.h>
 
@@ -17,21 +17,21 @@ struct Training {
         begin();
     }
     void begin() {
-        run.emplace(z, rnd, wertung, engine::uebungen[0]);
-        run->beginnen({}, [] { return 7; });
+        run.emplace(z, rnd, wertung, engine::exercises[0]);
+        run->begin({}, [] { return 7; });
     }
     void task() {
-        const engine::Aufgabe& a = run->ziehen();
-        run->antwortOffen(0);
-        if (++tasks % 3 == 0) run->werten(engine::benannt(a, (a.skala_nr + 1) % 7), 1);
-        run->werten(engine::benannt(a, a.skala_nr), 1);
-        if (run->zuEnde()) begin();
+        const engine::Task& a = run->draw();
+        run->answerOpen(0);
+        if (++tasks % 3 == 0) run->score(engine::namedAnswer(a, (a.skala_nr + 1) % 7), 1);
+        run->score(engine::namedAnswer(a, a.skala_nr), 1);
+        if (run->ended()) begin();
     }
 
     core::Zustand z;
     base::Rnd rnd{7};
     results::Wertung wertung{z};
-    std::optional<engine::Lauf> run;
+    std::optional<engine::Run> run;
     int tasks = 0;
 };
 
@@ -39,7 +39,7 @@ struct Training {
 void drawAfter(benchmark::State& state) {
     Training training;
     for (int i = 0; i < state.range(0); ++i) training.task();
-    for ([[maybe_unused]] const auto _ : state) benchmark::DoNotOptimize(&training.run->ziehen());
+    for ([[maybe_unused]] const auto _ : state) benchmark::DoNotOptimize(&training.run->draw());
 }
 BENCHMARK(drawAfter)->Name("draw/after_tasks")->Arg(0)->Arg(10)->Arg(1000)->Arg(100000);
 
@@ -54,7 +54,7 @@ BENCHMARK(bareTask)->Name("draw/and_weigh");
 /// The order of a melody.
 void drawMelody(benchmark::State& state) {
     Training training(1);
-    for ([[maybe_unused]] const auto _ : state) benchmark::DoNotOptimize(&training.run->ziehen());
+    for ([[maybe_unused]] const auto _ : state) benchmark::DoNotOptimize(&training.run->draw());
 }
 BENCHMARK(drawMelody)->Name("draw/melody");
 

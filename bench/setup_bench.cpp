@@ -82,7 +82,7 @@ struct Desk : support::Practice {
         mode(chosen);
         button("cmdOK").click();
         while (!running() || !on("CmdNextAufg").usable()) wait(1);
-        if (lauf().matbox().potSkala() != 20) throw std::logic_error("other than 20 rows");
+        if (exerciseRun().pool().potSkala() != 20) throw std::logic_error("other than 20 rows");
     }
 };
 

@@ -1,6 +1,6 @@
 // The staff of a written task: its strokes, and how long a drop takes to be seen.
 #include "qt/staff_widget.h"
-#include "staff/pixelbild.h"
+#include "staff/pixel_grid.h"
 #include "staff/sheet.h"
 
 #include <QApplication>
@@ -17,18 +17,18 @@ void write(Sheet& sheet) {
     sheet.showTask();
     sheet.staff.GrenzLinienMalen();
     for (int c = 1; c < 7; ++c)
-        sheet.drop(c, staff::quelle::mit(staff::vorzeichen(sheet.notes[c].qz)));
+        sheet.drop(c, staff::source::with(staff::accidental(sheet.notes[c].qz)));
 }
 
 /// Lines, clef, notes, signs and limits of a new task, down to the pixels.
 void rasterTask(benchmark::State& state) {
     Sheet sheet(6, 0, 60);
     for ([[maybe_unused]] const auto _ : state) {
-        sheet.staff.NotenzeileAufbauen(8, sheet.staff.umfang());
+        sheet.staff.NotenzeileAufbauen(8, sheet.staff.range());
         write(sheet);
-        staff::Pixelbild pixels(362, 144);
-        sheet.staff.PicB(0).zeigen(pixels);
-        benchmark::DoNotOptimize(pixels.an(60, 80));
+        staff::PixelGrid pixels(362, 144);
+        sheet.staff.PicB(0).replay(pixels);
+        benchmark::DoNotOptimize(pixels.at(60, 80));
     }
 }
 BENCHMARK(rasterTask)->Name("staff/task_on_pixels")->Unit(benchmark::kMicrosecond);
@@ -68,7 +68,7 @@ void dropToPaint(benchmark::State& state) {
     int accidental = 0;
     for ([[maybe_unused]] const auto _ : state) {
         accidental = 1 - accidental;
-        staff.sheet.drop(3, staff::quelle::mit(accidental));
+        staff.sheet.drop(3, staff::source::with(accidental));
         staff.paint();
     }
 }
@@ -77,14 +77,14 @@ BENCHMARK(dropToPaint)->Name("staff/drop_to_paint")->Unit(benchmark::kMillisecon
 /// From the pointer's step into the next column to the painted preview there.
 void dragOverToPaint(benchmark::State& state) {
     LargeStaff staff;
-    staff::Notenzeile& line = staff.sheet.staff;
-    const form::Control& source = staff.sheet.palette.NotP(staff::quelle::mit(-2));
+    staff::Staff& line = staff.sheet.staff;
+    const form::Control& source = staff.sheet.palette.NotP(staff::source::with(-2));
     const int s = line.SchlZ();
     int column = 1;
     for ([[maybe_unused]] const auto _ : state) {
         column = column % 6 + 1;
-        const auto x = static_cast<float>(line.lage().x(column));
-        line.PicB(s).ueber({source, x, 80}, staff::ZugZustand::Ueber);
+        const auto x = static_cast<float>(line.layout().x(column));
+        line.PicB(s).dragOver({source, x, 80}, staff::DragPhase::Over);
         staff.paint();
     }
 }

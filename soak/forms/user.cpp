@@ -1,7 +1,7 @@
 #include "forms/user.h"
 
 #include "form/controls.h"
-#include "staff/noteneingabe.h"
+#include "staff/note_entry.h"
 
 #include <array>
 #include <utility>
@@ -75,7 +75,7 @@ User::User(drill::Drill& drill, form::VirtualTime& loop, Answers& answers, Watch
     : drill_(drill), loop_(loop), answers_(answers), watch_(watch), chance_(chance), tally_(tally) {
     form::Forms& forms = drill.programm.forms;
     made_ = forms.made.connect([this](form::Form& form) {
-        if (auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form)) seat(*sheet);
+        if (auto* sheet = dynamic_cast<worksheets::Worksheet*>(&form)) seat(*sheet);
         if (form.name() == "testergebnis" && pupil_) pupil_->readResult(form, [] {});
     });
     gone_ = forms.gone.connect([this](form::Form& form) {
@@ -86,14 +86,14 @@ User::User(drill::Drill& drill, form::VirtualTime& loop, Answers& answers, Watch
     plan();
 }
 
-void User::seat(worksheets::Arbeitsblatt& sheet) {
+void User::seat(worksheets::Worksheet& sheet) {
     sheet_ = &sheet;
-    turns_ = sheet.ereignis.connect([this](worksheets::Arbeitsblatt::Ereignis now) { turn(now); });
+    turns_ = sheet.turn.connect([this](worksheets::Worksheet::Turn now) { turn(now); });
 }
 
-void User::turn(worksheets::Arbeitsblatt::Ereignis turn) {
-    using enum worksheets::Arbeitsblatt::Ereignis;
-    if (turn == LaufBereit && !leaving_ && oncePer(chance_, 2)) {
+void User::turn(worksheets::Worksheet::Turn turn) {
+    using enum worksheets::Worksheet::Turn;
+    if (turn == RunReady && !leaving_ && oncePer(chance_, 2)) {
         learners_.push_back(std::make_unique<sim::Learner>(learnerKind(chance_)));
         pupils_.push_back(
             std::make_unique<sim::Pupil>(loop_, *learners_.back(), chance_.below(1 << 20)));
@@ -104,7 +104,7 @@ void User::turn(worksheets::Arbeitsblatt::Ereignis turn) {
     }
     if (!pupil_) return;
     pupil_->notice(turn);
-    if (turn == Geschlossen && oncePer(chance_, 25)) standUp();
+    if (turn == Closed && oncePer(chance_, 25)) standUp();
 }
 
 void User::standUp() {
@@ -171,8 +171,8 @@ void User::use(form::Form& form) {
         return;
     }
     if (!form.enabled()) return;
-    auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form);
-    if (sheet && sheet->lauf().uebung().schriftlich()) {
+    auto* sheet = dynamic_cast<worksheets::Worksheet*>(&form);
+    if (sheet && sheet->run().exercise().isWritten()) {
         const int way = chance_.below(10);
         if (way < 4) return drag(*sheet);
         if (way < 6) return writeByKey(*sheet);
@@ -242,51 +242,51 @@ void User::control(form::Form& form, form::Control& control) {
 
 /// An accidental is carried over the staff, and dropped somewhere: while it is carried, time
 /// passes.
-void User::drag(worksheets::Arbeitsblatt& sheet) {
+void User::drag(worksheets::Worksheet& sheet) {
     const form::Control* field =
-        sheet.find(staff::quelle::feld, chance_.below(staff::quelle::anzahl));
+        sheet.find(staff::source::control, chance_.below(staff::source::count));
     if (!field->usable()) return;
-    staff::Notenzeile& staff = *sheet.notenzeile();
-    staff::Blatt& target = staff.PicB(staff.SchlZ());
+    staff::Staff& staff = *sheet.staff();
+    staff::Canvas& target = staff.PicB(staff.SchlZ());
     const std::string name = sheet.name();
     const auto there = [&] {
         return drill_.programm.forms.loaded(name) == &sheet && target.usable() && field->usable();
     };
     const bool aims = !oncePer(chance_, 4);
     const auto place = [&] {
-        const int width = target.lage().breite, height = target.lage().hoehe;
+        const int width = target.bounds().width, height = target.bounds().height;
         float x = static_cast<float>(chance_.below(width + 80) - 40);
         float y = static_cast<float>(chance_.below(height + 80) - 40);
         if (aims) {
             const int column = chance_.below(staff.tonAnz());
-            x = static_cast<float>(staff.lage().x(column) + chance_.below(30) - 15);
+            x = static_cast<float>(staff.layout().x(column) + chance_.below(30) - 15);
             y = static_cast<float>(int(staff.NotSelb(column).y())) + chance_.R() * 40 - 20;
         }
-        return staff::Zug{*field, x, y};
+        return staff::Drag{*field, x, y};
     };
-    using enum staff::ZugZustand;
+    using enum staff::DragPhase;
     tally_.note("drags " + field->id());
-    target.ueber(place(), Betreten);
+    target.dragOver(place(), Enter);
     for (int i = chance_.below(4); i > 0; --i) {
         loop_.advance(oncePer(chance_, 20) ? chance_.below(15000) : chance_.below(60));
         if (!there()) return;
-        target.ueber(place(), Ueber);
+        target.dragOver(place(), Over);
     }
-    if (oncePer(chance_, 6)) return target.ueber(place(), Verlassen);
+    if (oncePer(chance_, 6)) return target.dragOver(place(), Leave);
     const auto end = place();
-    tally_.reached["drops refused"] += target.wuerdeAblehnen(end) ? 1 : 0;
+    tally_.reached["drops refused"] += target.wouldRefuse(end) ? 1 : 0;
     ++tally_.reached["drops"];
-    target.ablegen(end);
+    target.drop(end);
 }
 
-void User::writeByKey(worksheets::Arbeitsblatt& sheet) {
-    staff::Blatt& holder = sheet.notenzeile()->PicBNot;
+void User::writeByKey(worksheets::Worksheet& sheet) {
+    staff::Canvas& holder = sheet.staff()->PicBNot;
     if (!holder.usable()) return;
-    constexpr int keys = static_cast<int>(staff::Schreibtaste::Fuenf) + 1;
-    const auto key = static_cast<staff::Schreibtaste>(int(chance_.below(keys)));
-    if (key == staff::Schreibtaste::Ablegen && !holder.nimmtEnter()) return;
+    constexpr int keys = static_cast<int>(staff::WritingKey::Five) + 1;
+    const auto key = static_cast<staff::WritingKey>(int(chance_.below(keys)));
+    if (key == staff::WritingKey::Drop && !holder.takesEnter()) return;
     ++tally_.reached["keys on the staff"];
-    holder.taste(key);
+    holder.key(key);
 }
 
 void User::key(form::Form& form) {

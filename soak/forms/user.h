@@ -27,12 +27,12 @@ class User {
     form::Form* before();
     void use(form::Form& form);
     void control(form::Form& form, form::Control& control);
-    void drag(worksheets::Arbeitsblatt& sheet);
-    void writeByKey(worksheets::Arbeitsblatt& sheet);
+    void drag(worksheets::Worksheet& sheet);
+    void writeByKey(worksheets::Worksheet& sheet);
     void key(form::Form& form);
     void close(form::Form& form);
-    void seat(worksheets::Arbeitsblatt& sheet);
-    void turn(worksheets::Arbeitsblatt::Ereignis turn);
+    void seat(worksheets::Worksheet& sheet);
+    void turn(worksheets::Worksheet::Turn turn);
     void standUp();
 
     drill::Drill& drill_;
@@ -47,7 +47,7 @@ class User {
     bool leaving_ = false;
     std::string impatient_;  ///< the form that is closed once more
 
-    worksheets::Arbeitsblatt* sheet_ = nullptr;
+    worksheets::Worksheet* sheet_ = nullptr;
     /// Who has the worksheet now, and all that had one: they may be in the middle of a click.
     sim::Pupil* pupil_ = nullptr;
     std::vector<std::unique_ptr<sim::Learner>> learners_;

@@ -33,13 +33,13 @@ void Watch::made(form::Form& form) {
     tally_.law(!ended_, form.name() + " comes after the end");
     if (form.name() == "testergebnis")
         tally_.law(sheet_ && ++results_ == 1, "one result to a run, and none without");
-    auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form);
+    auto* sheet = dynamic_cast<worksheets::Worksheet*>(&form);
     if (!sheet) return;
     tally_.law(sheet_ == nullptr, "two worksheets at a time");
     sheet_ = sheet;
     ready_ = excused_ = false;
     results_ = 0;
-    turns_ = sheet->ereignis.connect([this](Turn now) { turn(now); });
+    turns_ = sheet->turn.connect([this](Turn now) { turn(now); });
 }
 
 void Watch::gone(form::Form& form) {
@@ -51,36 +51,36 @@ void Watch::gone(form::Form& form) {
 
 void Watch::turn(Turn turn) {
     switch (turn) {
-        case Turn::LaufBereit:
+        case Turn::RunReady:
             ready_ = true;
             right_ = base::leadingInt(caption(*sheet_, "zaehler", 0));
             wrong_ = base::leadingInt(caption(*sheet_, "zaehler", 1));
             tasks_ = closed_ = answers_ = clocks_ = 0;
-            seconds_ = sheet_->lauf().stand().restZeit;
+            seconds_ = sheet_->run().standing().restZeit;
             ++tally_.reached["mode " + std::to_string(int(z.uebungsmodus))];
             tally_.law((right_ == 0 && wrong_ == 0) || z.uebungsmodus == core::modus::fortsetzung,
                        "a new run begins with its counters at 0");
             break;
-        case Turn::AufgabeGezogen:
+        case Turn::TaskDrawn:
             ++tasks_;
             ++tally_.reached["tasks"];
-            tally_.law(sheet_->lauf().aufgabe().skala_nr <= z.skal_anz, "a scale of the category");
+            tally_.law(sheet_->run().task().skala_nr <= z.skal_anz, "a scale of the category");
             break;
-        case Turn::Geantwortet:
+        case Turn::Answered:
             ++answers_;
-            ++(sheet_->lauf().letzteAntwort().richtig ? right_ : wrong_);
+            ++(sheet_->run().lastAnswer().right ? right_ : wrong_);
             ++tally_.reached["answers"];
             break;
-        case Turn::Geschlossen:
+        case Turn::Closed:
             ++closed_;
             ++tally_.reached["tasks closed"];
             break;
-        case Turn::Uhr:
+        case Turn::Clock:
             ++clocks_;
             break;
-        case Turn::AntwortOffen:
+        case Turn::AnswerOpen:
             break;
-        case Turn::LaufEnde:
+        case Turn::RunEnded:
             ++tally_.reached["runs"];
             break;
     }
@@ -114,19 +114,19 @@ void Watch::lookClosely() {
     tally_.law(closed_ <= tasks_ && tasks_ - closed_ <= 1, "one task at a time");
     const int bar = static_cast<const form::Panel*>(sheet_->find("matboxanz"))->floodPercent();
     tally_.law(bar >= 0 && bar <= 100, "the bar shows " + std::to_string(bar));
-    const engine::Lauf& lauf = sheet_->lauf();
-    if (core::imTraining(z) && lauf.aufgZustand() != engine::AufgZustand::TrainingBeendet) {
+    const engine::Run& run = sheet_->run();
+    if (core::isTraining(z) && run.aufgZustand() != engine::TaskState::TrainingOver) {
         int sum = 0;
         for (int i = 1; i < z.mathaeufgk_box.rows(); ++i)
             sum += std::max(0, int(z.mathaeufgk_box(i, 1)));
-        tally_.law(closed_ == 0 || sum == lauf.matbox().matbox_zahl(),
+        tally_.law(closed_ == 0 || sum == run.pool().matbox_zahl(),
                    "weights of " + std::to_string(sum) + ", shown as " +
-                       std::to_string(int(lauf.matbox().matbox_zahl())));
+                       std::to_string(int(run.pool().matbox_zahl())));
     }
-    if (!core::imTest(z)) return;
-    tally_.law(lauf.stand().restAufgaben == lauf.stand().pruefAufgaben - closed_,
+    if (!core::isTest(z)) return;
+    tally_.law(run.standing().restAufgaben == run.standing().pruefAufgaben - closed_,
                "tasks left in an exam");
-    tally_.law(lauf.stand().restZeit == seconds_ - 10 * clocks_, "time left in an exam");
+    tally_.law(run.standing().restZeit == seconds_ - 10 * clocks_, "time left in an exam");
 }
 
 void Watch::result(const results::Testergebnis& form) {

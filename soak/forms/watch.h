@@ -3,7 +3,7 @@
 #include "form/virtual_time.h"
 #include "forms/tally.h"
 #include "results/testergebnis.h"
-#include "worksheets/arbeitsblatt.h"
+#include "worksheets/worksheet.h"
 
 #include <cstdint>
 #include <vector>
@@ -25,10 +25,10 @@ class Watch {
     /// The last form has gone.
     bool ended() const { return ended_; }
     /// The worksheet that is loaded, nullptr for none.
-    worksheets::Arbeitsblatt* sheet() const { return sheet_; }
+    worksheets::Worksheet* sheet() const { return sheet_; }
 
   private:
-    using Turn = worksheets::Arbeitsblatt::Ereignis;
+    using Turn = worksheets::Worksheet::Turn;
 
     void made(form::Form& form);
     void gone(form::Form& form);
@@ -45,7 +45,7 @@ class Watch {
     bool excused_ = false;
     int results_ = 0;        ///< result forms of the run
     std::int64_t seen_ = 0;  ///< when a form was last to be seen
-    worksheets::Arbeitsblatt* sheet_ = nullptr;
+    worksheets::Worksheet* sheet_ = nullptr;
     bool ready_ = false;         ///< the run of the worksheet has begun
     int right_ = 0, wrong_ = 0;  ///< answers, as the counters must show them
     int tasks_ = 0, closed_ = 0, answers_ = 0, clocks_ = 0;

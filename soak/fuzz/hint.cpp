@@ -73,7 +73,7 @@ void expectHtml(std::string_view html) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string html;
     try {
-        html = worksheets::rtfAlsHtml({reinterpret_cast<const char*>(data), size});
+        html = worksheets::rtfToHtml({reinterpret_cast<const char*>(data), size});
     } catch (const std::runtime_error&) {
         return 0;
     }

@@ -42,10 +42,9 @@ void Practice::await() {
 /// Once wrong, if wanted, then right; what is written stays wrong until the task is closed.
 void Practice::answer(bool right) {
     bool closed = false;
-    const form::Connection turns =
-        sheet().ereignis.connect([&](worksheets::Arbeitsblatt::Ereignis turn) {
-            closed = closed || turn == worksheets::Arbeitsblatt::Ereignis::Geschlossen;
-        });
+    const form::Connection turns = sheet().turn.connect([&](worksheets::Worksheet::Turn turn) {
+        closed = closed || turn == worksheets::Worksheet::Turn::Closed;
+    });
     const bool open = ready();
     if (!writes_ && !right) answerWrong();
     if (!writes_) answerRight();
@@ -71,15 +70,16 @@ bool Practice::run(bool keep) {
         return false;
     }
     const bool training = z.uebungsmodus == 1 || z.uebungsmodus == 2;
-    law(!training || weights().size() == static_cast<std::size_t>(int(lauf().matbox().potSkala())),
+    law(!training ||
+            weights().size() == static_cast<std::size_t>(int(exerciseRun().pool().potSkala())),
         "each scale has one weight");
     for (const bool right : {false, true}) {
         if (z.abfrage == 0) on<form::Button>("CmdNextAufg").click();
         await();
         answer(right);
-        law(lauf().matbox().matbox_zahl() >= 0, "weights");
+        law(exerciseRun().pool().matbox_zahl() >= 0, "weights");
     }
-    const bool closed = lauf().stand().schalter_frei;
+    const bool closed = exerciseRun().standing().schalter_frei;
     leave(keep);
     law(!running() && shown(setup_), "the worksheet can be left");
     return closed;

@@ -195,7 +195,7 @@ void Lane::present() {
 void Lane::soundCheck() {
     midi_->MidiReset();
     queueTask();
-    midi_->ausgabe().start();
+    midi_->output().start();
 }
 
 void Lane::replace() {

@@ -6,10 +6,10 @@
 namespace core {
 
 std::string satz(const Zustand& z) {
-    return std::to_string(z.ueb_typ) + (gehoerbildung(z) ? "" : "b");
+    return std::to_string(z.ueb_typ) + (isEarTraining(z) ? "" : "b");
 }
 
-void FortsetzungAnbieten(Programm& p, const std::string& formular, bool vorhanden, int gewaehlt) {
+void offerContinuation(Programm& p, const std::string& formular, bool vorhanden, int gewaehlt) {
     const form::Form* einstellung = p.forms.loaded(formular);
     auto* combo =
         einstellung ? static_cast<form::Combo*>(einstellung->find("training_Combo")) : nullptr;

@@ -12,6 +12,6 @@ std::string satz(const Zustand& z);
 
 /// Offers that continuation on a set-up form, or takes the offer away, and selects the mode
 /// `gewaehlt` through its handler. Does nothing when that form is not loaded.
-void FortsetzungAnbieten(Programm& p, const std::string& formular, bool vorhanden, int gewaehlt);
+void offerContinuation(Programm& p, const std::string& formular, bool vorhanden, int gewaehlt);
 
 }  // namespace core

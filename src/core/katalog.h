@@ -120,7 +120,7 @@ using Leiter = std::array<int, maxToene>;
 
 /// The pattern that a scale is read from, from its own first degree: what the scales of a rotating
 /// category share, or the scale's own.
-constexpr Leiter muster(int skal_typ, int skala_nr) {
+constexpr Leiter pattern(int skal_typ, int skala_nr) {
     if (const Skala* skala = eigenesMuster(skal_typ, skala_nr)) return skala->stufe;
     Leiter gemeinsam{};
     std::ranges::copy(grundmuster(skal_typ), gemeinsam.begin());
@@ -129,8 +129,8 @@ constexpr Leiter muster(int skal_typ, int skala_nr) {
 
 /// Semitones of the scale's tones above its first one. A scale of a rotating category is its
 /// pattern read from degree `skala_nr`, and once more around.
-constexpr Leiter leiter(int skal_typ, int skala_nr) {
-    Leiter toene = muster(skal_typ, skala_nr);
+constexpr Leiter scaleTones(int skal_typ, int skala_nr) {
+    Leiter toene = pattern(skal_typ, skala_nr);
     if (!rotiert(skal_typ)) return toene;
     const Leiter m = toene;
     const int grade = kategorie(skal_typ).tonAnz - 1;
@@ -158,12 +158,12 @@ constexpr int gleich = 0, pythagoreisch = 1, mitteltoenig = 2;
 
 /// Tuning correction of a tone, in the same steps: by its degree in the base scale of its category
 /// in Pythagorean tuning, by its pitch class in meantone.
-constexpr int stimmKorrektur(int stimmung, int skal_typ, int grad, int tonklasse) {
+constexpr int tuningCorrection(int stimmung, int skal_typ, int grad, int pitchClass) {
     switch (stimmung) {
         case stimmung::pythagoreisch:
             return base::at(stufenStimm(skal_typ), grad);
         case stimmung::mitteltoenig:
-            return base::at(mittelTab, tonklasse);
+            return base::at(mittelTab, pitchClass);
         default:
             return 0;
     }

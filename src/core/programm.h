@@ -48,7 +48,7 @@ class Programm {
     const std::string& Wort(wort::Id wort) { return worte.Wort(wort); }
     /// The branch and the exercise type in force, as the start form captions them.
     const std::string& zweig() {
-        return Wort(gehoerbildung(zustand) ? wort::earTraining : wort::musicTheory);
+        return Wort(isEarTraining(zustand) ? wort::earTraining : wort::musicTheory);
     }
     const std::string& uebungsart() {
         return Wort(zustand.ueb_typ == uebung::bestimmen ? wort::identify : wort::write);

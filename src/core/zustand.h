@@ -65,15 +65,15 @@ struct Zustand {
 };
 
 /// Ear training: what is asked sounds.
-inline bool gehoerbildung(const Zustand& z) { return z.theoriewahl == 0; }
+inline bool isEarTraining(const Zustand& z) { return z.theoriewahl == 0; }
 /// A training, new or continued: weights decide what is asked, and it may be kept.
-inline bool imTraining(const Zustand& z) {
+inline bool isTraining(const Zustand& z) {
     return z.uebungsmodus == modus::training || z.uebungsmodus == modus::fortsetzung;
 }
 /// A test or an exam: tasks and time are limited.
-inline bool imTest(const Zustand& z) { return z.uebungsmodus > modus::fortsetzung; }
+inline bool isTest(const Zustand& z) { return z.uebungsmodus > modus::fortsetzung; }
 /// Answers count: in every mode but try-out.
-inline bool gewertet(const Zustand& z) { return z.uebungsmodus > modus::ausprobieren; }
+inline bool isScored(const Zustand& z) { return z.uebungsmodus > modus::ausprobieren; }
 
 /// Slot under which a signed scale code is scored: |code|, for a descending one `skal_anz` + 1
 /// more.

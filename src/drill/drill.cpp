@@ -3,26 +3,26 @@
 #include "results/testergebnis.h"
 #include "setup/datei_formulare.h"
 #include "setup/einstellung.h"
-#include "worksheets/arbeitsblatt.h"
+#include "worksheets/worksheet.h"
 
 namespace drill {
 
-Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiAusgabe)
+Drill::Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& midiOutput)
     : programm(std::move(ports), std::move(aufruf)),
       midi(programm.ports.loop, programm.host),
       wertung(programm.zustand),
       xml(programm),
-      ausgabe(midiAusgabe) {
+      output(midiOutput) {
     form::Forms& forms = programm.forms;
     for (const setup::Zweig zweig : {setup::Zweig::Gehoerbildung, setup::Zweig::Musiklehre})
         forms.add(zweig == setup::Zweig::Gehoerbildung ? "einstellung1" : "einstellung1b",
                   [this, zweig] {
                       return std::make_unique<setup::Einstellung>(programm, wertung, xml, midi,
-                                                                  ausgabe, zweig);
+                                                                  output, zweig);
                   });
-    for (const engine::Uebung& uebung : engine::uebungen)
-        forms.add(uebung.blatt, [this, &uebung] {
-            return std::make_unique<worksheets::Arbeitsblatt>(programm, midi, wertung, xml, uebung);
+    for (const engine::Exercise& exercise : engine::exercises)
+        forms.add(exercise.worksheet, [this, &exercise] {
+            return std::make_unique<worksheets::Worksheet>(programm, midi, wertung, xml, exercise);
         });
     forms.add("frmSave", [this] { return std::make_unique<setup::FrmSave>(programm); });
     forms.add("frmLoad", [this] { return std::make_unique<setup::FrmLoad>(programm); });

@@ -9,7 +9,7 @@ namespace drill {
 /// The whole drill as one value: the program, its sound and its scores, with every form known by
 /// name. It holds no adapter; whoever builds it hands them in and outlives it.
 struct Drill {
-    Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& ausgabe);
+    Drill(core::Ports ports, core::Aufruf aufruf, sound::MidiOutput& output);
     Drill(const Drill&) = delete;
     Drill& operator=(const Drill&) = delete;
 
@@ -17,7 +17,7 @@ struct Drill {
     sound::Midi midi;
     results::Wertung wertung;
     results::Skalaxml xml;
-    sound::MidiOutput& ausgabe;
+    sound::MidiOutput& output;
 };
 
 }  // namespace drill

@@ -24,7 +24,7 @@ enum class Kind {
     Group,
     Menu,
     MenuEntry,
-    Surface,
+    Canvas,
     Timer
 };
 

@@ -45,8 +45,8 @@ QWidget* Binder::operator()(const std::string& name, int index) {
             return picture(static_cast<form::Picture&>(control));
         case Kind::Group:
             return group(static_cast<form::Group&>(control));
-        case Kind::Surface:
-            return surface(static_cast<staff::Blatt&>(control));
+        case Kind::Canvas:
+            return surface(static_cast<staff::Canvas&>(control));
         case Kind::TextBox:
             return textBox(static_cast<form::TextBox&>(control));
         case Kind::Menu:
@@ -99,7 +99,7 @@ QWidget* Binder::picture(form::Picture& control) {
     return widget;
 }
 
-QWidget* Binder::surface(staff::Blatt& control) {
+QWidget* Binder::surface(staff::Canvas& control) {
     auto* widget = new StaffWidget(control, &window_);
     common(control, *widget);
     return widget;

@@ -11,7 +11,7 @@
 class QPushButton;
 
 namespace staff {
-class Blatt;
+class Canvas;
 }
 
 namespace qt {
@@ -54,7 +54,7 @@ class Binder {
     QWidget* listBox(form::ListBox& control);
     QWidget* slider(form::Slider& control);
     QWidget* picture(form::Picture& control);
-    QWidget* surface(staff::Blatt& control);
+    QWidget* surface(staff::Canvas& control);
     QWidget* group(form::Group& control);
     QWidget* menu(form::Menu& control);
     template <class C>

@@ -1,6 +1,6 @@
 #include "qt/picture_widget.h"
 #include "qt/windows.h"
-#include "staff/bild.h"
+#include "staff/scale_picture.h"
 #include "suite/look.h"
 
 #include <QGridLayout>
@@ -60,7 +60,7 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
     tempo->addWidget(bind("lb15", 0));
     tempo->addWidget(bind("temp_Combo"), 1);
     auto* note = static_cast<PictureWidget*>(bind("pic15"));
-    note->setPicture(staff::viertelnote);
+    note->setPicture(staff::quarterNote);
     note->setColour(Qt::transparent);
     note->setFixedSize(note->sizeHint() * suite::scale());
     note->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -1,8 +1,8 @@
 #include "qt/painter_surface.h"
 
-#include "staff/kurve.h"
-#include "staff/linien.h"
-#include "staff/umriss.h"
+#include "staff/curve.h"
+#include "staff/lines.h"
+#include "staff/outline.h"
 
 #include <QPainterPath>
 
@@ -11,7 +11,7 @@
 
 namespace qt {
 
-using staff::Rechteck;
+using staff::Rect;
 
 namespace {
 
@@ -26,14 +26,14 @@ PainterSurface::PainterSurface(QPainter& painter, const QRectF& extent)
     painter_.translate(0.5, 0.5);  // whole numbers are the middles of pixels
 }
 
-void PainterSurface::leeren() { painter_.fillRect(extent_.translated(-0.5, -0.5), Qt::white); }
+void PainterSurface::clear() { painter_.fillRect(extent_.translated(-0.5, -0.5), Qt::white); }
 
-QRectF PainterSurface::onDevice(const Rechteck& r) const {
-    return painter_.deviceTransform().mapRect(QRectF(r.x - 0.5, r.y - 0.5, r.breite, r.hoehe));
+QRectF PainterSurface::onDevice(const Rect& r) const {
+    return painter_.deviceTransform().mapRect(QRectF(r.x - 0.5, r.y - 0.5, r.width, r.height));
 }
 
 /// All pixels of the device that a rectangle touches.
-QRectF PainterSurface::wholePixels(const Rechteck& r) const {
+QRectF PainterSurface::wholePixels(const Rect& r) const {
     constexpr double hair = 1e-6;
     const QRectF device = onDevice(r);
     return {QPointF(std::floor(device.left() + hair), std::floor(device.top() + hair)),
@@ -48,16 +48,14 @@ void PainterSurface::fuellePixel(const QRectF& devicePixels, base::Colour farbe)
     painter_.setRenderHint(QPainter::Antialiasing);
 }
 
-void PainterSurface::fuellen(const Rechteck& r, base::Colour farbe) {
-    fuellePixel(wholePixels(r), farbe);
-}
+void PainterSurface::fill(const Rect& r, base::Colour farbe) { fuellePixel(wholePixels(r), farbe); }
 
 /// Every line is equally thick, and lies where its neighbours expect it.
-void PainterSurface::linie(int x1, int y1, int x2, int y2, base::Colour farbe,
-                           staff::Linienart art) {
+void PainterSurface::line(int x1, int y1, int x2, int y2, base::Colour farbe,
+                          staff::LineStyle style) {
     const double thick = std::max(1.0, std::round(painter_.deviceTransform().m11()));
     const bool level = y1 == y2;
-    staff::jedesStueck(staff::linienRechteck(x1, y1, x2, y2), art, [&](const Rechteck& part) {
+    staff::forEachPiece(staff::lineRect(x1, y1, x2, y2), style, [&](const Rect& part) {
         const QPointF middle = onDevice(part).center();
         QRectF pixels = wholePixels(part);
         if (level) {
@@ -71,9 +69,9 @@ void PainterSurface::linie(int x1, int y1, int x2, int y2, base::Colour farbe,
     });
 }
 
-void PainterSurface::figur(staff::Figur figur, int x, int y, base::Colour farbe) {
+void PainterSurface::shape(staff::Shape shape, int x, int y, base::Colour farbe) {
     QPainterPath path;
-    for (const auto& line : staff::umriss(figur)) {
+    for (const auto& line : staff::outline(shape)) {
         QPolygonF polygon;
         for (const auto& [px, py] : line) polygon << QPointF(x + px, y + py);
         path.addPolygon(polygon);
@@ -83,14 +81,14 @@ void PainterSurface::figur(staff::Figur figur, int x, int y, base::Colour farbe)
 }
 
 /// Both edges of the curve as one shape, with round ends.
-void PainterSurface::kurve(staff::Kurve kurve, int x, int y, base::Colour farbe) {
-    const auto points = staff::kurvenpunkte(kurve);
+void PainterSurface::curve(staff::Curve curve, int x, int y, base::Colour farbe) {
+    const auto points = staff::curvePoints(curve);
     const std::size_t last = points.size() - 1;
     QPolygonF left, right;
     for (std::size_t i = 0; i <= last; ++i) {
         const auto &before = points[i == 0 ? 0 : i - 1], &after = points[std::min(i + 1, last)];
         const double dx = after.x - before.x, dy = after.y - before.y;
-        const double half = points[i].breite / 2 / std::hypot(dx, dy);
+        const double half = points[i].width / 2 / std::hypot(dx, dy);
         const QPointF middle(x + points[i].x, y + points[i].y), across(-dy * half, dx * half);
         left << middle + across;
         right << middle - across;
@@ -102,10 +100,10 @@ void PainterSurface::kurve(staff::Kurve kurve, int x, int y, base::Colour farbe)
     path.closeSubpath();
     painter_.fillPath(path, colour(farbe));
     for (const auto& end : {points.front(), points.back()})
-        scheibe(x + end.x, y + end.y, end.breite / 2, farbe);
+        disc(x + end.x, y + end.y, end.width / 2, farbe);
 }
 
-void PainterSurface::scheibe(double x, double y, double radius, base::Colour farbe) {
+void PainterSurface::disc(double x, double y, double radius, base::Colour farbe) {
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(colour(farbe));
     painter_.drawEllipse(QPointF(x, y), radius, radius);

@@ -1,7 +1,7 @@
 #include "qt/picture_widget.h"
 
 #include "qt/painter_surface.h"
-#include "staff/bild.h"
+#include "staff/scale_picture.h"
 #include "suite/look.h"
 
 #include <QEvent>
@@ -25,12 +25,12 @@ PictureWidget::PictureWidget(QWidget* parent) : QWidget(parent) {
 }
 
 QSize PictureWidget::sizeHint() const {
-    const auto [width, height] = staff::bildGroesse(number_);
+    const auto [width, height] = staff::pictureSize(number_);
     return {width + 2 * besideIt, height + 2 * aboveIt};
 }
 
 QSize PictureWidget::minimumSizeHint() const {
-    const auto [width, height] = staff::bildGroesse(number_);
+    const auto [width, height] = staff::pictureSize(number_);
     return {width * 3 / 4, height * 3 / 4};
 }
 
@@ -55,7 +55,7 @@ const QImage& PictureWidget::drawn() {
     drawn_ = QImage(pixels, QImage::Format_Alpha8);
     drawn_.setDevicePixelRatio(ratio);
     drawn_.fill(0);
-    const auto [wide, high] = staff::bildGroesse(number_);
+    const auto [wide, high] = staff::pictureSize(number_);
     const double scale = staffScale(
         std::min((width() - 2.0 * besideIt) / wide, (height() - 2.0 * aboveIt) / high), ratio);
     QPainter painter(&drawn_);
@@ -63,7 +63,7 @@ const QImage& PictureWidget::drawn() {
                       std::round((height() - high * scale) / 2 * ratio) / ratio);
     painter.scale(scale, scale);
     PainterSurface surface(painter);
-    staff::BildMalen(surface, number_);
+    staff::paintPicture(surface, number_);
     return drawn_;
 }
 

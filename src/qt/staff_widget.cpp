@@ -17,58 +17,58 @@
 
 namespace qt {
 
-using staff::Blatt;
-using staff::Rechteck;
-using staff::Schreibtaste;
-using staff::ZugZustand;
+using staff::Canvas;
+using staff::DragPhase;
+using staff::Rect;
+using staff::WritingKey;
 
 namespace {
 
 constexpr double largestScale = 4;
 constexpr auto dragFormat = "application/x-melvora-accidental";
 
-QRectF area(const Rechteck& r) { return QRectF(r.x, r.y, r.breite, r.hoehe); }
+QRectF area(const Rect& r) { return QRectF(r.x, r.y, r.width, r.height); }
 
-void paintSurface(QPainter& painter, const Blatt& surface) {
-    const Rechteck& place = surface.lage();
+void paintSurface(QPainter& painter, const Canvas& surface) {
+    const Rect& place = surface.bounds();
     painter.save();
     painter.translate(place.x, place.y);
-    painter.setClipRect(QRectF(0, 0, place.breite, place.hoehe));
-    painter.fillRect(QRectF(0, 0, place.breite, place.hoehe), colour(surface.backColour()));
-    PainterSurface target(painter, QRectF(0, 0, place.breite, place.hoehe));
-    surface.zeigen(target);
+    painter.setClipRect(QRectF(0, 0, place.width, place.height));
+    painter.fillRect(QRectF(0, 0, place.width, place.height), colour(surface.backColour()));
+    PainterSurface target(painter, QRectF(0, 0, place.width, place.height));
+    surface.replay(target);
     painter.restore();
 }
 
 /// What is drawn on a surface, without its ground.
-QPixmap pictureOf(const Blatt& surface, double scale, double ratio) {
-    QPixmap picture((QSizeF(surface.lage().breite, surface.lage().hoehe) * scale * ratio).toSize());
+QPixmap pictureOf(const Canvas& surface, double scale, double ratio) {
+    QPixmap picture(
+        (QSizeF(surface.bounds().width, surface.bounds().height) * scale * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.scale(scale, scale);
     PainterSurface target(painter);
-    surface.zeigen(target);
+    surface.replay(target);
     return picture;
 }
 
-std::optional<Schreibtaste> writingKey(int key) {
+std::optional<WritingKey> writingKey(int key) {
     switch (key) {
         case Qt::Key_Left:
-            return Schreibtaste::Links;
+            return WritingKey::Left;
         case Qt::Key_Right:
-            return Schreibtaste::Rechts;
+            return WritingKey::Right;
         case Qt::Key_Up:
-            return Schreibtaste::Hoch;
+            return WritingKey::Up;
         case Qt::Key_Down:
-            return Schreibtaste::Tief;
+            return WritingKey::Down;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return Schreibtaste::Ablegen;
+            return WritingKey::Drop;
         default:
             if (key < Qt::Key_1 || key > Qt::Key_5) return {};
-            return static_cast<Schreibtaste>(static_cast<int>(Schreibtaste::Eins) + key -
-                                             Qt::Key_1);
+            return static_cast<WritingKey>(static_cast<int>(WritingKey::One) + key - Qt::Key_1);
     }
 }
 
@@ -80,19 +80,19 @@ const form::Control* sourceOf(const QDropEvent& event) {
 
 }  // namespace
 
-StaffWidget::StaffWidget(Blatt& surface, QWidget* parent) : QWidget(parent), surface_(surface) {
+StaffWidget::StaffWidget(Canvas& surface, QWidget* parent) : QWidget(parent), surface_(surface) {
     for (form::Control* control : surface.form().controls())
-        if (control->container() == &surface && control->kind() == form::Kind::Surface)
-            held_.push_back(static_cast<Blatt*>(control));
-    const auto follow = [this](Blatt& shown) {
+        if (control->container() == &surface && control->kind() == form::Kind::Canvas)
+            held_.push_back(static_cast<Canvas*>(control));
+    const auto follow = [this](Canvas& shown) {
         connections_.push_back(
             shown.changed.connect([this](form::Aspect aspect) { surfaceChanged(aspect); }));
     };
     follow(surface);
-    for (Blatt* held : held_) follow(*held);
+    for (Canvas* held : held_) follow(*held);
     setAcceptDrops(!held_.empty());
-    if (surface.onTaste) setFocusPolicy(Qt::StrongFocus);
-    if (surface.zugbild) setCursor(Qt::OpenHandCursor);
+    if (surface.onKey) setFocusPolicy(Qt::StrongFocus);
+    if (surface.dragPicture) setCursor(Qt::OpenHandCursor);
     setSizePolicy(held_.empty() ? QSizePolicy::Fixed : QSizePolicy::Expanding,
                   held_.empty() ? QSizePolicy::Fixed : QSizePolicy::Expanding);
 }
@@ -102,63 +102,62 @@ void StaffWidget::surfaceChanged(form::Aspect aspect) {
         aspect != form::Aspect::Colour)
         return;
     drawn_ = {};
-    if (size_ != surface_.lage()) updateGeometry();
-    size_ = surface_.lage();
+    if (size_ != surface_.bounds()) updateGeometry();
+    size_ = surface_.bounds();
     update();
 }
 
 QSize StaffWidget::sizeHint() const {
-    const Rechteck& place = surface_.lage();
-    return (QSizeF(place.breite, place.hoehe) * suite::scale()).toSize();
+    const Rect& place = surface_.bounds();
+    return (QSizeF(place.width, place.height) * suite::scale()).toSize();
 }
 
 QSize StaffWidget::minimumSizeHint() const {
-    return {surface_.lage().breite, surface_.lage().hoehe};
+    return {surface_.bounds().width, surface_.bounds().height};
 }
 
 double StaffWidget::scale() const {
-    const Rechteck& place = surface_.lage();
-    if (place.breite == 0) return 1;
+    const Rect& place = surface_.bounds();
+    if (place.width == 0) return 1;
     const double fit =
-        std::min({width() / double(place.breite), height() / double(place.hoehe), largestScale});
+        std::min({width() / double(place.width), height() / double(place.height), largestScale});
     return staffScale(fit, devicePixelRatioF());
 }
 
 /// On a whole pixel of the screen.
 QPointF StaffWidget::origin() const {
-    const Rechteck& place = surface_.lage();
+    const Rect& place = surface_.bounds();
     const double ratio = devicePixelRatioF();
     const auto middle = [&](double room, double taken) {
         return std::round((room - taken * scale()) / 2 * ratio) / ratio;
     };
-    return {middle(width(), place.breite), middle(height(), place.hoehe)};
+    return {middle(width(), place.width), middle(height(), place.height)};
 }
 
-QPointF StaffWidget::placeOf(const Blatt& surface, QPointF point) const {
-    if (&surface != &surface_) point += QPointF(surface.lage().x, surface.lage().y);
+QPointF StaffWidget::placeOf(const Canvas& surface, QPointF point) const {
+    if (&surface != &surface_) point += QPointF(surface.bounds().x, surface.bounds().y);
     return origin() + point * scale();
 }
 
 /// Drawn once for what stands there and its size.
 const QPixmap& StaffWidget::drawn() {
     const double ratio = devicePixelRatioF();
-    const Rechteck& place = surface_.lage();
-    const QSize pixels = (QSizeF(place.breite, place.hoehe) * scale() * ratio).toSize();
+    const Rect& place = surface_.bounds();
+    const QSize pixels = (QSizeF(place.width, place.height) * scale() * ratio).toSize();
     if (drawn_.size() == pixels && drawn_.devicePixelRatio() == ratio) return drawn_;
     drawn_ = QPixmap(pixels);
     drawn_.setDevicePixelRatio(ratio);
     QPainter painter(&drawn_);
     painter.scale(scale(), scale());
     paintSurface(painter, surface_);
-    for (const Blatt* held : held_)
+    for (const Canvas* held : held_)
         if (held->visible()) paintSurface(painter, *held);
-    if (surface_.beschreibung)
-        setAccessibleDescription(QString::fromStdString(surface_.beschreibung()));
+    if (surface_.inWords) setAccessibleDescription(QString::fromStdString(surface_.inWords()));
     return drawn_;
 }
 
 void StaffWidget::paintEvent(QPaintEvent*) {
-    if (surface_.lage().breite == 0) return;
+    if (surface_.bounds().width == 0) return;
     QPainter painter(this);
     painter.drawPixmap(origin(), drawn());
     if (!isEnabled()) {
@@ -166,12 +165,12 @@ void StaffWidget::paintEvent(QPaintEvent*) {
         veil.setAlpha(90);
         painter.fillRect(QRectF(origin(), QSizeF(drawn_.deviceIndependentSize())), veil);
     }
-    if (surface_.marke().breite > 0 && (hasFocus() || !surface_.onTaste)) paintMark(painter);
+    if (surface_.mark().width > 0 && (hasFocus() || !surface_.onKey)) paintMark(painter);
 }
 
 /// A tint that leaves what is written black, and a frame.
 void StaffWidget::paintMark(QPainter& painter) const {
-    const QRectF mark = area(surface_.marke());
+    const QRectF mark = area(surface_.mark());
     const QRectF place(placeOf(surface_, mark.topLeft()), mark.size() * scale());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
@@ -182,15 +181,15 @@ void StaffWidget::paintMark(QPainter& painter) const {
 
 void StaffWidget::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->pos();
-    if (surface_.onTaste) setFocus(Qt::MouseFocusReason);
+    if (surface_.onKey) setFocus(Qt::MouseFocusReason);
 }
 
 void StaffWidget::mouseMoveEvent(QMouseEvent* event) {
     const int distance = (event->pos() - pressed_).manhattanLength();
-    if (!surface_.zugbild || !(event->buttons() & Qt::LeftButton) ||
+    if (!surface_.dragPicture || !(event->buttons() & Qt::LeftButton) ||
         distance < QApplication::startDragDistance())
         return;
-    const QPixmap picture = pictureOf(*surface_.zugbild, suite::scale(), devicePixelRatioF());
+    const QPixmap picture = pictureOf(*surface_.dragPicture, suite::scale(), devicePixelRatioF());
     auto* drag = new QDrag(this);
     auto* content = new QMimeData;
     content->setData(dragFormat, QByteArray::number(surface_.index()));
@@ -202,44 +201,44 @@ void StaffWidget::mouseMoveEvent(QMouseEvent* event) {
     drag->exec(Qt::CopyAction);
 }
 
-Blatt* StaffWidget::target() const {
-    for (Blatt* held : held_)
+Canvas* StaffWidget::target() const {
+    for (Canvas* held : held_)
         if (held->visible()) return held;
     return nullptr;
 }
 
-bool StaffWidget::within(const Blatt& surface, QPointF position) const {
-    const QSizeF size = QSizeF(surface.lage().breite, surface.lage().hoehe) * scale();
+bool StaffWidget::within(const Canvas& surface, QPointF position) const {
+    const QSizeF size = QSizeF(surface.bounds().width, surface.bounds().height) * scale();
     return QRectF(placeOf(surface, {}), size).contains(position);
 }
 
-staff::Zug StaffWidget::dragAt(const form::Control& source, QPointF position) const {
+staff::Drag StaffWidget::dragAt(const form::Control& source, QPointF position) const {
     const QPointF at = (position - placeOf(*target(), {})) / scale();
     return {source, static_cast<float>(at.x()), static_cast<float>(at.y())};
 }
 
 bool StaffWidget::dragTo(const form::Control& source, QPointF position) {
-    Blatt* seen = target();
+    Canvas* seen = target();
     if (seen && !within(*seen, position)) seen = nullptr;
     if (entered_ != seen) dragAway();
     if (!seen) return false;
-    const staff::Zug drag = dragAt(source, position);
-    if (!entered_) seen->ueber(drag, ZugZustand::Betreten);
-    seen->ueber(drag, ZugZustand::Ueber);
+    const staff::Drag drag = dragAt(source, position);
+    if (!entered_) seen->dragOver(drag, DragPhase::Enter);
+    seen->dragOver(drag, DragPhase::Over);
     entered_ = seen;
     source_ = &source;
-    return !seen->wuerdeAblehnen(drag);
+    return !seen->wouldRefuse(drag);
 }
 
 bool StaffWidget::dropAt(const form::Control& source, QPointF position) {
     dragTo(source, position);
     if (!entered_) return false;
-    std::exchange(entered_, nullptr)->ablegen(dragAt(source, position));
+    std::exchange(entered_, nullptr)->drop(dragAt(source, position));
     return true;
 }
 
 void StaffWidget::dragAway() {
-    if (entered_) entered_->ueber({*source_, 0, 0}, ZugZustand::Verlassen);
+    if (entered_) entered_->dragOver({*source_, 0, 0}, DragPhase::Leave);
     entered_ = nullptr;
 }
 
@@ -268,8 +267,8 @@ void StaffWidget::dropEvent(QDropEvent* event) {
 
 void StaffWidget::keyPressEvent(QKeyEvent* event) {
     const auto key = writingKey(event->key());
-    if (!key || !surface_.onTaste) return QWidget::keyPressEvent(event);
-    surface_.taste(*key);
+    if (!key || !surface_.onKey) return QWidget::keyPressEvent(event);
+    surface_.key(*key);
 }
 
 void StaffWidget::changeEvent(QEvent* event) {
@@ -277,7 +276,7 @@ void StaffWidget::changeEvent(QEvent* event) {
     // A task that closes takes the accidental out of the user's hand.
     if (!isEnabled()) QDrag::cancel();
     // Who writes by keys can begin as soon as the staff is open.
-    if (isEnabled() && surface_.onTaste) setFocus(Qt::OtherFocusReason);
+    if (isEnabled() && surface_.onKey) setFocus(Qt::OtherFocusReason);
     update();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 #include "form/signal.h"
-#include "staff/blatt.h"
+#include "staff/canvas.h"
 
 #include <QPixmap>
 #include <QWidget>
@@ -14,15 +14,15 @@ namespace qt {
 /// write on it by keys; positions are told in the pixels of the surface.
 class StaffWidget final : public QWidget {
   public:
-    explicit StaffWidget(staff::Blatt& surface, QWidget* parent = nullptr);
+    explicit StaffWidget(staff::Canvas& surface, QWidget* parent = nullptr);
 
-    staff::Blatt& surface() const { return surface_; }
+    staff::Canvas& surface() const { return surface_; }
     /// Enter writes here now.
-    bool takesEnter() const { return surface_.nimmtEnter && surface_.nimmtEnter(); }
+    bool takesEnter() const { return surface_.takesEnter && surface_.takesEnter(); }
     /// Logical pixels of the screen to one of the surface.
     double scale() const;
     /// Where a point of a surface shown here lies in this widget.
-    QPointF placeOf(const staff::Blatt& surface, QPointF point) const;
+    QPointF placeOf(const staff::Canvas& surface, QPointF point) const;
 
     /// A drag is over this widget: it enters and leaves the surface that is seen, not the room
     /// around it. @return whether a drop here would be taken.
@@ -52,17 +52,17 @@ class StaffWidget final : public QWidget {
     void paintMark(QPainter& painter) const;
     QPointF origin() const;
     /// The visible surface inside this one that takes drops; nullptr for none.
-    staff::Blatt* target() const;
-    bool within(const staff::Blatt& surface, QPointF position) const;
-    staff::Zug dragAt(const form::Control& source, QPointF position) const;
+    staff::Canvas* target() const;
+    bool within(const staff::Canvas& surface, QPointF position) const;
+    staff::Drag dragAt(const form::Control& source, QPointF position) const;
 
-    staff::Blatt& surface_;
-    std::vector<staff::Blatt*> held_;
+    staff::Canvas& surface_;
+    std::vector<staff::Canvas*> held_;
     std::vector<form::Connection> connections_;
     QPixmap drawn_;
-    staff::Rechteck size_;
+    staff::Rect size_;
     QPoint pressed_;
-    staff::Blatt* entered_ = nullptr;
+    staff::Canvas* entered_ = nullptr;
     const form::Control* source_ = nullptr;
 };
 

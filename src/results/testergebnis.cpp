@@ -74,7 +74,7 @@ void Testergebnis::ErgebnisZeile(int i, int slot, const std::string& name) {
 
 /// The training keeps its scales sorted by weight: what has been missed most stands first.
 void Testergebnis::GewichteZeigen() {
-    const bool training = core::imTraining(z);
+    const bool training = core::isTraining(z);
     schwach_cont.visible = training;
     for (int i = 0; i < maxZeilen - 1; ++i) {
         const bool da = training && i + 1 < z.mathaeufgk_box.rows();

@@ -20,9 +20,9 @@ void Wertung::vorbereiten() {
 }
 
 void Wertung::ErgebnisBuchen(i16 i, float wert) {
-    if (!core::gewertet(z)) return;
+    if (!core::isScored(z)) return;
     const float gebucht = wert - 4 * z.bewertung_basis;
-    if (core::imTraining(z)) {
+    if (core::isTraining(z)) {
         auswertung.Increment(i, spalte::anzahl);
         auswertung.Add(i, spalte::summe, gebucht);
     } else if (z.ueb_typ == bestimmen) {
@@ -34,7 +34,7 @@ void Wertung::ErgebnisBuchen(i16 i, float wert) {
 }
 
 void Wertung::AnwesenheitMerken(i16 code) {
-    const bool schriftlich = core::imTest(z) && z.ueb_typ != bestimmen;
+    const bool schriftlich = core::isTest(z) && z.ueb_typ != bestimmen;
     auswertung.Increment(core::skalaSlot(code, z.skal_anz),
                          schriftlich ? spalte::anwesendSchriftlich : spalte::anwesend);
 }
@@ -44,7 +44,7 @@ ErgebnisZeile ergebnisZeile(const Auswertung& auswertung, const core::Zustand& z
     const float bester = z.bewertung_basis * -8.0F;  // what a right first answer books
     int grenze = 0, summe = 0;
     bool zaehlt = true;
-    if (!core::imTest(z)) {
+    if (!core::isTest(z)) {
         zaehlt = r(spalte::anzahl) > 0;
         grenze = ganz(bester * r(spalte::anzahl));
         summe = std::min(0, ganz(r(spalte::summe)));

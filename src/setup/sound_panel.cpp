@@ -3,8 +3,8 @@
 #include "base/rounding.h"
 #include "core/katalog.h"
 #include "core/wort.h"
-#include "sound/klang.h"
-#include "sound/tonlinie.h"
+#include "sound/instruments.h"
+#include "sound/phrase.h"
 
 #include <algorithm>
 #include <array>
@@ -24,7 +24,7 @@ base::i16 korrektur(int stimmung, int note) {
     const auto grad = std::ranges::find(katalog::diatonisch, klasse) - katalog::diatonisch.begin();
     const bool weiss = grad < std::ssize(katalog::diatonisch);
     if (stimmung == katalog::stimmung::pythagoreisch && !weiss) return 0;
-    return katalog::stimmKorrektur(stimmung, 0, weiss ? static_cast<int>(grad) : 0, klasse);
+    return katalog::tuningCorrection(stimmung, 0, weiss ? static_cast<int>(grad) : 0, klasse);
 }
 
 }  // namespace
@@ -99,11 +99,11 @@ void SoundPanel::openTempo() {
 
 void SoundPanel::ComboPatch_click() {
     z.patch.fill(ComboPatch.listIndex());
-    midi_.SetzeKlangfarben(z.patch);
+    midi_.setInstruments(z.patch);
 }
 
 void SoundPanel::HSliderVolume_change() {
-    midi_.setLautstaerke(HSliderVolume.value());
+    midi_.setVelocity(HSliderVolume.value());
     lb14(1).caption = " " + std::to_string(HSliderVolume.value());
 }
 
@@ -115,16 +115,16 @@ void SoundPanel::klang_contr_click() {
     onCheck(true);
     midi_.MidiReset();
     TonHinweisZeigen();
-    midi_.SetzeKlangfarben(z.patch);
-    std::vector<sound::Linienton> linie;
+    midi_.setInstruments(z.patch);
+    std::vector<sound::PhraseNote> linie;
     for (int i = 0; i < noten; ++i) {
         const base::i16 note = z.FrquMinAkt + i * (d - 1);
         linie.push_back({note, i, korrektur(z.stimmung, note)});
     }
-    sound::TonlinieLegen(midi_, linie,
-                         {.tondauer = z.tempo_dauer[z.tempoIdx], .stimmung = z.stimmung});
+    sound::queuePhrase(midi_, linie,
+                       {.noteDuration = z.tempo_dauer[z.tempoIdx], .stimmung = z.stimmung});
     midi_.Delay(100, abbruch_);
-    if (!abbruch_) midi_.ausgabe().start();
+    if (!abbruch_) midi_.output().start();
 }
 
 void SoundPanel::QueueEmpty() {

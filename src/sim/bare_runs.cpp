@@ -12,7 +12,7 @@ namespace sim {
 
 namespace {
 
-using engine::AufgZustand;
+using engine::TaskState;
 
 /// What the options ask for that a bare run has not. @throws UsageError
 void refuse(const Options& options) {
@@ -34,7 +34,7 @@ bool offered(const core::Zustand& z, int scale) {
 
 }  // namespace
 
-BareRuns::BareRuns(const Options& options, engine::Protokoll* protocol)
+BareRuns::BareRuns(const Options& options, engine::RunRecorder* protocol)
     : options_((refuse(options), options)),
       exercise_(exercise(options.form)),
       state_(exerciseState(options)),
@@ -48,12 +48,12 @@ Outcome BareRuns::run() {
     z_ = state_;
     if (!saved_.isEmpty()) z_.uebungsmodus = core::modus::fortsetzung;
     scores_.vorbereiten();
-    engine::Lauf run(z_, rnd_, scores_, exercise_, protocol_);
+    engine::Run run(z_, rnd_, scores_, exercise_, protocol_);
     const int limit = options_.tasks == 0 ? endless : options_.tasks;
     try {
         begin(run);
-        while (!run.zuEnde() && outcome.tasks < limit) {
-            run.ziehen();
+        while (!run.ended() && outcome.tasks < limit) {
+            run.draw();
             ++outcome.tasks;
             outcome.rightFirst += task(run) ? 1 : 0;
         }
@@ -64,51 +64,51 @@ Outcome BareRuns::run() {
     }
     outcome.weigh(run, z_);
     const bool keeps = options_.keep && outcome.ending == Ending::Left && outcome.bar;
-    saved_ = keeps ? core::Value(run.sichern()) : core::Value();
+    saved_ = keeps ? core::Value(run.save()) : core::Value();
     return outcome;
 }
 
-void BareRuns::begin(engine::Lauf& run) {
+void BareRuns::begin(engine::Run& run) {
     const int tones = core::katalog::kategorie(z_.skal_typ).tonAnz;
-    run.beginnen({.vorfuehrung = exercise_.klingt() ? int(z_.tempo_dauer[z_.tempoIdx]) * tones : 0},
-                 seeds_);
-    if (!saved_.isEmpty()) run.aufnehmen(saved_);
+    run.begin({.presentation = exercise_.sounds() ? int(z_.tempo_dauer[z_.tempoIdx]) * tones : 0},
+              seeds_);
+    if (!saved_.isEmpty()) run.resume(saved_);
 }
 
 /// Answers the task until it is closed. @return whether it was right at once.
-bool BareRuns::task(engine::Lauf& run) {
+bool BareRuns::task(engine::Run& run) {
     openCount_ = 0;
     for (int scale = 0; scale <= z_.skal_anz; ++scale)
         if (offered(z_, scale)) base::at(open_, openCount_++) = scale;
     standing_ = {};
     handedIn_ = false;
     clock_ = 0;
-    run.antwortOffen(clock_);
+    run.answerOpen(clock_);
     bool rightFirst = false;
-    AufgZustand state = AufgZustand::Weiter;
-    for (int tries = 0; state == AufgZustand::Weiter; ++tries) {
+    TaskState state = TaskState::TryAgain;
+    for (int tries = 0; state == TaskState::TryAgain; ++tries) {
         think();
-        const engine::Antwort answer =
-            exercise_.schriftlich() ? written(run, tries) : named(run, tries);
-        rightFirst = tries == 0 && answer.richtig;
-        state = run.werten(answer, clock_);
+        const engine::Answer answer =
+            exercise_.isWritten() ? written(run, tries) : named(run, tries);
+        rightFirst = tries == 0 && answer.right;
+        state = run.score(answer, clock_);
     }
     return rightFirst;
 }
 
 /// A wrong answer cannot be given again.
-engine::Antwort BareRuns::named(const engine::Lauf& run, int tries) {
-    const engine::Aufgabe& a = run.aufgabe();
+engine::Answer BareRuns::named(const engine::Run& run, int tries) {
+    const engine::Task& a = run.task();
     const auto open = std::span(open_).first(static_cast<std::size_t>(openCount_));
     const int scale = options_.learner.answer({a.skala_nr, tries, open}, learnersChance_);
     openCount_ = static_cast<int>(std::remove(open.begin(), open.end(), scale) - open.begin());
-    return engine::benannt(a, scale);
+    return engine::namedAnswer(a, scale);
 }
 
 /// What was handed in once is heard again before it is handed in as it stands, or is changed where
 /// nothing sounds.
-engine::Antwort BareRuns::written(engine::Lauf& run, int tries) {
-    const engine::Aufgabe& a = run.aufgabe();
+engine::Answer BareRuns::written(engine::Run& run, int tries) {
+    const engine::Task& a = run.task();
     const auto write = [&](Writing how) {
         const Accidentals wanted = accidentals(a, how, learnersChance_);
         if (wanted != standing_) handedIn_ = false;
@@ -118,19 +118,19 @@ engine::Antwort BareRuns::written(engine::Lauf& run, int tries) {
         write(options_.learner.writes({a.skala_nr, tries, {}}, learnersChance_));
     };
     asItDoes();
-    while (handedIn_ && !exercise_.klingt()) write(Writing::Wrong);
+    while (handedIn_ && !exercise_.sounds()) write(Writing::Wrong);
     while (handedIn_) {
-        run.wiederholt(clock_);
+        run.repeated(clock_);
         handedIn_ = false;
-        run.antwortOffen(clock_);
+        run.answerOpen(clock_);
         think();
         asItDoes();
     }
     handedIn_ = true;
-    return engine::geschrieben(a, [&](int place) {
-        const core::Ton letter = core::ohneVorzeichen(a.tonAn(place));
+    return engine::writtenAnswer(a, [&](int place) {
+        const core::Pitch letter = core::withoutAccidental(a.pitchAt(place));
         const int accidental = base::at(standing_, place);
-        return core::Ton{letter.midi + accidental, letter.qz + 7 * accidental};
+        return core::Pitch{letter.midi + accidental, letter.qz + 7 * accidental};
     });
 }
 

@@ -16,23 +16,23 @@ class BareRuns {
   public:
     /// @param protocol may be nullptr: then nothing is written down.
     /// @throws UsageError for options that cannot be carried out.
-    explicit BareRuns(const Options& options, engine::Protokoll* protocol = nullptr);
+    explicit BareRuns(const Options& options, engine::RunRecorder* protocol = nullptr);
     BareRuns(const BareRuns&) = delete;
     BareRuns& operator=(const BareRuns&) = delete;
 
     Outcome run();
 
   private:
-    void begin(engine::Lauf& run);
-    bool task(engine::Lauf& run);
-    engine::Antwort named(const engine::Lauf& run, int tries);
-    engine::Antwort written(engine::Lauf& run, int tries);
+    void begin(engine::Run& run);
+    bool task(engine::Run& run);
+    engine::Answer named(const engine::Run& run, int tries);
+    engine::Answer written(engine::Run& run, int tries);
     void think() { clock_ += time_; }
 
     const Options& options_;
-    const engine::Uebung& exercise_;
+    const engine::Exercise& exercise_;
     const core::Zustand state_;
-    engine::Protokoll* protocol_;
+    engine::RunRecorder* protocol_;
     std::function<std::int64_t()> seeds_;
     base::Rnd rnd_, learnersChance_;
     core::Zustand z_;

@@ -82,16 +82,17 @@ void checkScales(const Zustand& z) {
 
 }  // namespace
 
-const engine::Uebung& exercise(const std::string& form) {
-    const auto* const found = std::ranges::find(engine::uebungen, form, &engine::Uebung::blatt);
-    if (found == engine::uebungen.end())
+const engine::Exercise& exercise(const std::string& form) {
+    const auto* const found =
+        std::ranges::find(engine::exercises, form, &engine::Exercise::worksheet);
+    if (found == engine::exercises.end())
         throw UsageError("no learner for the form \"" + form + "\"");
     return *found;
 }
 
 std::span<const Field> fields() { return allFields; }
 
-core::Zustand exerciseState(const engine::Uebung& exercise,
+core::Zustand exerciseState(const engine::Exercise& exercise,
                             const std::vector<Assignment>& assignments) {
     Zustand z;
     z.theoriewahl = exercise.theoriewahl;
@@ -102,11 +103,11 @@ core::Zustand exerciseState(const engine::Uebung& exercise,
         given.insert(assignment.field);
     }
     if (z.theoriewahl != exercise.theoriewahl || z.ueb_typ != exercise.ueb_typ)
-        throw UsageError(std::string(exercise.blatt) + " is theoriewahl " +
+        throw UsageError(std::string(exercise.worksheet) + " is theoriewahl " +
                          std::to_string(exercise.theoriewahl) + ", ueb_typ " +
                          std::to_string(exercise.ueb_typ));
-    if (exercise.tonart != engine::Tonart::Klingend && z.skal_typ != 0)
-        throw UsageError(std::string(exercise.blatt) + " is for skal_typ 0 only");
+    if (exercise.tonality != engine::Tonality::Sounding && z.skal_typ != 0)
+        throw UsageError(std::string(exercise.worksheet) + " is for skal_typ 0 only");
     z.skal_anz = core::katalog::kategorie(z.skal_typ).skal_max;
     if (z.ska_ausw == 1 && !given.contains("einzel_wahl"))
         throw UsageError("ska_ausw=1 needs einzel_wahl");

@@ -22,28 +22,28 @@ const char* endingName(Ending ending) {
     return "";
 }
 
-std::optional<Ending> endingOf(const engine::Lauf& run) {
+std::optional<Ending> endingOf(const engine::Run& run) {
     switch (run.aufgZustand()) {
-        case engine::AufgZustand::TrainingBeendet:
-            return run.zielErreicht() ? Ending::Goal : Ending::Failed;
-        case engine::AufgZustand::PruefungBeendet:
+        case engine::TaskState::TrainingOver:
+            return run.goalReached() ? Ending::Goal : Ending::Failed;
+        case engine::TaskState::ExamOver:
             return Ending::Count;
-        case engine::AufgZustand::Offen:
-        case engine::AufgZustand::Geschlossen:
-        case engine::AufgZustand::Weiter:
+        case engine::TaskState::Open:
+        case engine::TaskState::Closed:
+        case engine::TaskState::TryAgain:
             break;
     }
     return {};
 }
 
-void Outcome::weigh(const engine::Lauf& run, const core::Zustand& z) {
-    const engine::Matbox& box = run.matbox();
+void Outcome::weigh(const engine::Run& run, const core::Zustand& z) {
+    const engine::TaskPool& box = run.pool();
     const int codes = box.potSkala();
-    if (!core::imTraining(z) || z.mathaeufgk_box.rows() <= codes) return;
+    if (!core::isTraining(z) || z.mathaeufgk_box.rows() <= codes) return;
     double sum = 0;
     for (int i = 1; i <= codes; ++i) sum += z.mathaeufgk_box(i, core::gewicht::spalteGewicht);
     meanWeight = sum / codes;
-    bar = box.prozent();
+    bar = box.percent();
 }
 
 }  // namespace sim

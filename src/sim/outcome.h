@@ -1,5 +1,5 @@
 #pragma once
-#include "engine/lauf.h"
+#include "engine/run.h"
 
 #include <cstdint>
 #include <optional>
@@ -19,7 +19,7 @@ enum class Ending {
 };
 const char* endingName(Ending ending);
 /// How a run has ended by itself, if it has; the clock is not known to it.
-std::optional<Ending> endingOf(const engine::Lauf& run);
+std::optional<Ending> endingOf(const engine::Run& run);
 
 /// What became of one run.
 struct Outcome {
@@ -33,7 +33,7 @@ struct Outcome {
     std::string fault;
 
     /// Takes the weights of a training that has got as far as having them.
-    void weigh(const engine::Lauf& run, const core::Zustand& z);
+    void weigh(const engine::Run& run, const core::Zustand& z);
 };
 
 /// Tasks after which a run without a limit is given up.

@@ -6,7 +6,7 @@
 
 namespace sim {
 
-using engine::AufgZustand;
+using engine::TaskState;
 
 namespace {
 
@@ -22,7 +22,7 @@ C* control(const form::Form& form, const char* name, int index = form::Place::no
 
 }  // namespace
 
-void Pupil::begin(worksheets::Arbeitsblatt& sheet, int limit) {
+void Pupil::begin(worksheets::Worksheet& sheet, int limit) {
     sheet_ = &sheet;
     limit_ = limit;
     tasks_ = tries_ = rightFirst_ = 0;
@@ -37,46 +37,46 @@ void Pupil::begin(worksheets::Arbeitsblatt& sheet, int limit) {
     back_ = control<form::Panel>(sheet, "zurueck");
 }
 
-void Pupil::notice(worksheets::Arbeitsblatt::Ereignis turn) {
-    using enum worksheets::Arbeitsblatt::Ereignis;
+void Pupil::notice(worksheets::Worksheet::Turn turn) {
+    using enum worksheets::Worksheet::Turn;
     switch (turn) {
-        case LaufBereit:
+        case RunReady:
             in(pause, [this] { goOn(); });
             break;
-        case AufgabeGezogen:
+        case TaskDrawn:
             ++tasks_;
             tries_ = 0;
             break;
-        case AntwortOffen:
+        case AnswerOpen:
             in(learner_.thinkingTime(), [this] { answer(); });
             break;
-        case Geantwortet:
-            if (tries_++ == 0 && sheet_->lauf().letzteAntwort().richtig) ++rightFirst_;
-            if (sheet_->lauf().aufgZustand() == AufgZustand::Weiter)
+        case Answered:
+            if (tries_++ == 0 && sheet_->run().lastAnswer().right) ++rightFirst_;
+            if (sheet_->run().aufgZustand() == TaskState::TryAgain)
                 in(learner_.thinkingTime(), [this] { answer(); });
             break;
-        case Geschlossen:
+        case Closed:
             in(pause, [this] { goOn(); });
             break;
-        case Uhr:
+        case Clock:
             break;
-        case LaufEnde:
-            if (!sheet_->lauf().zuEnde()) rest();
+        case RunEnded:
+            if (!sheet_->run().ended()) rest();
             break;
     }
 }
 
 void Pupil::answer() {
-    if (sheet_->lauf().uebung().schriftlich())
+    if (sheet_->run().exercise().isWritten())
         write();
     else
         name();
 }
 
 void Pupil::write() {
-    worksheets::Arbeitsblatt& sheet = *sheet_;
+    worksheets::Worksheet& sheet = *sheet_;
     auto* const done = control<form::Button>(sheet, "cmdOK");
-    writeScale(sheet, learner_.writes({sheet_->lauf().aufgabe().skala_nr, tries_, {}}, chance_),
+    writeScale(sheet, learner_.writes({sheet_->run().task().skala_nr, tries_, {}}, chance_),
                chance_);
     // What was handed in once and stays as it is must be heard again before it can be handed in.
     if (done->usable()) return done->click();
@@ -94,7 +94,7 @@ void Pupil::name() {
     }
     if (count == 0) return;
     const int choice =
-        learner_.answer({sheet_->lauf().aufgabe().skala_nr, tries_, {open.data(), count}}, chance_);
+        learner_.answer({sheet_->run().task().skala_nr, tries_, {open.data(), count}}, chance_);
     const auto at = static_cast<std::size_t>(choice);
     if (pictures_[at]->usable())
         pictures_[at]->click();
@@ -103,8 +103,8 @@ void Pupil::name() {
 }
 
 void Pupil::goOn() {
-    leftAtLimit_ = !sheet_->lauf().zuEnde() && tasks_ >= limit_;
-    if (sheet_->lauf().zuEnde() || leftAtLimit_)
+    leftAtLimit_ = !sheet_->run().ended() && tasks_ >= limit_;
+    if (sheet_->run().ended() || leftAtLimit_)
         back_->click();
     else
         next_->click();

@@ -2,7 +2,7 @@
 #include "form/controls.h"
 #include "form/message_loop.h"
 #include "sim/learner.h"
-#include "worksheets/arbeitsblatt.h"
+#include "worksheets/worksheet.h"
 
 #include <vector>
 
@@ -18,9 +18,9 @@ class Pupil {
         : learner_(learner), chance_(seed), loop_(loop) {}
 
     /// Sits down before a worksheet. @param limit tasks after which it leaves.
-    void begin(worksheets::Arbeitsblatt& sheet, int limit);
+    void begin(worksheets::Worksheet& sheet, int limit);
     /// Hears of a turn of the run.
-    void notice(worksheets::Arbeitsblatt::Ereignis turn);
+    void notice(worksheets::Worksheet::Turn turn);
     /// Lays the pen down: nothing that it had in mind is done any more.
     void rest() { hand_ = {}; }
     /// The result form has come: presses its button as soon as it can be seen.
@@ -48,7 +48,7 @@ class Pupil {
     base::Rnd chance_;
     form::MessageLoop& loop_;
     form::Connection hand_;
-    worksheets::Arbeitsblatt* sheet_ = nullptr;
+    worksheets::Worksheet* sheet_ = nullptr;
     std::vector<form::Picture*> pictures_;
     std::vector<form::Panel*> names_;
     form::Button* next_ = nullptr;

@@ -9,7 +9,7 @@ namespace sim {
 /// The road from the start form over the set-up form to a worksheet, by its controls.
 class SetupRoad {
   public:
-    SetupRoad(drill::Drill& drill, const engine::Uebung& exercise)
+    SetupRoad(drill::Drill& drill, const engine::Exercise& exercise)
         : p(drill.programm), exercise_(exercise) {}
 
     /// Makes the choices and opens the worksheet. The first time it begins at the start form, then
@@ -26,7 +26,7 @@ class SetupRoad {
     void chooseScales(form::Form& form, const core::Zustand& wanted);
 
     core::Programm& p;
-    const engine::Uebung& exercise_;
+    const engine::Exercise& exercise_;
 };
 
 }  // namespace sim

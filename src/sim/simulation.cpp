@@ -87,12 +87,11 @@ Outcome Simulation::run() {
 }
 
 void Simulation::made(form::Form& form) {
-    if (auto* sheet = dynamic_cast<worksheets::Arbeitsblatt*>(&form)) {
+    if (auto* sheet = dynamic_cast<worksheets::Worksheet*>(&form)) {
         sheet_ = sheet;
         if (trace_) trace_->follow(*sheet);
         pupil_.begin(*sheet, options_.tasks == 0 ? endless : options_.tasks);
-        turns_ = sheet->ereignis.connect(
-            [this](worksheets::Arbeitsblatt::Ereignis turn) { notice(turn); });
+        turns_ = sheet->turn.connect([this](worksheets::Worksheet::Turn turn) { notice(turn); });
     }
     if (auto* result = dynamic_cast<results::Testergebnis*>(&form))
         pupil_.readResult(form, [this, result] {
@@ -101,15 +100,15 @@ void Simulation::made(form::Form& form) {
         });
 }
 
-void Simulation::notice(worksheets::Arbeitsblatt::Ereignis turn) {
+void Simulation::notice(worksheets::Worksheet::Turn turn) {
     lastTurn_ = room_.loop.elapsed();
     if (trace_) trace_->notice(turn, *sheet_, drill_.programm.zustand);
     pupil_.notice(turn);
-    if (turn == worksheets::Arbeitsblatt::Ereignis::LaufEnde) outcome_.ending = ending();
+    if (turn == worksheets::Worksheet::Turn::RunEnded) outcome_.ending = ending();
 }
 
 Ending Simulation::ending() const {
-    if (const auto end = endingOf(sheet_->lauf())) return *end;
+    if (const auto end = endingOf(sheet_->run())) return *end;
     if (pupil_.leftAtLimit()) return options_.tasks == 0 ? Ending::Endless : Ending::Left;
     return Ending::Clock;
 }
@@ -120,7 +119,7 @@ void Simulation::gone(form::Form& form) {
     outcome_.rightFirst = pupil_.rightFirst();
     outcome_.fault = fault();
     if (!outcome_.fault.empty()) outcome_.ending = Ending::Fault;
-    outcome_.weigh(sheet_->lauf(), drill_.programm.zustand);
+    outcome_.weigh(sheet_->run(), drill_.programm.zustand);
     if (trace_) trace_->end(outcome_);
     over_ = true;
 }

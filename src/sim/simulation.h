@@ -36,12 +36,12 @@ class Simulation {
     void openWorksheet();
     void made(form::Form& form);
     void gone(form::Form& form);
-    void notice(worksheets::Arbeitsblatt::Ereignis turn);
+    void notice(worksheets::Worksheet::Turn turn);
     Ending ending() const;
     std::string fault() const;
 
     const Options& options_;
-    const engine::Uebung& exercise_;
+    const engine::Exercise& exercise_;
     const core::Zustand state_;
     rehearsal::Room room_;
     rehearsal::MemoryHost host_;
@@ -53,7 +53,7 @@ class Simulation {
     Pupil pupil_;
     SetupRoad road_;
 
-    const worksheets::Arbeitsblatt* sheet_ = nullptr;
+    const worksheets::Worksheet* sheet_ = nullptr;
     Outcome outcome_;
     bool over_ = false;
     bool kept_ = false;  ///< the run before was a training and was saved

@@ -15,44 +15,44 @@ auto writeItems(JsonLine& line, const Array& array) {
 
 }  // namespace
 
-void Trace::notice(worksheets::Arbeitsblatt::Ereignis turn, const worksheets::Arbeitsblatt& sheet,
+void Trace::notice(worksheets::Worksheet::Turn turn, const worksheets::Worksheet& sheet,
                    const core::Zustand& z) {
-    using enum worksheets::Arbeitsblatt::Ereignis;
-    if (turn == AufgabeGezogen) task(sheet, z);
+    using enum worksheets::Worksheet::Turn;
+    if (turn == TaskDrawn) task(sheet, z);
     stream_ << drawn_;
     drawn_.clear();
     switch (turn) {
-        case LaufBereit:
+        case RunReady:
             return run(sheet, z);
-        case Geantwortet:
-            return answer(sheet.lauf());
-        case Geschlossen:
-            return closed(sheet.lauf(), z);
-        case Uhr:
+        case Answered:
+            return answer(sheet.run());
+        case Closed:
+            return closed(sheet.run(), z);
+        case Clock:
             stream_ << JsonLine("clock")
-                           .number("restZeit", int(sheet.lauf().stand().restZeit))
+                           .number("restZeit", int(sheet.run().standing().restZeit))
                            .finish();
             return;
-        case AufgabeGezogen:
-        case AntwortOffen:
-        case LaufEnde:
+        case TaskDrawn:
+        case AnswerOpen:
+        case RunEnded:
             return;
     }
 }
 
-void Trace::follow(worksheets::Arbeitsblatt& sheet) {
-    staff_ = sheet.notenzeile();
+void Trace::follow(worksheets::Worksheet& sheet) {
+    staff_ = sheet.staff();
     draws_ = {};
-    if (staff_) draws_ = staff_->gemalt.connect([this](int column) { draw(column); });
+    if (staff_) draws_ = staff_->painted.connect([this](int column) { draw(column); });
 }
 
 /// Notes are told after the turn that puts them there.
 void Trace::draw(int column) {
-    const staff::Spalte& note = staff_->NotSelb(column);
+    const staff::Column& note = staff_->NotSelb(column);
     drawn_ += JsonLine("draw")
                   .number("c", column)
                   .number("y", int(note.y()))
-                  .number("x", int(staff_->lage().x(column)))
+                  .number("x", int(staff_->layout().x(column)))
                   .number("qz", int(note.qz))
                   .number("midi", int(note.midi))
                   .number("glyph", int(note.zeichen))
@@ -61,33 +61,33 @@ void Trace::draw(int column) {
 }
 
 /// What only worksheets with a staff have.
-void Trace::spelling(JsonLine& line, const worksheets::Arbeitsblatt& sheet) {
-    const engine::Aufgabe& a = sheet.lauf().aufgabe();
-    const bool writing = sheet.lauf().uebung().schriftlich();
+void Trace::spelling(JsonLine& line, const worksheets::Worksheet& sheet) {
+    const engine::Task& a = sheet.run().task();
+    const bool writing = sheet.run().exercise().isWritten();
     line.number(writing ? "quintLage" : "vzAnz", int(a.quintLage));
     line.list(writing ? "notenQz" : "tonPos", a.tonAnz, writeItems(line, a.notenQz));
     if (writing) {
-        line.list("zeigNoten", a.tonAnz, [&](int k) { line.item(int(a.gezeigt(k).midi)); });
-        line.list("zeigQz", a.tonAnz, [&](int k) { line.item(int(a.gezeigt(k).qz)); });
+        line.list("zeigNoten", a.tonAnz, [&](int k) { line.item(int(a.shown(k).midi)); });
+        line.list("zeigQz", a.tonAnz, [&](int k) { line.item(int(a.shown(k).qz)); });
     }
     line.number("SchlZ", int(staff_->SchlZ()));
 }
 
-void Trace::run(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z) {
+void Trace::run(const worksheets::Worksheet& sheet, const core::Zustand& z) {
     JsonLine line("run");
     line.text("form", sheet.name());
     for (const Field& field : fields()) line.number(field.name, int(z.*field.member));
     line.number("skal_anz", int(z.skal_anz));
     if (z.ska_ausw == 1) line.list("einzel_wahl", z.einzelAnz + 1, writeItems(line, z.einzel_wahl));
-    line.number("n", int(sheet.lauf().matbox().potSkala()))
-        .number("tonAnz", int(sheet.lauf().aufgabe().tonAnz));
-    line.number("pruefAufgaben", int(sheet.lauf().stand().pruefAufgaben));
-    line.number("restZeit", int(sheet.lauf().stand().restZeit));
+    line.number("n", int(sheet.run().pool().potSkala()))
+        .number("tonAnz", int(sheet.run().task().tonAnz));
+    line.number("pruefAufgaben", int(sheet.run().standing().pruefAufgaben));
+    line.number("restZeit", int(sheet.run().standing().restZeit));
     stream_ << line.finish();
 }
 
-void Trace::task(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z) {
-    const engine::Aufgabe& a = sheet.lauf().aufgabe();
+void Trace::task(const worksheets::Worksheet& sheet, const core::Zustand& z) {
+    const engine::Task& a = sheet.run().task();
     JsonLine line("task");
     line.number("t", loop_.elapsed()).number("skal_typ", int(z.skal_typ));
     line.number("skala_nr", int(a.skala_nr)).number("akt_richtung", int(a.akt_richtung));
@@ -96,38 +96,38 @@ void Trace::task(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z) 
     line.list("stimmWert", a.tonAnz, writeItems(line, a.stimmWert));
     line.list("ton_abfolg", a.tonAnz, writeItems(line, a.ton_abfolg));
     if (staff_) spelling(line, sheet);
-    const engine::Matbox& box = sheet.lauf().matbox();
+    const engine::TaskPool& box = sheet.run().pool();
     line.list("matbox", box.matboxanz(), [&](int i) { line.item(int(box.code(i + 1))); });
     line.number("matboxanz", int(box.matboxanz()));
     stream_ << line.finish();
 }
 
-void Trace::answer(const engine::Lauf& run) {
-    const engine::Antwort& answer = run.letzteAntwort();
+void Trace::answer(const engine::Run& run) {
+    const engine::Answer& answer = run.lastAnswer();
     JsonLine line("answer");
-    line.number("t", loop_.elapsed()).number("index", answer.index).truth("right", answer.richtig);
-    line.decimal("punkte", run.aufgabe().verlauf.punkte).decimal("AntwDau", answer.dauer);
+    line.number("t", loop_.elapsed()).number("index", answer.index).truth("right", answer.right);
+    line.decimal("punkte", run.task().attempt.punkte).decimal("AntwDau", answer.dauer);
     line.number("aufgZustand", static_cast<int>(run.aufgZustand()));
     stream_ << line.finish();
 }
 
-void Trace::closed(const engine::Lauf& run, const core::Zustand& z) {
+void Trace::closed(const engine::Run& run, const core::Zustand& z) {
     JsonLine line("closed");
-    const float w = run.stand().wertung;
+    const float w = run.standing().score;
     line.decimal("w", w);
-    if (!core::gewertet(z))
+    if (!core::isScored(z))
         line.null("booked");
     else
         line.decimal("booked", w - 4 * z.bewertung_basis);
-    line.number("matbox_zahl", int(run.matbox().matbox_zahl()))
-        .number("FloodPercent", run.matbox().prozent());
-    line.list("weights", core::imTraining(z) ? int(run.matbox().potSkala()) : 0, [&](int i) {
+    line.number("matbox_zahl", int(run.pool().matbox_zahl()))
+        .number("FloodPercent", run.pool().percent());
+    line.list("weights", core::isTraining(z) ? int(run.pool().potSkala()) : 0, [&](int i) {
         line.open();
         line.item(int(z.mathaeufgk_box(i + 1, core::gewicht::spalteCode)));
         line.item(int(z.mathaeufgk_box(i + 1, core::gewicht::spalteGewicht)));
         line.close();
     });
-    line.number("restAufgaben", int(run.stand().restAufgaben));
+    line.number("restAufgaben", int(run.standing().restAufgaben));
     stream_ << line.finish();
 }
 

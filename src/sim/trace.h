@@ -4,8 +4,8 @@
 #include "results/testergebnis.h"
 #include "sim/json_line.h"
 #include "sim/outcome.h"
-#include "staff/notenzeile.h"
-#include "worksheets/arbeitsblatt.h"
+#include "staff/staff.h"
+#include "worksheets/worksheet.h"
 
 #include <ostream>
 
@@ -17,9 +17,9 @@ class Trace {
     Trace(std::ostream& stream, const form::VirtualTime& loop) : stream_(stream), loop_(loop) {}
 
     /// A worksheet has come: what is put on its staff, when it has one, is told.
-    void follow(worksheets::Arbeitsblatt& sheet);
+    void follow(worksheets::Worksheet& sheet);
     /// A turn of a run.
-    void notice(worksheets::Arbeitsblatt::Ereignis turn, const worksheets::Arbeitsblatt& sheet,
+    void notice(worksheets::Worksheet::Turn turn, const worksheets::Worksheet& sheet,
                 const core::Zustand& z);
     /// From now on what a device is given is told.
     void hear(rehearsal::MidiTap& device);
@@ -27,18 +27,18 @@ class Trace {
     void end(const Outcome& outcome);
 
   private:
-    void run(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z);
-    void task(const worksheets::Arbeitsblatt& sheet, const core::Zustand& z);
-    void spelling(JsonLine& line, const worksheets::Arbeitsblatt& sheet);
+    void run(const worksheets::Worksheet& sheet, const core::Zustand& z);
+    void task(const worksheets::Worksheet& sheet, const core::Zustand& z);
+    void spelling(JsonLine& line, const worksheets::Worksheet& sheet);
     void draw(int column);
     /// @param time milliseconds from the queue's start, -1 without a queue.
     void midi(const sound::MidiEvent& event, int time);
-    void answer(const engine::Lauf& run);
-    void closed(const engine::Lauf& run, const core::Zustand& z);
+    void answer(const engine::Run& run);
+    void closed(const engine::Run& run, const core::Zustand& z);
 
     std::ostream& stream_;
     const form::VirtualTime& loop_;
-    staff::Notenzeile* staff_ = nullptr;
+    staff::Staff* staff_ = nullptr;
     form::Connection draws_;
     std::string drawn_;  ///< notes not told yet
 };

@@ -1,20 +1,20 @@
 #include "sim/writer.h"
 
-#include "staff/noteneingabe.h"
-#include "staff/notenzeile.h"
+#include "staff/note_entry.h"
+#include "staff/staff.h"
 
 namespace sim {
 
 namespace {
 
-using staff::Notenzeile;
-namespace quelle = staff::quelle;
+using staff::Staff;
+namespace source = staff::source;
 
 constexpr int first = 1, last = 6;  // columns that can be written in
 
-Accidentals wanted(const engine::Aufgabe& task) {
+Accidentals wanted(const engine::Task& task) {
     Accidentals all{};
-    for (int c = first; c <= last; ++c) base::at(all, c) = core::vorzeichen(task.tonAn(c).qz);
+    for (int c = first; c <= last; ++c) base::at(all, c) = core::accidental(task.pitchAt(c).qz);
     return all;
 }
 
@@ -28,19 +28,19 @@ void misspell(Accidentals& accidentals, int rising) {
     }
 }
 
-void drop(worksheets::Arbeitsblatt& sheet, int column, int accidental) {
-    Notenzeile& staff = *sheet.notenzeile();
-    const staff::Spalte& note = staff.NotSelb(column);
-    if (note.vorzeichen == accidental) return;
-    const form::Control* field = sheet.find(quelle::feld, quelle::mit(accidental));
-    const int y = staff.grenze(staff.SchlZ()).dazwischen(note.y());
+void drop(worksheets::Worksheet& sheet, int column, int accidental) {
+    Staff& staff = *sheet.staff();
+    const staff::Column& note = staff.NotSelb(column);
+    if (note.accidental == accidental) return;
+    const form::Control* field = sheet.find(source::control, source::with(accidental));
+    const int y = staff.grenze(staff.SchlZ()).nearestBetween(note.y());
     staff.PicB(staff.SchlZ())
-        .ablegen({*field, static_cast<float>(staff.lage().x(column)), static_cast<float>(y)});
+        .drop({*field, static_cast<float>(staff.layout().x(column)), static_cast<float>(y)});
 }
 
 }  // namespace
 
-Accidentals accidentals(const engine::Aufgabe& task, Writing how, base::Rnd& chance) {
+Accidentals accidentals(const engine::Task& task, Writing how, base::Rnd& chance) {
     Accidentals all = wanted(task);
     if (how == Writing::Enharmonic) misspell(all, task.akt_richtung);
     if (how == Writing::Wrong) {
@@ -50,8 +50,8 @@ Accidentals accidentals(const engine::Aufgabe& task, Writing how, base::Rnd& cha
     return all;
 }
 
-void writeScale(worksheets::Arbeitsblatt& sheet, Writing how, base::Rnd& chance) {
-    const Accidentals all = accidentals(sheet.lauf().aufgabe(), how, chance);
+void writeScale(worksheets::Worksheet& sheet, Writing how, base::Rnd& chance) {
+    const Accidentals all = accidentals(sheet.run().task(), how, chance);
     for (int c = first; c <= last; ++c) drop(sheet, c, base::at(all, c));
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 #include "base/rnd.h"
-#include "worksheets/arbeitsblatt.h"
+#include "worksheets/worksheet.h"
 
 #include <array>
 
@@ -15,10 +15,10 @@ enum class Writing {
 
 /// The accidentals that are put on the inner notes of a scale, by their place in the task, 1 to 6.
 using Accidentals = std::array<int, 7>;
-Accidentals accidentals(const engine::Aufgabe& task, Writing how, base::Rnd& chance);
+Accidentals accidentals(const engine::Task& task, Writing how, base::Rnd& chance);
 
 /// Drags accidentals from the palette onto the staff, as a user would, until it stands as wanted.
 /// Does not hand it in.
-void writeScale(worksheets::Arbeitsblatt& sheet, Writing how, base::Rnd& chance);
+void writeScale(worksheets::Worksheet& sheet, Writing how, base::Rnd& chance);
 
 }  // namespace sim

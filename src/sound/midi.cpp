@@ -6,24 +6,24 @@ namespace sound {
 
 namespace {
 
-constexpr int noteAus = 0x80;
-constexpr int noteAn = 0x90;
-constexpr int programmWechsel = 0xC0;
+constexpr int noteOff = 0x80;
+constexpr int noteOn = 0x90;
+constexpr int programChange = 0xC0;
 constexpr int pitchBend = 0xE0;
-constexpr std::int32_t ausTag = 1000000;
+constexpr std::int32_t offTag = 1000000;
 
 }  // namespace
 
 std::vector<MidiDevice> Midi::MidiGeraete(MidiOutput& control) {
-    std::vector<MidiDevice> geraete;
-    const int anzahl = control.deviceCount();
-    for (int id = MidiOutput::mapper; id < anzahl; ++id) geraete.push_back(control.device(id));
-    midi_geraet_ = host_.midiGeraet() == core::Host::keinGeraet ? anzahl - 1 : host_.midiGeraet();
-    return geraete;
+    std::vector<MidiDevice> devices;
+    const int count = control.deviceCount();
+    for (int id = MidiOutput::mapper; id < count; ++id) devices.push_back(control.device(id));
+    midi_geraet_ = host_.midiGeraet() == core::Host::keinGeraet ? count - 1 : host_.midiGeraet();
+    return devices;
 }
 
 void Midi::MidiInit(MidiOutput& control) {
-    LautstaerkeHerstellen();
+    restoreVolume();
     midi_ausgabe_ = &control;
     midi_kanal_ = 0;
     midi_lautstaerke_ = 100;
@@ -33,76 +33,76 @@ void Midi::MidiInit(MidiOutput& control) {
 }
 
 void Midi::MidiNote(i16 note, int start, int dauer, i16 kanal, std::int32_t tag, int anschlag) {
-    MidiEvent event{.status = noteAn + kanal,
+    MidiEvent event{.status = noteOn + kanal,
                     .data1 = note,
                     .data2 = anschlag < 0 ? int(midi_lautstaerke_) : anschlag,
                     .time = start,
                     .tag = tag};
-    ausgabe().queue(event);
-    event.status = noteAus + kanal;
+    output().queue(event);
+    event.status = noteOff + kanal;
     event.time = start + dauer;
-    event.tag = tag + ausTag;
-    ausgabe().queue(event);
+    event.tag = tag + offTag;
+    output().queue(event);
 }
 
 void Midi::MidiPitchBend(i16 kanal, i16 wert) {
-    ausgabe().send({.status = pitchBend + kanal, .data1 = 0, .data2 = wert});
+    output().send({.status = pitchBend + kanal, .data1 = 0, .data2 = wert});
 }
 
 void Midi::SetzeKlangfarbe(i16 KFarbe, i16 KChannel) {
-    ausgabe().send({.status = programmWechsel + KChannel, .data1 = KFarbe, .data2 = 0});
+    output().send({.status = programChange + KChannel, .data1 = KFarbe, .data2 = 0});
 }
 
-void Midi::SetzeKlangfarben(const base::FixedArray<i16, 9>& patch) {
+void Midi::setInstruments(const base::FixedArray<i16, 9>& patch) {
     for (int kanal = 0; const i16 klangfarbe : patch) SetzeKlangfarbe(klangfarbe, kanal++);
 }
 
 void Midi::MidiReset() {
-    ausgabe().stop();
-    ausgabe().close();
-    ausgabe().open(midi_geraet_);
-    LautstaerkeHerstellen();
+    output().stop();
+    output().close();
+    output().open(midi_geraet_);
+    restoreVolume();
 }
 
 /// A run that was left in a fade, or between fade-out and fade-in, must not leave the device mute.
-void Midi::LautstaerkeHerstellen() {
-    if (vol_links_ > 0 && (blendet_ || ausgabe().volumeLeft() == 0))
-        Volumen(vol_links_, vol_rechts_);
-    blendet_ = false;
+void Midi::restoreVolume() {
+    if (vol_links_ > 0 && (fading_ || output().volumeLeft() == 0))
+        setDeviceVolume(vol_links_, vol_rechts_);
+    fading_ = false;
 }
 
-bool Midi::Blendschritt(int v) {
-    blendet_ = true;
-    Volumen(v, v);
+bool Midi::fadeStep(int v) {
+    fading_ = true;
+    setDeviceVolume(v, v);
     loop_.doEvents();
-    return blendet_;
+    return fading_;
 }
 
-void Midi::Volumen(int links, int rechts) {
-    ausgabe().setVolume(std::max(0, links), std::max(0, rechts));
+void Midi::setDeviceVolume(int left, int right) {
+    output().setVolume(std::max(0, left), std::max(0, right));
 }
 
 void Midi::MidiAusblenden() {
-    ausgabe().stop();
-    if (ausgabe().volumeLeft() <= 0) return;
-    vol_links_ = ausgabe().volumeLeft();
-    vol_rechts_ = ausgabe().volumeRight();
-    for (int v = vol_links_; v > 0; v -= stufe)
-        if (!Blendschritt(v)) return;
-    blendet_ = false;
-    Volumen(0, 0);
+    output().stop();
+    if (output().volumeLeft() <= 0) return;
+    vol_links_ = output().volumeLeft();
+    vol_rechts_ = output().volumeRight();
+    for (int v = vol_links_; v > 0; v -= volumeStep)
+        if (!fadeStep(v)) return;
+    fading_ = false;
+    setDeviceVolume(0, 0);
 }
 
 void Midi::MidiEinblenden() {
-    ausgabe().start();
+    output().start();
     if (vol_links_ <= 0) return;
-    for (int v = 0; v < vol_links_; v += stufe)
-        if (!Blendschritt(v)) return;
-    blendet_ = false;
-    Volumen(vol_links_, vol_rechts_);
+    for (int v = 0; v < vol_links_; v += volumeStep)
+        if (!fadeStep(v)) return;
+    fading_ = false;
+    setDeviceVolume(vol_links_, vol_rechts_);
 }
 
-void Midi::setLautstaerke(i16 wert) {
+void Midi::setVelocity(i16 wert) {
     midi_lautstaerke_ = wert;
     kanal_lautstaerke_[midi_kanal_] = wert;
 }

@@ -1,6 +1,6 @@
 #pragma once
 #include "form/controls.h"
-#include "staff/blatt.h"
+#include "staff/canvas.h"
 
 namespace staff {
 
@@ -18,16 +18,16 @@ class Palette {
     /// Closes the palette, frames red.
     void PaletteAus();
     /// Marks a field as chosen by the keyboard. @param index -1 for none.
-    void markieren(int index);
+    void mark(int index);
 
     form::Group pbNoten;
     form::ControlArray<form::Group> grdnot;
-    form::ControlArray<Blatt> NotP;
+    form::ControlArray<Canvas> NotP;
     form::Group DragIco;
-    form::ControlArray<Blatt> Ico;
+    form::ControlArray<Canvas> Ico;
 
   private:
-    void rahmen(bool offen);
+    void frames(bool open);
 
     form::Control& staff_;
 };

@@ -13,170 +13,171 @@ namespace worksheets {
 namespace {
 
 /// What letters look like inside a group.
-struct Schrift {
-    bool fett = false, kursiv = false, unsichtbar = false;
-    int halbpunkte = 24;
-    int ersatz = 1;  ///< letters that stand behind a \uN for readers that do not know it
-    friend bool operator==(const Schrift&, const Schrift&) = default;
+struct LetterStyle {
+    bool bold = false, italic = false, hidden = false;
+    int halfPoints = 24;
+    int fallback = 1;  ///< letters that stand behind a \uN for readers that do not know it
+    friend bool operator==(const LetterStyle&, const LetterStyle&) = default;
 };
 
 /// What the bytes 0x80..0x9F mean in code page 1252; a byte without a meaning stays as it is.
-constexpr std::array<std::uint16_t, 32> seite1252{
+constexpr std::array<std::uint16_t, 32> page1252{
     0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
-std::uint32_t ausByte(unsigned byte) {
-    return byte >= 0x80 && byte < 0xA0 ? seite1252.at(byte - 0x80) : byte;
+std::uint32_t fromByte(unsigned byte) {
+    return byte >= 0x80 && byte < 0xA0 ? page1252.at(byte - 0x80) : byte;
 }
 
 /// Control words and symbols that stand for a letter.
-struct Satzzeichen {
-    std::string_view befehl;
-    std::uint32_t zeichen;
+struct Symbol {
+    std::string_view command;
+    std::uint32_t letter;
 };
-constexpr std::array satzzeichen{Satzzeichen{"endash", 0x2013},    Satzzeichen{"emdash", 0x2014},
-                                 Satzzeichen{"lquote", 0x2018},    Satzzeichen{"rquote", 0x2019},
-                                 Satzzeichen{"ldblquote", 0x201C}, Satzzeichen{"rdblquote", 0x201D},
-                                 Satzzeichen{"bullet", 0x2022},    Satzzeichen{"enspace", 0x2002},
-                                 Satzzeichen{"emspace", 0x2003},   Satzzeichen{"qmspace", 0x2005},
-                                 Satzzeichen{"tab", 0xA0},         Satzzeichen{"~", 0xA0},
-                                 Satzzeichen{"_", 0x2011},         Satzzeichen{"-", 0xAD}};
+constexpr std::array symbols{Symbol{"endash", 0x2013},    Symbol{"emdash", 0x2014},
+                             Symbol{"lquote", 0x2018},    Symbol{"rquote", 0x2019},
+                             Symbol{"ldblquote", 0x201C}, Symbol{"rdblquote", 0x201D},
+                             Symbol{"bullet", 0x2022},    Symbol{"enspace", 0x2002},
+                             Symbol{"emspace", 0x2003},   Symbol{"qmspace", 0x2005},
+                             Symbol{"tab", 0xA0},         Symbol{"~", 0xA0},
+                             Symbol{"_", 0x2011},         Symbol{"-", 0xAD}};
 
-void utf8(std::string& ziel, std::uint32_t zeichen) {
-    const auto byte = [&](std::uint32_t b) { ziel += static_cast<char>(b); };
-    if (zeichen < 0x80) {
-        byte(zeichen);
-    } else if (zeichen < 0x800) {
-        byte(0xC0 | zeichen >> 6);
-        byte(0x80 | (zeichen & 0x3F));
+void utf8(std::string& target, std::uint32_t letter) {
+    const auto byte = [&](std::uint32_t b) { target += static_cast<char>(b); };
+    if (letter < 0x80) {
+        byte(letter);
+    } else if (letter < 0x800) {
+        byte(0xC0 | letter >> 6);
+        byte(0x80 | (letter & 0x3F));
     } else {
-        if (zeichen < 0x10000) {
-            byte(0xE0 | zeichen >> 12);
+        if (letter < 0x10000) {
+            byte(0xE0 | letter >> 12);
         } else {
-            byte(0xF0 | zeichen >> 18);
-            byte(0x80 | (zeichen >> 12 & 0x3F));
+            byte(0xF0 | letter >> 18);
+            byte(0x80 | (letter >> 12 & 0x3F));
         }
-        byte(0x80 | (zeichen >> 6 & 0x3F));
-        byte(0x80 | (zeichen & 0x3F));
+        byte(0x80 | (letter >> 6 & 0x3F));
+        byte(0x80 | (letter & 0x3F));
     }
 }
 
-class Leser {
+class Reader {
   public:
-    explicit Leser(std::string_view rtf) : rtf_(rtf) {}
+    explicit Reader(std::string_view rtf) : rtf_(rtf) {}
 
     std::string html() {
         if (!rtf_.starts_with("{\\rtf")) throw std::runtime_error("no rich text");
-        do schritt();
-        while (!gruppen_.empty());
-        absatzSchliessen();
+        do step();
+        while (!groups_.empty());
+        closeParagraph();
         return html_;
     }
 
   private:
-    char zeichen() {
-        if (stelle_ >= rtf_.size()) throw std::runtime_error("the rich text does not end");
-        return rtf_[stelle_++];
+    char nextByte() {
+        if (position_ >= rtf_.size()) throw std::runtime_error("the rich text does not end");
+        return rtf_[position_++];
     }
 
-    void schritt() {
-        switch (const char c = zeichen()) {
+    void step() {
+        switch (const char c = nextByte()) {
             case '{':
-                gruppen_.push_back(schrift_);
+                groups_.push_back(style_);
                 break;
             case '}':
-                schrift_ = gruppen_.back();
-                gruppen_.pop_back();
+                style_ = groups_.back();
+                groups_.pop_back();
                 break;
             case '\\':
-                befehl();
+                command();
                 break;
             case '\r':
             case '\n':
                 break;
             default:
-                schreiben(ausByte(static_cast<unsigned char>(c)));
+                write(fromByte(static_cast<unsigned char>(c)));
         }
     }
 
-    void befehl() {
-        const char c = zeichen();
+    void command() {
+        const char c = nextByte();
         if (c == '\'') {
-            const std::string hex{zeichen(), zeichen()};
-            unsigned wert = 0;
-            std::from_chars(hex.data(), hex.data() + 2, wert, 16);
-            schreiben(ausByte(wert));
+            const std::string hex{nextByte(), nextByte()};
+            unsigned value = 0;
+            std::from_chars(hex.data(), hex.data() + 2, value, 16);
+            write(fromByte(value));
         } else if (c == '*') {
-            schrift_.unsichtbar = true;
+            style_.hidden = true;
         } else if (c == '{' || c == '}' || c == '\\') {
-            schreiben(static_cast<unsigned char>(c));
+            write(static_cast<unsigned char>(c));
         } else if (c >= 'a' && c <= 'z') {
-            --stelle_;
-            wort();
+            --position_;
+            word();
         } else {
-            satzzeichenSchreiben({&c, 1});
+            writeSymbol({&c, 1});
         }
     }
 
-    void wort() {
-        const auto anfang = stelle_;
-        while (stelle_ < rtf_.size() && rtf_[stelle_] >= 'a' && rtf_[stelle_] <= 'z') ++stelle_;
-        const auto name = rtf_.substr(anfang, stelle_ - anfang);
-        int wert = 0;
-        const auto [ende, fehler] =
-            std::from_chars(rtf_.data() + stelle_, rtf_.data() + rtf_.size(), wert);
-        const bool mitWert = fehler == std::errc();
-        if (mitWert) stelle_ = static_cast<std::size_t>(ende - rtf_.data());
-        if (stelle_ < rtf_.size() && rtf_[stelle_] == ' ') ++stelle_;
-        ausfuehren(name, mitWert, wert);
+    void word() {
+        const auto start = position_;
+        while (position_ < rtf_.size() && rtf_[position_] >= 'a' && rtf_[position_] <= 'z')
+            ++position_;
+        const auto name = rtf_.substr(start, position_ - start);
+        int value = 0;
+        const auto [end, error] =
+            std::from_chars(rtf_.data() + position_, rtf_.data() + rtf_.size(), value);
+        const bool hasValue = error == std::errc();
+        if (hasValue) position_ = static_cast<std::size_t>(end - rtf_.data());
+        if (position_ < rtf_.size() && rtf_[position_] == ' ') ++position_;
+        execute(name, hasValue, value);
     }
 
-    void ausfuehren(std::string_view name, bool mitWert, int wert) {
-        if (name == "b") schrift_.fett = !mitWert || wert != 0;
-        if (name == "i") schrift_.kursiv = !mitWert || wert != 0;
-        if (name == "fs" && mitWert) schrift_.halbpunkte = wert;
-        if (name == "uc" && mitWert) schrift_.ersatz = wert;
-        if (name == "plain") schrift_ = Schrift{};
-        if (name == "par") absatzSchliessen(true);
-        if (name == "line") zeilenwechsel();
-        if (name == "pard") ausrichtung_ = "left";
-        if (name == "ql") ausrichtung_ = "left";
-        if (name == "qc") ausrichtung_ = "center";
-        if (name == "qr") ausrichtung_ = "right";
-        if (name == "qj") ausrichtung_ = "justify";
-        if (name == "u" && mitWert) {
-            schreiben(static_cast<std::uint16_t>(wert));
-            ueberspringen_ = schrift_.ersatz;
+    void execute(std::string_view name, bool hasValue, int value) {
+        if (name == "b") style_.bold = !hasValue || value != 0;
+        if (name == "i") style_.italic = !hasValue || value != 0;
+        if (name == "fs" && hasValue) style_.halfPoints = value;
+        if (name == "uc" && hasValue) style_.fallback = value;
+        if (name == "plain") style_ = LetterStyle{};
+        if (name == "par") closeParagraph(true);
+        if (name == "line") lineBreak();
+        if (name == "pard") alignment_ = "left";
+        if (name == "ql") alignment_ = "left";
+        if (name == "qc") alignment_ = "center";
+        if (name == "qr") alignment_ = "right";
+        if (name == "qj") alignment_ = "justify";
+        if (name == "u" && hasValue) {
+            write(static_cast<std::uint16_t>(value));
+            skip_ = style_.fallback;
         }
-        for (const char* tabelle : {"fonttbl", "colortbl", "stylesheet", "info", "pict"})
-            if (name == tabelle) schrift_.unsichtbar = true;
-        satzzeichenSchreiben(name);
+        for (const char* table : {"fonttbl", "colortbl", "stylesheet", "info", "pict"})
+            if (name == table) style_.hidden = true;
+        writeSymbol(name);
     }
 
-    void satzzeichenSchreiben(std::string_view befehl) {
-        const auto* gemeint = std::ranges::find(satzzeichen, befehl, &Satzzeichen::befehl);
-        if (gemeint != satzzeichen.end()) schreiben(gemeint->zeichen);
+    void writeSymbol(std::string_view command) {
+        const auto* meant = std::ranges::find(symbols, command, &Symbol::command);
+        if (meant != symbols.end()) write(meant->letter);
     }
 
     /// A letter beyond 16 bits comes in two halves, and is whole with the second; a half without
     /// the other is none.
-    bool ganz(std::uint32_t& c) {
-        const std::uint32_t hoch = std::exchange(hoch_, 0);
-        if (c >= 0xD800 && c < 0xDC00) hoch_ = c;
+    bool whole(std::uint32_t& c) {
+        const std::uint32_t first = std::exchange(first_, 0);
+        if (c >= 0xD800 && c < 0xDC00) first_ = c;
         if (c < 0xD800 || c >= 0xE000) return true;
-        if (hoch == 0 || hoch_ != 0) return false;
-        c = 0x10000 + ((hoch & 0x3FF) << 10 | (c & 0x3FF));
+        if (first == 0 || first_ != 0) return false;
+        c = 0x10000 + ((first & 0x3FF) << 10 | (c & 0x3FF));
         return true;
     }
 
-    void schreiben(std::uint32_t c) {
-        if (ueberspringen_ > 0) {
-            --ueberspringen_;
+    void write(std::uint32_t c) {
+        if (skip_ > 0) {
+            --skip_;
             return;
         }
-        if (schrift_.unsichtbar || !ganz(c)) return;
-        lauf();
+        if (style_.hidden || !whole(c)) return;
+        openSpan();
         if (c == '<')
             html_ += "&lt;";
         else if (c == '&')
@@ -186,49 +187,49 @@ class Leser {
     }
 
     /// Opens the paragraph and the run that the next letter belongs to.
-    void lauf() {
-        if (!absatzOffen_) html_ += "<p align=\"" + ausrichtung_ + "\">";
-        absatzOffen_ = true;
-        if (laufOffen_ && geschrieben_ == schrift_) return;
-        laufSchliessen();
-        html_ += "<span style=\"font-size:" + std::to_string(schrift_.halbpunkte / 2) + "pt" +
-                 (schrift_.fett ? ";font-weight:bold" : "") +
-                 (schrift_.kursiv ? ";font-style:italic" : "") + "\">";
-        geschrieben_ = schrift_;
-        laufOffen_ = true;
+    void openSpan() {
+        if (!paragraphOpen_) html_ += "<p align=\"" + alignment_ + "\">";
+        paragraphOpen_ = true;
+        if (spanOpen_ && written_ == style_) return;
+        closeSpan();
+        html_ += "<span style=\"font-size:" + std::to_string(style_.halfPoints / 2) + "pt" +
+                 (style_.bold ? ";font-weight:bold" : "") +
+                 (style_.italic ? ";font-style:italic" : "") + "\">";
+        written_ = style_;
+        spanOpen_ = true;
     }
 
-    void laufSchliessen() {
-        if (laufOffen_) html_ += "</span>";
-        laufOffen_ = false;
+    void closeSpan() {
+        if (spanOpen_) html_ += "</span>";
+        spanOpen_ = false;
     }
 
-    void zeilenwechsel() {
-        if (!schrift_.unsichtbar && absatzOffen_) html_ += "<br/>";
+    void lineBreak() {
+        if (!style_.hidden && paragraphOpen_) html_ += "<br/>";
     }
 
-    void absatzSchliessen(bool auchLeer = false) {
-        laufSchliessen();
-        if (absatzOffen_)
+    void closeParagraph(bool evenEmpty = false) {
+        closeSpan();
+        if (paragraphOpen_)
             html_ += "</p>";
-        else if (auchLeer && !html_.empty())
+        else if (evenEmpty && !html_.empty())
             html_ += "<p></p>";
-        absatzOffen_ = false;
+        paragraphOpen_ = false;
     }
 
     std::string_view rtf_;
-    std::size_t stelle_ = 0;
-    std::vector<Schrift> gruppen_;
-    Schrift schrift_, geschrieben_;
-    std::string ausrichtung_ = "left";
+    std::size_t position_ = 0;
+    std::vector<LetterStyle> groups_;
+    LetterStyle style_, written_;
+    std::string alignment_ = "left";
     std::string html_;
-    int ueberspringen_ = 0;
-    std::uint32_t hoch_ = 0;  ///< first half of a letter, 0 for none
-    bool absatzOffen_ = false, laufOffen_ = false;
+    int skip_ = 0;
+    std::uint32_t first_ = 0;  ///< first half of a letter, 0 for none
+    bool paragraphOpen_ = false, spanOpen_ = false;
 };
 
 }  // namespace
 
-std::string rtfAlsHtml(std::string_view rtf) { return Leser(rtf).html(); }
+std::string rtfToHtml(std::string_view rtf) { return Reader(rtf).html(); }
 
 }  // namespace worksheets

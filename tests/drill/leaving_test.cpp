@@ -8,7 +8,7 @@ namespace setup::test {
 
 namespace {
 
-using engine::AufgZustand;
+using engine::TaskState;
 
 using Leaving = OnHost;
 
@@ -21,18 +21,17 @@ TEST_F(Leaving, TheWorksheetStaysUntilTheResultHasCome) {
         run.mode(mode);
         run.begin();
         do run.task(true);
-        while (run.turn() == AufgZustand::Geschlossen);
-        EXPECT_EQ(run.turn(),
-                  mode == 1 ? AufgZustand::TrainingBeendet : AufgZustand::PruefungBeendet);
+        while (run.taskState() == TaskState::Closed);
+        EXPECT_EQ(run.taskState(), mode == 1 ? TaskState::TrainingOver : TaskState::ExamOver);
         // A training may still be heard again; in an exam nothing appears and nothing goes.
         EXPECT_TRUE(run.on<form::Panel>("wieder").visible());
         EXPECT_FALSE(run.on<form::Panel>("wieder").enabled());
         EXPECT_EQ(run.on<form::Panel>("wieder2").visible(), mode == 1);
         EXPECT_EQ(run.on<form::Panel>("wieder2").enabled(), mode == 1);
         if (mode == 1) run.click("wieder2");
-        const int left = run.lauf().stand().restZeit;
+        const int left = run.exerciseRun().standing().restZeit;
         run.wait(60000);
-        EXPECT_EQ(run.lauf().stand().restZeit, left) << "the clock of an exam stops";
+        EXPECT_EQ(run.exerciseRun().standing().restZeit, left) << "the clock of an exam stops";
         EXPECT_EQ(run.on("wieder2").usable(), mode == 1) << "as often as wanted";
         EXPECT_FALSE(run.on("CmdNextAufg").usable());
 
@@ -79,7 +78,7 @@ TEST_F(Leaving, ARunBearsTheFaultsOfHelpAndKeys) {
     EXPECT_TRUE(run.running());
     EXPECT_EQ(run.sheet().pointer(), form::Pointer::Arrow);
     run.answerRight();
-    EXPECT_EQ(run.turn(), AufgZustand::Geschlossen) << "the run goes on";
+    EXPECT_EQ(run.taskState(), TaskState::Closed) << "the run goes on";
     run.z.tempoIdx = 99;  // the task cannot be played
     run.click("CmdNextAufg");
     run.wait(500);

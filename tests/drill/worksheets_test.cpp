@@ -8,7 +8,7 @@ namespace setup::test {
 
 namespace {
 
-using engine::AufgZustand;
+using engine::TaskState;
 using sim::Writing;
 
 constexpr Way writing{false, 4}, theoryNaming{true, 1}, theoryWriting{true, 4};
@@ -17,8 +17,8 @@ struct Exercise : Practice {
     using Practice::Practice;
 
     int wrongColumns() {
-        return engine::geschrieben(task(),
-                                   [this](int c) { return sheet().notenzeile()->NotSelb(c).ton(); })
+        return engine::writtenAnswer(task(),
+                                     [this](int c) { return sheet().staff()->NotSelb(c).pitch(); })
             .index;
     }
     void handIn(Writing how) {
@@ -51,15 +51,14 @@ TEST_F(Worksheets, FourWrongAnswersBringTheSolutionToSeeAndToHear) {
         EXPECT_FALSE(run.ready());
         run.next();
         for (int tries = 1; tries <= 4; ++tries) {
-            EXPECT_NE(run.turn(), AufgZustand::Geschlossen);
+            EXPECT_NE(run.taskState(), TaskState::Closed);
             run.handIn(Writing::Wrong);
             EXPECT_EQ(run.caption("zaehler", 1), std::to_string(tries));
         }
-        EXPECT_EQ(run.turn(), AufgZustand::Geschlossen);
+        EXPECT_EQ(run.taskState(), TaskState::Closed);
         EXPECT_EQ(run.wrongColumns(), 0);
         int red = 0;
-        for (int c = 1; c <= 6; ++c)
-            red += run.sheet().notenzeile()->NotSelb(c).farbe == 12 ? 1 : 0;
+        for (int c = 1; c <= 6; ++c) red += run.sheet().staff()->NotSelb(c).farbe == 12 ? 1 : 0;
         EXPECT_GE(red, 1);
         EXPECT_FALSE(run.on<form::Group>("pbNoten").enabled());
         EXPECT_FALSE(run.ready()) << "a closed task is not handed in";
@@ -94,10 +93,10 @@ TEST_F(Worksheets, SpellingCountsAsMuchAsSound) {
         sim::writeScale(run.sheet(), Writing::Enharmonic, run.chance);
         const bool same = run.wrongColumns() == 0;
         run.on<form::Button>("cmdOK").click();
-        EXPECT_EQ(run.turn() == AufgZustand::Geschlossen, same);
+        EXPECT_EQ(run.taskState() == TaskState::Closed, same);
         misspelled += same ? 0 : 1;
         if (!same) run.handIn(Writing::Right);
-        EXPECT_EQ(run.turn(), AufgZustand::Geschlossen);
+        EXPECT_EQ(run.taskState(), TaskState::Closed);
         EXPECT_TRUE(run.midi.noteOns().empty()) << "nothing sounds";
     }
     EXPECT_GT(misspelled, 5);

@@ -1,6 +1,6 @@
 #pragma once
 #include "core/katalog.h"
-#include "engine/lauf.h"
+#include "engine/run.h"
 #include "support/choices.h"
 
 #include <algorithm>
@@ -12,13 +12,13 @@ namespace engine {
 
 namespace katalog = core::katalog;
 
-inline constexpr const Uebung& hearing = uebungen[0];
-inline constexpr const Uebung& reading = uebungen[1];
-inline constexpr const Uebung& writing = uebungen[2];
+inline constexpr const Exercise& hearing = exercises[0];
+inline constexpr const Exercise& reading = exercises[1];
+inline constexpr const Exercise& writing = exercises[2];
 
 /// A run without form, sound or time: church modes in both directions, one octave.
 struct BareRun {
-    explicit BareRun(const Uebung& exercise = hearing, std::int64_t seed = 1)
+    explicit BareRun(const Exercise& exercise = hearing, std::int64_t seed = 1)
         : exercise_(exercise), seed_(seed) {
         z.theoriewahl = exercise.theoriewahl;
         z.ueb_typ = exercise.ueb_typ;
@@ -30,31 +30,31 @@ struct BareRun {
 
     void category(int skal_typ) { support::category(z, skal_typ); }
     void choose(const std::vector<int>& codes) { support::choose(z, codes); }
-    Lauf& begin(int uebungsmodus = core::modus::ausprobieren) {
+    engine::Run& begin(int uebungsmodus = core::modus::ausprobieren) {
         z.uebungsmodus = uebungsmodus;
         run.emplace(z, rnd, wertung, exercise_);
-        run->beginnen({.vorfuehrung = 4000}, [this] { return seed_; });
+        run->begin({.presentation = 4000}, [this] { return seed_; });
         return *run;
     }
     /// Answers the task in hand. @return what the answer has led to.
-    AufgZustand answer(bool right, float seconds = 0) {
-        run->antwortOffen(0);
-        const int asked = run->aufgabe().skala_nr;
+    TaskState answer(bool right, float seconds = 0) {
+        run->answerOpen(0);
+        const int asked = run->task().skala_nr;
         const int named = right ? asked : (asked + 1) % (int(z.skal_anz) + 1);
-        return run->werten({named, right}, seconds);
+        return run->score({named, right}, seconds);
     }
     /// A task to its end, at once right or wrong until it is lost.
-    AufgZustand task(bool right) {
-        run->ziehen();
-        AufgZustand state = answer(right);
-        while (state == AufgZustand::Weiter) state = answer(false);
+    TaskState task(bool right) {
+        run->draw();
+        TaskState state = answer(right);
+        while (state == TaskState::TryAgain) state = answer(false);
         return state;
     }
-    int code() const { return run->aufgabe().code(); }
+    int code() const { return run->task().code(); }
     /// How often each code stands in the pool; 0 for rows that are used up.
     std::map<int, int> pool() const {
         std::map<int, int> count;
-        for (int i = 1; i <= run->matbox().matboxanz(); ++i) ++count[run->matbox().code(i)];
+        for (int i = 1; i <= run->pool().matboxanz(); ++i) ++count[run->pool().code(i)];
         return count;
     }
     std::map<int, int> weights() const { return support::weights(z); }
@@ -75,10 +75,10 @@ struct BareRun {
     core::Zustand z;
     base::Rnd rnd;
     results::Wertung wertung{z};
-    std::optional<Lauf> run;
+    std::optional<engine::Run> run;
 
   private:
-    const Uebung& exercise_;
+    const Exercise& exercise_;
     std::int64_t seed_;
 };
 

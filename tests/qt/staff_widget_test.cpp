@@ -2,8 +2,8 @@
 #include "qt/staff_widget.h"
 
 #include "qt/painter_surface.h"
-#include "staff/farbe.h"
-#include "staff/noten.h"
+#include "staff/glyphs.h"
+#include "staff/ink.h"
 #include "staff/sheet.h"
 
 #include <QImage>
@@ -33,7 +33,7 @@ TEST(PainterSurface, StaffLinesAreCrispAndEquallyThickAndFarApart) {
     for (const double scale : scales) {
         SCOPED_TRACE(scale);
         const QImage image =
-            painted(scale, [](auto& s) { staff::LinienMalen(s, 160, staff::obersteLinie(0)); });
+            painted(scale, [](auto& s) { staff::paintLines(s, 160, staff::topLine(0)); });
         std::vector<int> begins, ends;
         for (int y = 1; y < image.height(); ++y) {
             const QRgb here = image.pixel(5, y), above = image.pixel(5, y - 1);
@@ -53,11 +53,11 @@ TEST(PainterSurface, StaffLinesAreCrispAndEquallyThickAndFarApart) {
 
 TEST(PainterSurface, WhatIsTakenAwayLeavesNoTrace) {
     const auto preview = [](auto& s) {
-        for (const int colour : {staff::farbe::grau, staff::farbe::weiss})
-            s.linie(54, 40, 67, 40, staff::linienFarbe(colour), staff::Linienart::Voll);
+        for (const int colour : {staff::ink::grey, staff::ink::white})
+            s.line(54, 40, 67, 40, staff::lineColour(colour), staff::LineStyle::Solid);
     };
     const auto note = [](auto& s) {
-        staff::NotenkopfMalen(s, 80, 84, staff::farbe::rot);
+        staff::NotenkopfMalen(s, 80, 84, staff::ink::red);
         staff::DoppelBeMalen(s, 58, 67);
         staff::SpalteLoeschen(s, 16, 80);
     };
@@ -65,7 +65,7 @@ TEST(PainterSurface, WhatIsTakenAwayLeavesNoTrace) {
         SCOPED_TRACE(scale);
         const auto after = [scale](const std::function<void(qt::PainterSurface&)>& draw) {
             return painted(scale, [&](auto& s) {
-                staff::LinienMalen(s, 160, 16);
+                staff::paintLines(s, 160, 16);
                 draw(s);
             });
         };
@@ -103,9 +103,9 @@ TEST(StaffWidget, ADragIsSeenOnTheVisibleSurfaceAloneAndDropsNowhereElse) {
     qt::StaffWidget widget(sheet.staff.PicBNot);
     widget.resize(900, 500);
     const form::Control& sharp = sheet.palette.NotP(3);
-    const staff::Blatt& seen = sheet.staff.PicB(sheet.staff.SchlZ());
-    const QPointF column = widget.placeOf(seen, QPointF(sheet.staff.lage().x(2), 80));
-    const QPointF corner = widget.placeOf(seen, QPointF(seen.lage().breite, seen.lage().hoehe));
+    const staff::Canvas& seen = sheet.staff.PicB(sheet.staff.SchlZ());
+    const QPointF column = widget.placeOf(seen, QPointF(sheet.staff.layout().x(2), 80));
+    const QPointF corner = widget.placeOf(seen, QPointF(seen.bounds().width, seen.bounds().height));
     const QImage clean = widget.grab().toImage();
     for (const QPointF outside : {QPointF(column.x(), 2), QPointF(column.x(), corner.y() + 3),
                                   QPointF(2, column.y()), QPointF(corner.x() + 3, column.y())}) {
@@ -119,7 +119,7 @@ TEST(StaffWidget, ADragIsSeenOnTheVisibleSurfaceAloneAndDropsNowhereElse) {
     widget.dragAway();
     EXPECT_EQ(widget.grab().toImage(), clean);
     EXPECT_TRUE(widget.dropAt(sharp, column));
-    EXPECT_EQ(sheet.staff.NotSelb(2).vorzeichen, 1);
+    EXPECT_EQ(sheet.staff.NotSelb(2).accidental, 1);
 }
 
 }  // namespace

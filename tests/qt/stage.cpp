@@ -4,10 +4,9 @@
 #include <QKeyEvent>
 
 Stage::Stage(const std::string& language)
-    : Desk(
-          {.call = {.rechnername = "practice-room-3",
-                    .programmOrdner = (suite::languageFolder() + "/..").toStdString()},
-           .languages = &languages}),
+    : Desk({.call = {.rechnername = "practice-room-3",
+                     .programmOrdner = (suite::languageFolder() + "/..").toStdString()},
+            .languages = &languages}),
       windows(programm.forms) {
     host.language = language;
     programm.forms.load("grd_einst");
@@ -45,7 +44,7 @@ bool Stage::task(bool right) {
         answerRight();
     else
         lose();
-    return turn() == engine::AufgZustand::Geschlossen;
+    return taskState() == engine::TaskState::Closed;
 }
 
 void Stage::leave() {

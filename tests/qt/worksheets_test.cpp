@@ -11,13 +11,13 @@
 
 namespace {
 
-using engine::AufgZustand;
+using engine::TaskState;
 
 /// Hands in wrong versions until the solution stands there.
 void lose(Stage& stage) {
     auto& sheet = stage.sheet();
     base::Rnd chance(1);
-    while (sheet.lauf().aufgZustand() != AufgZustand::Geschlossen) {
+    while (sheet.run().aufgZustand() != TaskState::Closed) {
         sim::writeScale(sheet, sim::Writing::Wrong, chance);
         stage.on<form::Button>("cmdOK").click();
     }
@@ -64,7 +64,7 @@ TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
     stage.press(stage.sheet().name(), Qt::Key_Return);
     stage.wait(14000);
     for (int column = 1; column <= 6; ++column) {
-        const int accidental = core::vorzeichen(sheet.lauf().aufgabe().tonAn(column).qz);
+        const int accidental = core::accidental(sheet.run().task().pitchAt(column).qz);
         if (column % 2 == 0 && accidental != 0) {
             press(static_cast<Qt::Key>(Qt::Key_3 + accidental));
             press(Qt::Key_Return);
@@ -74,16 +74,16 @@ TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
         }
         press(Qt::Key_Right);
     }
-    EXPECT_TRUE(engine::geschrieben(sheet.lauf().aufgabe(), [&](int c) {
-                    return sheet.notenzeile()->NotSelb(c).ton();
-                }).richtig);
+    EXPECT_TRUE(engine::writtenAnswer(sheet.run().task(), [&](int c) {
+                    return sheet.staff()->NotSelb(c).pitch();
+                }).right);
     EXPECT_NE(staff.accessibleDescription().indexOf(QRegularExpression("flat|sharp")), -1);
     stage.press(stage.sheet().name(), Qt::Key_Return);
-    EXPECT_EQ(sheet.lauf().aufgZustand(), AufgZustand::Geschlossen);
+    EXPECT_EQ(sheet.run().aufgZustand(), TaskState::Closed);
     EXPECT_EQ(stage.caption("zaehler", 0), "1");
-    const auto before = sheet.notenzeile()->NotSelb(1).midi;
+    const auto before = sheet.staff()->NotSelb(1).midi;
     press(Qt::Key_Up);
-    EXPECT_EQ(sheet.notenzeile()->NotSelb(1).midi, before) << "a closed task stands";
+    EXPECT_EQ(sheet.staff()->NotSelb(1).midi, before) << "a closed task stands";
 }
 
 }  // namespace

@@ -101,18 +101,18 @@ TEST(Simulation, TheRoadThroughTheFormsLeadsToTheSameTasks) {
 }
 
 /// Writes down what a bare run asks and what is answered.
-struct Noted final : engine::Protokoll {
+struct Noted final : engine::RunRecorder {
     std::vector<std::vector<int>> tasks;
     std::vector<int> answers;
-    void aufgabe(const engine::Aufgabe& a) override {
+    void task(const engine::Task& a) override {
         tasks.emplace_back();
         for (int i = 0; i < a.tonAnz; ++i) tasks.back().push_back(a.noten[i]);
         tasks.back().push_back(a.akt_richtung);
     }
-    void antwort(const engine::Aufgabe&, const engine::Antwort& answer) override {
+    void answer(const engine::Task&, const engine::Answer& answer) override {
         answers.push_back(answer.index);
     }
-    void weitererVersuch(base::i16) override {}
+    void anotherTry(base::i16) override {}
 };
 
 TEST(BareRuns, AreThoseOfTheForms) {

@@ -123,16 +123,15 @@ void Desk::lose() const {
 }
 
 bool Desk::ready() const {
-    return lauf().uebung().schriftlich() ? on("cmdOK").usable() : open(task().skala_nr);
+    return exerciseRun().exercise().isWritten() ? on("cmdOK").usable() : open(task().skala_nr);
 }
 
 void Desk::next() {
-    using worksheets::Arbeitsblatt;
+    using worksheets::Worksheet;
     constexpr int longest = 30000;  // milliseconds
     bool open = false;
-    const form::Connection turns = sheet().ereignis.connect([&](Arbeitsblatt::Ereignis turn) {
-        open = open || turn == Arbeitsblatt::Ereignis::AntwortOffen;
-    });
+    const form::Connection turns = sheet().turn.connect(
+        [&](Worksheet::Turn turn) { open = open || turn == Worksheet::Turn::AnswerOpen; });
     const auto end = loop.elapsed() + longest;
     if (z.abfrage == 0) click("CmdNextAufg");
     loop.runUntil([&] { return open || !running() || loop.elapsed() > end; });

@@ -4,7 +4,7 @@
 #include "rehearsal/midi_recorder.h"
 #include "rehearsal/room.h"
 #include "rehearsal/temp_folder.h"
-#include "worksheets/arbeitsblatt.h"
+#include "worksheets/worksheet.h"
 
 #include <functional>
 #include <map>
@@ -90,12 +90,12 @@ struct Desk : rehearsal::Room {
     }
     void click(const std::string& name) const;
     bool running() const { return loaded(sheet_); }
-    worksheets::Arbeitsblatt& sheet() const {
-        return dynamic_cast<worksheets::Arbeitsblatt&>(form(sheet_));
+    worksheets::Worksheet& sheet() const {
+        return dynamic_cast<worksheets::Worksheet&>(form(sheet_));
     }
-    const engine::Lauf& lauf() const { return sheet().lauf(); }
-    const engine::Aufgabe& task() const { return lauf().aufgabe(); }
-    engine::AufgZustand turn() const { return lauf().aufgZustand(); }
+    const engine::Run& exerciseRun() const { return sheet().run(); }
+    const engine::Task& task() const { return exerciseRun().task(); }
+    engine::TaskState taskState() const { return exerciseRun().aufgZustand(); }
     /// Milliseconds that one task sounds.
     int taskLength() const { return on<form::Timer>("spieltimer").interval(); }
     /// The answer by that scale can be clicked.

@@ -148,14 +148,14 @@ TEST(AnswerTime, BeginsWithTheOpenAnswersAndAddsUpOverRepetitions) {
     }
     desk.wait(600);
     desk.answerRight();
-    EXPECT_EQ(desk.lauf().letzteAntwort().dauer, 25);
-    EXPECT_FLOAT_EQ(desk.task().verlauf.zeit_malus, 1.2F);
+    EXPECT_EQ(desk.exerciseRun().lastAnswer().dauer, 25);
+    EXPECT_FLOAT_EQ(desk.task().attempt.zeit_malus, 1.2F);
     desk.next();
     desk.wait(4000);
     desk.answerWrong();
     desk.wait(700);
     desk.answerRight();
-    EXPECT_EQ(desk.lauf().letzteAntwort().dauer, 7) << "anew after a wrong answer";
+    EXPECT_EQ(desk.exerciseRun().lastAnswer().dauer, 7) << "anew after a wrong answer";
 }
 
 }  // namespace

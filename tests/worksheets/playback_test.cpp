@@ -86,12 +86,12 @@ TEST(Repetition, CountsBeforeTheAnswerAndNotAfterIt) {
         EXPECT_TRUE(desk.open(0));
         desk.click("wieder");
         desk.click("wieder");
-        EXPECT_EQ(desk.task().verlauf.whlgAnz, n) << "the second click finds it disabled";
+        EXPECT_EQ(desk.task().attempt.whlgAnz, n) << "the second click finds it disabled";
     }
     desk.wait(desk.taskLength());
     desk.answerWrong();
-    EXPECT_EQ(desk.task().verlauf.whlgAnz, 3);
-    EXPECT_EQ(desk.task().verlauf.whlg_anz, 0);
+    EXPECT_EQ(desk.task().attempt.whlgAnz, 3);
+    EXPECT_EQ(desk.task().attempt.whlg_anz, 0);
     desk.answerRight();
     EXPECT_FALSE(desk.on("wieder").usable());
     desk.click("wieder2");
@@ -102,7 +102,7 @@ TEST(Repetition, CountsBeforeTheAnswerAndNotAfterIt) {
     EXPECT_EQ(desk.caption("whlgzaehler"), "3");
     EXPECT_EQ(desk.task().noten[0], notes);
     desk.next();
-    EXPECT_EQ(desk.task().verlauf.whlgAnz, 0);
+    EXPECT_EQ(desk.task().attempt.whlgAnz, 0);
 }
 
 }  // namespace

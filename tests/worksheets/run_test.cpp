@@ -39,7 +39,7 @@ TEST(Exam, EndsByTheClockAtAnyMoment) {
         desk.z.tempoIdx = 9;
         desk.choose({1, 2, -4});
         desk.run();
-        const int seconds = desk.lauf().stand().restZeit;
+        const int seconds = desk.exerciseRun().standing().restZeit;
         desk.wait(seconds * 1000 - lead);
         ASSERT_TRUE(desk.running());
         EXPECT_EQ(desk.caption("stop_uhr"), "W4610 W39410 W480");
@@ -55,9 +55,8 @@ TEST(AutomaticStepping, TheNextTaskComesByItselfUnlessTheLastIsHeardOnceMore) {
     desk.z.abfrage = 1;
     desk.run();
     int tasks = 0;
-    const auto watch = desk.sheet().ereignis.connect([&](Arbeitsblatt::Ereignis turn) {
-        tasks += turn == Arbeitsblatt::Ereignis::AufgabeGezogen ? 1 : 0;
-    });
+    const auto watch = desk.sheet().turn.connect(
+        [&](Worksheet::Turn turn) { tasks += turn == Worksheet::Turn::TaskDrawn ? 1 : 0; });
     EXPECT_FALSE(desk.on("CmdNextAufg").visible());
     desk.wait(1790);
     EXPECT_EQ(tasks, 0);
@@ -99,7 +98,7 @@ TEST(Leaving, InEveryWaitAndFadeAndWhileItSoundsLeavesNoNoteAndAnAudibleDevice) 
             Practice desk;
             prepare(desk, way);
             desk.later(after, [&] {
-                Arbeitsblatt& sheet = desk.sheet();
+                Worksheet& sheet = desk.sheet();
                 sheet.closeBox();
                 sheet.closeBox();
                 desk.midi.starts.clear();

@@ -1,0 +1,140 @@
+#include "worksheets/name_field.h"
+
+#include "core/wort.h"
+#include "staff/ink.h"
+
+#include <cstdlib>
+
+namespace worksheets {
+
+namespace {
+
+constexpr base::Colour openColour = base::rgb(128, 255, 128);
+
+}  // namespace
+
+NameField::NameField(core::Formular& form, core::Programm& programm, const engine::Run& run,
+                     form::Control& side, form::Control& area, const bool& leaving)
+    : form_(form),
+      p(programm),
+      z(programm.zustand),
+      run_(run),
+      leaving_(leaving),
+      tonarten(form, {"tonarten", &area}),
+      tonart(form, "tonart", maxAnswers, &area),
+      skal_pan(form, "skal_pan", maxAnswers, &area),
+      ton_art(form, "ton_art", maxAnswers, &area),
+      skal_bez(form, "skal_bez", maxAnswers, &area),
+      ziffer(form, "ziffer", maxAnswers, &area) {
+    for (int i = 0; i < maxAnswers; ++i) {
+        const form::Handler answer{"skal_antw_click.", [this, i] { skal_antw(i); }};
+        ton_art(i).onClick = answer;
+        tonart(i).onClick = answer;
+        // Closed from the first moment on, before the run is ready.
+        ton_art(i).enabled = false;
+        tonart(i).enabled = false;
+    }
+    if (run.exercise().sounds()) return;
+    view_ = std::make_unique<StaffView>(form, programm, area);
+    schrittmarken = std::make_unique<form::Button>(form, form::Place{"schrittmarken", &side});
+    schrittmarken->enabled = false;
+    schrittmarken->onClick = {"schrittmarken_click.", [this] {
+                                  schrittmarken->enabled = false;
+                                  view_->staff.paintSteps();
+                              }};
+}
+
+bool NameField::offers(int Index) const {
+    if (Index > z.skal_anz) return false;
+    if (z.ska_ausw == 0) return true;
+    for (int k = 0; k <= z.einzelAnz; ++k)
+        if (std::abs(z.einzel_wahl[k]) == Index + 1) return true;
+    return false;
+}
+
+void NameField::prepare() {
+    const auto& kategorie = core::katalog::kategorie(z.skal_typ);
+    const int basis = kategorie.bild_basis[z.final == 1 ? 0 : 1];
+    const bool bilder = z.an_zeig == 0;
+    tonarten.caption = p.katalog.skal_typ_name[z.skal_typ];
+    int digit = 0;
+    for (int i = 0; i < maxAnswers; ++i) {
+        const bool offered = offers(i);
+        if (i <= z.skal_anz) {
+            const std::string& name = p.katalog.skal_name[z.skal_typ][i];
+            skal_bez(i).caption = name;
+            tonart(i).caption = name;
+            ton_art(i).accessibleName = name;
+            ton_art(i).picture = basis + i;
+        }
+        tonart(i).visible = offered && !bilder;
+        for (form::Control* c :
+             std::initializer_list<form::Control*>{&skal_bez(i), &skal_pan(i), &ton_art(i)})
+            c->visible = offered && bilder;
+        ziffer(i).visible = offered;
+        if (offered) ziffer(i).caption = std::to_string(++digit % 10);
+    }
+    closeAll();
+    if (!view_) return;
+    form_.beschriften({{*schrittmarken, core::wort::stepMarks}});
+    view_->prepare(kategorie.tonAnz, true);
+}
+
+/// The scale stands on the staff, in the order in which it is to be read.
+void NameField::show(const engine::Task& a) {
+    if (!view_) return;
+    schrittmarken->enabled = false;
+    view_->layOut(a, true);
+    for (int c = 0; c < a.tonAnz; ++c) view_->staff.NoteSetzen(c, a.pitchAt(c), staff::ink::black);
+}
+
+void NameField::open(int i, bool open) {
+    tonart(i).enabled = open;
+    ton_art(i).enabled = open;
+    skal_pan(i).backColour = open ? openColour : base::colours::red;
+    ton_art(i).backColour = open ? openColour : base::colours::grey;
+}
+
+/// Those that were not tried on this task.
+void NameField::open() {
+    for (int i = 0; i <= z.skal_anz; ++i)
+        if (offers(i) && !base::at(gesperrt_, i)) open(i, true);
+}
+
+void NameField::closeAll() {
+    for (int i = 0; i < maxAnswers; ++i) open(i, false);
+}
+
+void NameField::close() {
+    closeAll();
+    if (leaving_ && schrittmarken) schrittmarken->enabled = false;
+}
+
+/// A wrong answer stays locked until the task is closed.
+void NameField::scored(const engine::Run& run) {
+    if (run.aufgZustand() == engine::TaskState::TryAgain) {
+        const int wrong = run.lastAnswer().index;
+        base::at(gesperrt_, wrong) = true;
+        open(wrong, false);
+        return;
+    }
+    gesperrt_.fill(false);
+    closeAll();
+    if (schrittmarken) schrittmarken->enabled = true;
+}
+
+void NameField::skal_antw(int Index) { give(engine::namedAnswer(run_.task(), Index)); }
+
+bool NameField::key(form::Key key) {
+    if (key.kind != form::Key::Kind::Digit) return false;
+    const std::string digit = std::to_string(key.digit);
+    for (int i = 0; i < maxAnswers; ++i)
+        if (ziffer(i).visible() && ziffer(i).caption() == digit) {
+            tonart(i).click();
+            ton_art(i).click();
+            return true;
+        }
+    return false;
+}
+
+}  // namespace worksheets
