@@ -1,10 +1,15 @@
 #include "engine/exam_plan.h"
 
 #include "base/rounding.h"
+#include "core/katalog.h"
 
 #include <cstdint>
 
 namespace engine {
+
+int soundingTime(const core::Zustand& z) {
+    return z.tempo_dauer[z.tempoIdx] * core::katalog::kategorie(z.skal_typ).tonAnz;
+}
 
 i16 ExamenDauer(const TaskDuration& dauer, int tasks) {
     const auto seconds = [&](int milliseconds) {

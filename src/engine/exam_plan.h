@@ -1,14 +1,20 @@
 #pragma once
-#include "base/i16.h"
+#include "core/zustand.h"
 
 namespace engine {
 
 using base::i16;
 
+/// Milliseconds from a closed task to the next one where that comes by itself.
+inline constexpr int taskGap = 1800;
+
+/// Milliseconds that one task sounds as it is set up.
+int soundingTime(const core::Zustand& z);
+
 /// What one task of a test or exam takes.
 struct TaskDuration {
     int presentation = 0;  ///< of the sound, milliseconds; 0 where nothing sounds
-    int gap = 1800;        ///< to the next task, milliseconds
+    int gap = taskGap;     ///< to the next task, milliseconds
     int zeit_faktor = 20;  ///< free answer time, tenths of a second
 };
 

@@ -23,7 +23,7 @@ void Run::begin(TaskDuration dauer, const std::function<std::int64_t()>& seed) {
     wertung_.auswertung.Clear();
     wertung_.ergebnis_best.Clear();
     choice_.beginRun();
-    ton_anz_akt_ = exercise_.isWritten() ? i16(4) : wrongAnswersAllowed(z);
+    ton_anz_akt_ = wrongAnswersAllowed(z, exercise_);
     z.bewertung_basis = static_cast<float>(ton_anz_akt_) * 0.5F;
     if (z.uebungsmodus == core::modus::training) pool_.beginTraining();
     if (core::isTest(z)) beginExam(dauer);

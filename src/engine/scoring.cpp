@@ -11,13 +11,13 @@ namespace engine {
 float ZeitStrafeBerechnen(float AntwDau, i16 zeit_faktor) {
     const auto grenze = static_cast<float>(zeit_faktor);
     if (AntwDau <= grenze) return 0;
-    const int dragOver = base::floorInt(static_cast<double>(AntwDau - grenze)) / 2;
-    return static_cast<float>(dragOver) / 10.0F + 1.0F;
+    const int over = base::floorInt(static_cast<double>(AntwDau - grenze)) / 2;
+    return static_cast<float>(over) / 10.0F + 1.0F;
 }
 
-i16 wrongAnswersAllowed(const core::Zustand& z) {
+i16 wrongAnswersAllowed(const core::Zustand& z, const Exercise& exercise) {
     constexpr int most = 4;
-    if (z.ska_ausw == 0) return most;
+    if (exercise.isWritten() || z.ska_ausw == 0) return most;
     if (z.richtung < 2) return std::min(most, differentScales(z) - 1);
     int up = 0, down = 0;
     for (int i = 0; i <= z.einzelAnz; ++i) ++(z.einzel_wahl[i] > 0 ? up : down);

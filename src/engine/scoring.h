@@ -1,5 +1,6 @@
 #pragma once
 #include "core/zustand.h"
+#include "engine/exercise.h"
 
 namespace engine {
 
@@ -12,8 +13,9 @@ inline constexpr float rightAtOnce = -4.0F;
 /// 1 up by a tenth for every two tenths over.
 float ZeitStrafeBerechnen(float AntwDau, i16 zeit_faktor);
 
-/// Wrong answers that a task to be named allows, at most 4: one fewer than there are answers.
-i16 wrongAnswersAllowed(const core::Zustand& z);
+/// The wrong answer at which a task is lost: the fourth, or, where there are fewer answers to give,
+/// the one that leaves only the right one.
+i16 wrongAnswersAllowed(const core::Zustand& z, const Exercise& exercise);
 
 /// The code under which a scale that was named wrongly is remembered: it is weighted more, too.
 /// @param asked signed code of the task.

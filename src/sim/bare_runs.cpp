@@ -69,9 +69,7 @@ Outcome BareRuns::run() {
 }
 
 void BareRuns::begin(engine::Run& run) {
-    const int tones = core::katalog::kategorie(z_.skal_typ).tonAnz;
-    run.begin({.presentation = exercise_.sounds() ? int(z_.tempo_dauer[z_.tempoIdx]) * tones : 0},
-              seeds_);
+    run.begin({.presentation = exercise_.sounds() ? engine::soundingTime(z_) : 0}, seeds_);
     if (!saved_.isEmpty()) run.resume(saved_);
 }
 

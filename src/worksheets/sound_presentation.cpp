@@ -1,6 +1,7 @@
 #include "worksheets/sound_presentation.h"
 
 #include "core/wort.h"
+#include "engine/exam_plan.h"
 #include "sound/phrase.h"
 #include "worksheets/worksheet.h"
 
@@ -42,16 +43,12 @@ void SoundPresentation::offerOwnVersion(std::function<Version()> version) {
                        }};
 }
 
-int SoundPresentation::dauer() const {
-    return z.tempo_dauer[z.tempoIdx] * core::katalog::kategorie(z.skal_typ).tonAnz;
-}
-
 void SoundPresentation::beginRun() {
     if (eigene) worksheet_.beschriften({{*eigene, wort::ownVersion}});
     worksheet_.beschriften(
         {{wieder, wort::repeat}, {wieder2, wort::repeatCheck}, {whlgzaehler_lb, wort::repeats}});
     wieder.enabled = false;
-    spieltimer.setInterval(dauer());
+    spieltimer.setInterval(engine::soundingTime(z));
 }
 
 void SoundPresentation::beginTask() {

@@ -26,8 +26,6 @@ class SoundPresentation final {
     void offerOwnVersion(std::function<Version()> version);
 
     void beginRun();
-    /// Length of one presentation in the run as it is set up, milliseconds.
-    int dauer() const;
     /// A task was drawn: everything of the task before is taken back.
     void beginTask();
     void present();

@@ -108,8 +108,7 @@ void Worksheet::start_timer() {
     setCaptions();
     forms().show(name());
 
-    run_.begin({.presentation = presentation_ ? presentation_->dauer() : 0, .gap = taskGap},
-               p.ports.saat);
+    run_.begin({.presentation = presentation_ ? engine::soundingTime(z) : 0}, p.ports.saat);
     field_->prepare();
     if (presentation_) presentation_->beginRun();
     if (z.uebungsmodus == core::modus::fortsetzung) resumeTraining();

@@ -81,9 +81,6 @@ class Worksheet final : public core::Formular {
     void nachFehler(const std::string& prozedur) override;
     std::string logText(const std::string& prozedur) const override { return prozedur + name(); }
 
-    /// Milliseconds from a closed task to the next one that comes by itself.
-    static constexpr int taskGap = 1800;
-
     sound::Midi& midi_;
     results::Skalaxml& xml_;
     engine::XmlRecorder recorder_;
@@ -121,7 +118,7 @@ class Worksheet final : public core::Formular {
     form::Label tasten{*this, {"tasten"}};
     form::Button cmdHilfe{*this, {"cmdHilfe"}};
     form::Timer start{*this, {"start"}, 1};
-    form::Timer WahlAutomat{*this, {"WahlAutomat"}, taskGap};
+    form::Timer WahlAutomat{*this, {"WahlAutomat"}, engine::taskGap};
     form::Timer Uhrzeit{*this, {"Uhrzeit"}, 10000};
     form::Timer testtimer{*this, {"testtimer"}, 5000};
 
