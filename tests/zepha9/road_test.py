@@ -127,6 +127,7 @@ class Road(unittest.TestCase):
         with wave.open(str(self.wav)) as sound:
             frames = sound.readframes(sound.getnframes())
         self.assertGreater(max(frames), 0, "the task was heard")
+        until("the module's end", lambda: not any(children(p.pid) for p in self.programs))
         self.key("Return")  # back in the menu the way on has the focus again
         self.window("Scales: Basic settings")
 
