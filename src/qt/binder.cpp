@@ -46,7 +46,7 @@ QWidget* Binder::operator()(const std::string& name, int index) {
         case Kind::Group:
             return group(static_cast<form::Group&>(control));
         case Kind::Canvas:
-            return surface(static_cast<staff::Canvas&>(control));
+            return canvas(static_cast<staff::Canvas&>(control));
         case Kind::TextBox:
             return textBox(static_cast<form::TextBox&>(control));
         case Kind::Menu:
@@ -99,7 +99,7 @@ QWidget* Binder::picture(form::Picture& control) {
     return widget;
 }
 
-QWidget* Binder::surface(staff::Canvas& control) {
+QWidget* Binder::canvas(staff::Canvas& control) {
     auto* widget = new StaffWidget(control, &window_);
     common(control, *widget);
     return widget;

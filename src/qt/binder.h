@@ -54,7 +54,7 @@ class Binder {
     QWidget* listBox(form::ListBox& control);
     QWidget* slider(form::Slider& control);
     QWidget* picture(form::Picture& control);
-    QWidget* surface(staff::Canvas& control);
+    QWidget* canvas(staff::Canvas& control);
     QWidget* group(form::Group& control);
     QWidget* menu(form::Menu& control);
     template <class C>

@@ -29,27 +29,27 @@ constexpr auto dragFormat = "application/x-melvora-accidental";
 
 QRectF area(const Rect& r) { return QRectF(r.x, r.y, r.width, r.height); }
 
-void paintSurface(QPainter& painter, const Canvas& surface) {
-    const Rect& place = surface.bounds();
+void paintCanvas(QPainter& painter, const Canvas& canvas) {
+    const Rect& place = canvas.bounds();
     painter.save();
     painter.translate(place.x, place.y);
     painter.setClipRect(QRectF(0, 0, place.width, place.height));
-    painter.fillRect(QRectF(0, 0, place.width, place.height), colour(surface.backColour()));
+    painter.fillRect(QRectF(0, 0, place.width, place.height), colour(canvas.backColour()));
     PainterSurface target(painter, QRectF(0, 0, place.width, place.height));
-    surface.replay(target);
+    canvas.replay(target);
     painter.restore();
 }
 
-/// What is drawn on a surface, without its ground.
-QPixmap pictureOf(const Canvas& surface, double scale, double ratio) {
+/// What is drawn on a canvas, without its ground.
+QPixmap pictureOf(const Canvas& canvas, double scale, double ratio) {
     QPixmap picture(
-        (QSizeF(surface.bounds().width, surface.bounds().height) * scale * ratio).toSize());
+        (QSizeF(canvas.bounds().width, canvas.bounds().height) * scale * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.scale(scale, scale);
     PainterSurface target(painter);
-    surface.replay(target);
+    canvas.replay(target);
     return picture;
 }
 
@@ -72,52 +72,52 @@ std::optional<WritingKey> writingKey(int key) {
     }
 }
 
-/// The surface that a drag began on.
+/// The canvas that a drag began on.
 const form::Control* sourceOf(const QDropEvent& event) {
     const auto* widget = dynamic_cast<StaffWidget*>(event.source());
-    return widget && event.mimeData()->hasFormat(dragFormat) ? &widget->surface() : nullptr;
+    return widget && event.mimeData()->hasFormat(dragFormat) ? &widget->canvas() : nullptr;
 }
 
 }  // namespace
 
-StaffWidget::StaffWidget(Canvas& surface, QWidget* parent) : QWidget(parent), surface_(surface) {
-    for (form::Control* control : surface.form().controls())
-        if (control->container() == &surface && control->kind() == form::Kind::Canvas)
+StaffWidget::StaffWidget(Canvas& canvas, QWidget* parent) : QWidget(parent), canvas_(canvas) {
+    for (form::Control* control : canvas.form().controls())
+        if (control->container() == &canvas && control->kind() == form::Kind::Canvas)
             held_.push_back(static_cast<Canvas*>(control));
     const auto follow = [this](Canvas& shown) {
         connections_.push_back(
-            shown.changed.connect([this](form::Aspect aspect) { surfaceChanged(aspect); }));
+            shown.changed.connect([this](form::Aspect aspect) { canvasChanged(aspect); }));
     };
-    follow(surface);
+    follow(canvas);
     for (Canvas* held : held_) follow(*held);
     setAcceptDrops(!held_.empty());
-    if (surface.onKey) setFocusPolicy(Qt::StrongFocus);
-    if (surface.dragPicture) setCursor(Qt::OpenHandCursor);
+    if (canvas.onKey) setFocusPolicy(Qt::StrongFocus);
+    if (canvas.dragPicture) setCursor(Qt::OpenHandCursor);
     setSizePolicy(held_.empty() ? QSizePolicy::Fixed : QSizePolicy::Expanding,
                   held_.empty() ? QSizePolicy::Fixed : QSizePolicy::Expanding);
 }
 
-void StaffWidget::surfaceChanged(form::Aspect aspect) {
+void StaffWidget::canvasChanged(form::Aspect aspect) {
     if (aspect != form::Aspect::Picture && aspect != form::Aspect::Visible &&
         aspect != form::Aspect::Colour)
         return;
     drawn_ = {};
-    if (size_ != surface_.bounds()) updateGeometry();
-    size_ = surface_.bounds();
+    if (size_ != canvas_.bounds()) updateGeometry();
+    size_ = canvas_.bounds();
     update();
 }
 
 QSize StaffWidget::sizeHint() const {
-    const Rect& place = surface_.bounds();
+    const Rect& place = canvas_.bounds();
     return (QSizeF(place.width, place.height) * suite::scale()).toSize();
 }
 
 QSize StaffWidget::minimumSizeHint() const {
-    return {surface_.bounds().width, surface_.bounds().height};
+    return {canvas_.bounds().width, canvas_.bounds().height};
 }
 
 double StaffWidget::scale() const {
-    const Rect& place = surface_.bounds();
+    const Rect& place = canvas_.bounds();
     if (place.width == 0) return 1;
     const double fit =
         std::min({width() / double(place.width), height() / double(place.height), largestScale});
@@ -126,7 +126,7 @@ double StaffWidget::scale() const {
 
 /// On a whole pixel of the screen.
 QPointF StaffWidget::origin() const {
-    const Rect& place = surface_.bounds();
+    const Rect& place = canvas_.bounds();
     const double ratio = devicePixelRatioF();
     const auto middle = [&](double room, double taken) {
         return std::round((room - taken * scale()) / 2 * ratio) / ratio;
@@ -134,30 +134,30 @@ QPointF StaffWidget::origin() const {
     return {middle(width(), place.width), middle(height(), place.height)};
 }
 
-QPointF StaffWidget::placeOf(const Canvas& surface, QPointF point) const {
-    if (&surface != &surface_) point += QPointF(surface.bounds().x, surface.bounds().y);
+QPointF StaffWidget::placeOf(const Canvas& canvas, QPointF point) const {
+    if (&canvas != &canvas_) point += QPointF(canvas.bounds().x, canvas.bounds().y);
     return origin() + point * scale();
 }
 
 /// Drawn once for what stands there and its size.
 const QPixmap& StaffWidget::drawn() {
     const double ratio = devicePixelRatioF();
-    const Rect& place = surface_.bounds();
+    const Rect& place = canvas_.bounds();
     const QSize pixels = (QSizeF(place.width, place.height) * scale() * ratio).toSize();
     if (drawn_.size() == pixels && drawn_.devicePixelRatio() == ratio) return drawn_;
     drawn_ = QPixmap(pixels);
     drawn_.setDevicePixelRatio(ratio);
     QPainter painter(&drawn_);
     painter.scale(scale(), scale());
-    paintSurface(painter, surface_);
+    paintCanvas(painter, canvas_);
     for (const Canvas* held : held_)
-        if (held->visible()) paintSurface(painter, *held);
-    if (surface_.inWords) setAccessibleDescription(QString::fromStdString(surface_.inWords()));
+        if (held->visible()) paintCanvas(painter, *held);
+    if (canvas_.inWords) setAccessibleDescription(QString::fromStdString(canvas_.inWords()));
     return drawn_;
 }
 
 void StaffWidget::paintEvent(QPaintEvent*) {
-    if (surface_.bounds().width == 0) return;
+    if (canvas_.bounds().width == 0) return;
     QPainter painter(this);
     painter.drawPixmap(origin(), drawn());
     if (!isEnabled()) {
@@ -165,13 +165,13 @@ void StaffWidget::paintEvent(QPaintEvent*) {
         veil.setAlpha(90);
         painter.fillRect(QRectF(origin(), QSizeF(drawn_.deviceIndependentSize())), veil);
     }
-    if (surface_.mark().width > 0 && (hasFocus() || !surface_.onKey)) paintMark(painter);
+    if (canvas_.mark().width > 0 && (hasFocus() || !canvas_.onKey)) paintMark(painter);
 }
 
 /// A tint that leaves what is written black, and a frame.
 void StaffWidget::paintMark(QPainter& painter) const {
-    const QRectF mark = area(surface_.mark());
-    const QRectF place(placeOf(surface_, mark.topLeft()), mark.size() * scale());
+    const QRectF mark = area(canvas_.mark());
+    const QRectF place(placeOf(canvas_, mark.topLeft()), mark.size() * scale());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
     painter.setPen(QPen(suite::accent, 1.5));
@@ -181,18 +181,18 @@ void StaffWidget::paintMark(QPainter& painter) const {
 
 void StaffWidget::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->pos();
-    if (surface_.onKey) setFocus(Qt::MouseFocusReason);
+    if (canvas_.onKey) setFocus(Qt::MouseFocusReason);
 }
 
 void StaffWidget::mouseMoveEvent(QMouseEvent* event) {
     const int distance = (event->pos() - pressed_).manhattanLength();
-    if (!surface_.dragPicture || !(event->buttons() & Qt::LeftButton) ||
+    if (!canvas_.dragPicture || !(event->buttons() & Qt::LeftButton) ||
         distance < QApplication::startDragDistance())
         return;
-    const QPixmap picture = pictureOf(*surface_.dragPicture, suite::scale(), devicePixelRatioF());
+    const QPixmap picture = pictureOf(*canvas_.dragPicture, suite::scale(), devicePixelRatioF());
     auto* drag = new QDrag(this);
     auto* content = new QMimeData;
-    content->setData(dragFormat, QByteArray::number(surface_.index()));
+    content->setData(dragFormat, QByteArray::number(canvas_.index()));
     drag->setMimeData(content);
     drag->setPixmap(picture);
     // To the left of the pointer, as an accidental stands to the left of its note.
@@ -207,9 +207,9 @@ Canvas* StaffWidget::target() const {
     return nullptr;
 }
 
-bool StaffWidget::within(const Canvas& surface, QPointF position) const {
-    const QSizeF size = QSizeF(surface.bounds().width, surface.bounds().height) * scale();
-    return QRectF(placeOf(surface, {}), size).contains(position);
+bool StaffWidget::within(const Canvas& canvas, QPointF position) const {
+    const QSizeF size = QSizeF(canvas.bounds().width, canvas.bounds().height) * scale();
+    return QRectF(placeOf(canvas, {}), size).contains(position);
 }
 
 staff::Drag StaffWidget::dragAt(const form::Control& source, QPointF position) const {
@@ -267,8 +267,8 @@ void StaffWidget::dropEvent(QDropEvent* event) {
 
 void StaffWidget::keyPressEvent(QKeyEvent* event) {
     const auto key = writingKey(event->key());
-    if (!key || !surface_.onKey) return QWidget::keyPressEvent(event);
-    surface_.key(*key);
+    if (!key || !canvas_.onKey) return QWidget::keyPressEvent(event);
+    canvas_.key(*key);
 }
 
 void StaffWidget::changeEvent(QEvent* event) {
@@ -276,7 +276,7 @@ void StaffWidget::changeEvent(QEvent* event) {
     // A task that closes takes the accidental out of the user's hand.
     if (!isEnabled()) QDrag::cancel();
     // Who writes by keys can begin as soon as the staff is open.
-    if (isEnabled() && surface_.onKey) setFocus(Qt::OtherFocusReason);
+    if (isEnabled() && canvas_.onKey) setFocus(Qt::OtherFocusReason);
     update();
 }
 

@@ -9,25 +9,25 @@
 
 namespace qt {
 
-/// Shows a drawn surface with the surfaces that it holds, as large as sensible and in the middle,
+/// Shows a drawn canvas with the canvases that it holds, as large as sensible and in the middle,
 /// sharp at the screen's scale. The user may drag its picture away, drop such a picture on it and
-/// write on it by keys; positions are told in the pixels of the surface.
+/// write on it by keys; positions are told in the pixels of the canvas.
 class StaffWidget final : public QWidget {
   public:
-    explicit StaffWidget(staff::Canvas& surface, QWidget* parent = nullptr);
+    explicit StaffWidget(staff::Canvas& canvas, QWidget* parent = nullptr);
 
-    staff::Canvas& surface() const { return surface_; }
+    staff::Canvas& canvas() const { return canvas_; }
     /// Enter writes here now.
-    bool takesEnter() const { return surface_.takesEnter && surface_.takesEnter(); }
-    /// Logical pixels of the screen to one of the surface.
+    bool takesEnter() const { return canvas_.takesEnter && canvas_.takesEnter(); }
+    /// Logical pixels of the screen to one of the canvas.
     double scale() const;
-    /// Where a point of a surface shown here lies in this widget.
-    QPointF placeOf(const staff::Canvas& surface, QPointF point) const;
+    /// Where a point of a canvas shown here lies in this widget.
+    QPointF placeOf(const staff::Canvas& canvas, QPointF point) const;
 
-    /// A drag is over this widget: it enters and leaves the surface that is seen, not the room
+    /// A drag is over this widget: it enters and leaves the canvas that is seen, not the room
     /// around it. @return whether a drop here would be taken.
     bool dragTo(const form::Control& source, QPointF position);
-    /// It ends here with a drop. @return whether there was a surface to drop on.
+    /// It ends here with a drop. @return whether there was a canvas to drop on.
     bool dropAt(const form::Control& source, QPointF position);
     /// It ends elsewhere, or has left.
     void dragAway();
@@ -47,16 +47,16 @@ class StaffWidget final : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    void surfaceChanged(form::Aspect aspect);
+    void canvasChanged(form::Aspect aspect);
     const QPixmap& drawn();
     void paintMark(QPainter& painter) const;
     QPointF origin() const;
-    /// The visible surface inside this one that takes drops; nullptr for none.
+    /// The visible canvas inside this one that takes drops; nullptr for none.
     staff::Canvas* target() const;
-    bool within(const staff::Canvas& surface, QPointF position) const;
+    bool within(const staff::Canvas& canvas, QPointF position) const;
     staff::Drag dragAt(const form::Control& source, QPointF position) const;
 
-    staff::Canvas& surface_;
+    staff::Canvas& canvas_;
     std::vector<staff::Canvas*> held_;
     std::vector<form::Connection> connections_;
     QPixmap drawn_;
