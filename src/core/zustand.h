@@ -75,6 +75,17 @@ inline bool isTest(const Zustand& z) { return z.uebungsmodus > modus::fortsetzun
 /// Answers count: in every mode but try-out.
 inline bool isScored(const Zustand& z) { return z.uebungsmodus > modus::ausprobieren; }
 
+/// Whether a run asks for a scale of the category at all. @param scale from 0.
+inline bool isOffered(const Zustand& z, int scale) {
+    if (scale > z.skal_anz) return false;
+    if (z.ska_ausw == 0) return true;
+    for (int i = 0; i <= z.einzelAnz; ++i) {
+        const i16 code = z.einzel_wahl[i];
+        if (code == scale + 1 || code == -(scale + 1)) return true;
+    }
+    return false;
+}
+
 /// Slot under which a signed scale code is scored: |code|, for a descending one `skal_anz` + 1
 /// more.
 constexpr i16 skalaSlot(i16 code, i16 skal_anz) {

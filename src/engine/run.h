@@ -63,6 +63,8 @@ class Run {
     }
     /// Of a training that has ended: its goal was reached.
     bool goalReached() const { return pool_.matbox_zahl() == 0; }
+    /// A training in which a task was closed may be kept, to be gone on with another day.
+    bool mayBeKept() const { return core::isTraining(z) && standing_.schalter_frei; }
     const Standing& standing() const { return standing_; }
     const TaskPool& pool() const { return pool_; }
 

@@ -30,14 +30,13 @@ class AnswerTime {
 
 /// How far the learner has got with a task.
 struct Attempt {
-    i16 wrongAnswers;  ///< so far
-    float punkte =
-        0;         ///< error points, 2 for each of them; `rightAtOnce` marks a right first answer
-    i16 whlgAnz;   ///< repetitions of the task
-    i16 whlg_anz;  ///< repetitions since the last answer
-    i16 antwort_nr = 1;                     ///< running number of the answer
-    AnswerTime zeit;                        ///< of the answer to come
-    float zeit_malus = 0;                   ///< score correction for time
+    i16 wrongAnswers;      ///< so far
+    float punkte = 0;      ///< 2 for each wrong answer; `rightAtOnce` marks a right first one
+    i16 whlgAnz;           ///< repetitions of the task
+    i16 whlg_anz;          ///< repetitions since the last answer
+    i16 antwort_nr = 1;    ///< running number of the answer
+    AnswerTime zeit;       ///< of the answer to come
+    float zeit_malus = 0;  ///< score correction for time
     base::FixedArray<i16, 10> FalschSkala;  ///< signed codes of the wrong answers, from 1
 };
 

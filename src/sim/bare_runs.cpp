@@ -5,7 +5,6 @@
 #include "sim/usage_error.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <span>
 
 namespace sim {
@@ -23,13 +22,6 @@ void refuse(const Options& options) {
     needsForms(!options.record.empty(), "record: --record needs the forms");
     needsForms(!options.words.empty(), "words: --words needs the forms");
     needsForms(options.throughSetup, "forms to go through: --through-setup");
-}
-
-bool offered(const core::Zustand& z, int scale) {
-    if (z.ska_ausw == 0) return true;
-    for (int i = 0; i <= z.einzelAnz; ++i)
-        if (std::abs(z.einzel_wahl[i]) == scale + 1) return true;
-    return false;
 }
 
 }  // namespace
@@ -63,7 +55,7 @@ Outcome BareRuns::run() {
         outcome.fault = fault.what();
     }
     outcome.weigh(run, z_);
-    const bool keeps = options_.keep && outcome.ending == Ending::Left && outcome.bar;
+    const bool keeps = options_.keep && outcome.ending == Ending::Left && run.mayBeKept();
     saved_ = keeps ? core::Value(run.save()) : core::Value();
     return outcome;
 }
@@ -77,7 +69,7 @@ void BareRuns::begin(engine::Run& run) {
 bool BareRuns::task(engine::Run& run) {
     openCount_ = 0;
     for (int scale = 0; scale <= z_.skal_anz; ++scale)
-        if (offered(z_, scale)) base::at(open_, openCount_++) = scale;
+        if (core::isOffered(z_, scale)) base::at(open_, openCount_++) = scale;
     standing_ = {};
     handedIn_ = false;
     clock_ = 0;

@@ -37,13 +37,13 @@ std::optional<Ending> endingOf(const engine::Run& run) {
 }
 
 void Outcome::weigh(const engine::Run& run, const core::Zustand& z) {
-    const engine::TaskPool& box = run.pool();
-    const int codes = box.potSkala();
+    const engine::TaskPool& pool = run.pool();
+    const int codes = pool.potSkala();
     if (!core::isTraining(z) || z.mathaeufgk_box.rows() <= codes) return;
     double sum = 0;
     for (int i = 1; i <= codes; ++i) sum += z.mathaeufgk_box(i, core::gewicht::spalteGewicht);
     meanWeight = sum / codes;
-    bar = box.percent();
+    bar = pool.percent();
 }
 
 }  // namespace sim

@@ -80,7 +80,6 @@ Outcome Simulation::run() {
         return over_;
     });
     outcome_.milliseconds = room_.loop.elapsed() - begin;
-    kept_ = options_.keep && outcome_.ending == Ending::Left && outcome_.bar;
     std::error_code ignored;
     std::filesystem::remove(drill_.xml.datei(), ignored);
     return outcome_;
@@ -120,6 +119,7 @@ void Simulation::gone(form::Form& form) {
     outcome_.fault = fault();
     if (!outcome_.fault.empty()) outcome_.ending = Ending::Fault;
     outcome_.weigh(sheet_->run(), drill_.programm.zustand);
+    kept_ = options_.keep && outcome_.ending == Ending::Left && sheet_->run().mayBeKept();
     if (trace_) trace_->end(outcome_);
     over_ = true;
 }

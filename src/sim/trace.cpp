@@ -96,9 +96,9 @@ void Trace::task(const worksheets::Worksheet& sheet, const core::Zustand& z) {
     line.list("stimmWert", a.tonAnz, writeItems(line, a.stimmWert));
     line.list("ton_abfolg", a.tonAnz, writeItems(line, a.ton_abfolg));
     if (staff_) spelling(line, sheet);
-    const engine::TaskPool& box = sheet.run().pool();
-    line.list("matbox", box.matboxanz(), [&](int i) { line.item(int(box.code(i + 1))); });
-    line.number("matboxanz", int(box.matboxanz()));
+    const engine::TaskPool& pool = sheet.run().pool();
+    line.list("matbox", pool.matboxanz(), [&](int i) { line.item(int(pool.code(i + 1))); });
+    line.number("matboxanz", int(pool.matboxanz()));
     stream_ << line.finish();
 }
 

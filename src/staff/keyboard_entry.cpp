@@ -38,8 +38,7 @@ void KeyboardEntry::key(WritingKey key) {
 }
 
 bool KeyboardEntry::writable(int c) const {
-    return c >= 0 && c < ColumnLayout::columns && entry_.spalteFrei(c) &&
-           staff_.NotSelb(c).hasNote();
+    return NoteEntry::spalteFrei(c) && staff_.NotSelb(c).hasNote();
 }
 
 void KeyboardEntry::go(int step) {

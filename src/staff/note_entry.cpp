@@ -22,11 +22,6 @@ NoteEntry::NoteEntry(Staff& staff) : staff_(staff) {
             return !fromPalette(drag) || wouldRefuse(s, drag.source.index(), drag.x, drag.y);
         };
     }
-    beginTask();
-}
-
-void NoteEntry::beginTask() {
-    for (int c = 0; c < ColumnLayout::columns; ++c) spalteFrei_[c] = c >= 1 && c <= 6;
 }
 
 bool NoteEntry::DragDrop(i16 s, i16 index, float X, float Y) {
@@ -50,7 +45,7 @@ bool NoteEntry::wouldRefuse(i16 s, i16 index, float X, float Y) const {
 }
 
 std::optional<i16> NoteEntry::target(i16 s, i16 index, i16 c, float Y) const {
-    if (!spalteFrei_[c]) return {};
+    if (!spalteFrei(c)) return {};
     const i16 y = (base::roundedI16(static_cast<double>(Y)) + 2) / 4 * 4;
     const i16 oben = staff_.grenze(s).highest(), unten = staff_.grenze(s).lowest();
     const bool onLimit = y == oben || y == unten;
@@ -94,7 +89,7 @@ i16 NoteEntry::VorzeichenDavor(i16 c, i16 s, i16 y) const {
 }
 
 bool NoteEntry::canPreview(i16 index, i16 s, i16 c) const {
-    return c >= 1 && spalteFrei_[c] && AblageErlaubt(index, s, c).has_value();
+    return spalteFrei(c) && AblageErlaubt(index, s, c).has_value();
 }
 
 void NoteEntry::DragOver(i16 s, i16 index, float X, float, DragPhase phase) {

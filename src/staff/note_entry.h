@@ -26,9 +26,8 @@ class NoteEntry {
   public:
     explicit NoteEntry(Staff& staff);
 
-    /// A new task: columns 1 to 6 take drops, the others never do.
-    void beginTask();
-    bool spalteFrei(i16 c) const { return spalteFrei_[c]; }
+    /// Whether a column takes drops: those between the first and the last note of a written scale.
+    static bool spalteFrei(i16 c) { return c >= 1 && c <= 6; }
     i16 letzteSpalte() const { return letzteSpalte_; }
     /// Called after each drop that was taken.
     std::function<void()> dropped;
@@ -57,7 +56,6 @@ class NoteEntry {
     bool canPreview(i16 index, i16 s, i16 c) const;
 
     Staff& staff_;
-    base::FixedArray<bool, ColumnLayout::columns> spalteFrei_;
     i16 letzteSpalte_;
 };
 

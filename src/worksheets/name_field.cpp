@@ -3,8 +3,6 @@
 #include "core/wort.h"
 #include "staff/ink.h"
 
-#include <cstdlib>
-
 namespace worksheets {
 
 namespace {
@@ -13,19 +11,14 @@ constexpr base::Colour openColour = base::rgb(128, 255, 128);
 
 }  // namespace
 
-NameField::NameField(core::Formular& form, core::Programm& programm, const engine::Run& run,
-                     form::Control& side, form::Control& area, const bool& leaving)
-    : form_(form),
-      p(programm),
-      z(programm.zustand),
-      run_(run),
-      leaving_(leaving),
-      tonarten(form, {"tonarten", &area}),
-      tonart(form, "tonart", maxAnswers, &area),
-      skal_pan(form, "skal_pan", maxAnswers, &area),
-      ton_art(form, "ton_art", maxAnswers, &area),
-      skal_bez(form, "skal_bez", maxAnswers, &area),
-      ziffer(form, "ziffer", maxAnswers, &area) {
+NameField::NameField(const FieldPlace& at)
+    : AnswerField(at),
+      tonarten(form_, {"tonarten", &at.area}),
+      tonart(form_, "tonart", maxAnswers, &at.area),
+      skal_pan(form_, "skal_pan", maxAnswers, &at.area),
+      ton_art(form_, "ton_art", maxAnswers, &at.area),
+      skal_bez(form_, "skal_bez", maxAnswers, &at.area),
+      ziffer(form_, "ziffer", maxAnswers, &at.area) {
     for (int i = 0; i < maxAnswers; ++i) {
         const form::Handler answer{"skal_antw_click.", [this, i] { skal_antw(i); }};
         ton_art(i).onClick = answer;
@@ -34,22 +27,14 @@ NameField::NameField(core::Formular& form, core::Programm& programm, const engin
         ton_art(i).enabled = false;
         tonart(i).enabled = false;
     }
-    if (run.exercise().sounds()) return;
-    view_ = std::make_unique<StaffView>(form, programm, area);
-    schrittmarken = std::make_unique<form::Button>(form, form::Place{"schrittmarken", &side});
+    if (run_.exercise().sounds()) return;
+    view_ = std::make_unique<StaffView>(form_, p, at.area);
+    schrittmarken = std::make_unique<form::Button>(form_, form::Place{"schrittmarken", &at.side});
     schrittmarken->enabled = false;
     schrittmarken->onClick = {"schrittmarken_click.", [this] {
                                   schrittmarken->enabled = false;
                                   view_->staff.paintSteps();
                               }};
-}
-
-bool NameField::offers(int Index) const {
-    if (Index > z.skal_anz) return false;
-    if (z.ska_ausw == 0) return true;
-    for (int k = 0; k <= z.einzelAnz; ++k)
-        if (std::abs(z.einzel_wahl[k]) == Index + 1) return true;
-    return false;
 }
 
 void NameField::prepare() {
@@ -59,7 +44,7 @@ void NameField::prepare() {
     tonarten.caption = p.katalog.skal_typ_name[z.skal_typ];
     int digit = 0;
     for (int i = 0; i < maxAnswers; ++i) {
-        const bool offered = offers(i);
+        const bool offered = core::isOffered(z, i);
         if (i <= z.skal_anz) {
             const std::string& name = p.katalog.skal_name[z.skal_typ][i];
             skal_bez(i).caption = name;
@@ -97,8 +82,8 @@ void NameField::open(int i, bool open) {
 
 /// Those that were not tried on this task.
 void NameField::open() {
-    for (int i = 0; i <= z.skal_anz; ++i)
-        if (offers(i) && !base::at(gesperrt_, i)) open(i, true);
+    for (int i = 0; i < maxAnswers; ++i)
+        if (core::isOffered(z, i) && !base::at(gesperrt_, i)) open(i, true);
 }
 
 void NameField::closeAll() {
@@ -111,9 +96,9 @@ void NameField::close() {
 }
 
 /// A wrong answer stays locked until the task is closed.
-void NameField::scored(const engine::Run& run) {
-    if (run.aufgZustand() == engine::TaskState::TryAgain) {
-        const int wrong = run.lastAnswer().index;
+void NameField::scored() {
+    if (run_.aufgZustand() == engine::TaskState::TryAgain) {
+        const int wrong = run_.lastAnswer().index;
         base::at(gesperrt_, wrong) = true;
         open(wrong, false);
         return;

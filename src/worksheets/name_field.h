@@ -11,15 +11,13 @@ namespace worksheets {
 /// a staff above them.
 class NameField final : public AnswerField {
   public:
-    /// @param leaving true once the form is being left.
-    NameField(core::Formular& form, core::Programm& programm, const engine::Run& run,
-              form::Control& side, form::Control& area, const bool& leaving);
+    explicit NameField(const FieldPlace& at);
 
     void prepare() override;
     void show(const engine::Task& a) override;
     void open() override;
     void close() override;
-    void scored(const engine::Run& run) override;
+    void scored() override;
     bool key(form::Key key) override;
 
     /// nullptr where the task sounds.
@@ -30,16 +28,9 @@ class NameField final : public AnswerField {
 
     /// The learner names a scale.
     void skal_antw(int Index);
-    /// Whether the run offers that answer.
-    bool offers(int Index) const;
     void open(int i, bool open);
     void closeAll();
 
-    core::Formular& form_;
-    core::Programm& p;
-    core::Zustand& z;
-    const engine::Run& run_;
-    const bool& leaving_;
     std::array<bool, maxAnswers> gesperrt_{};
 
     form::Label tonarten;

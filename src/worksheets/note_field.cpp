@@ -20,27 +20,22 @@ constexpr std::size_t largestHint = 1 << 18;
 
 }  // namespace
 
-NoteField::NoteField(core::Formular& form, core::Programm& programm, const engine::Run& run,
-                     form::Control& side, form::Control& area, const bool& leaving)
-    : form_(form),
-      p(programm),
-      z(programm.zustand),
-      run_(run),
-      leaving_(leaving),
-      view_(form, programm, area),
-      palette_(form, view_.staff.PicBNot),
+NoteField::NoteField(const FieldPlace& at)
+    : AnswerField(at),
+      view_(form_, p, at.area),
+      palette_(form_, view_.staff.PicBNot),
       entry_(view_.staff),
       keyboard_(view_.staff, entry_, palette_),
-      cmdOK(form, {"cmdOK", &area}),
-      HinweisMeldung(form, {"HinweisMeldung", &area}, form::TextBox::Size::Rich) {
-    palette_.pbNoten.setContainer(area);
+      cmdOK(form_, {"cmdOK", &at.area}),
+      HinweisMeldung(form_, {"HinweisMeldung", &at.area}, form::TextBox::Size::Rich) {
+    palette_.pbNoten.setContainer(at.area);
     view_.staff.PicBNot.inWords = [this] { return inWords(); };
     entry_.dropped = [this] { cmdOK.enabled = true; };
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
     cmdOK.enabled = false;
-    if (run.exercise().sounds()) return;
-    Label2 = std::make_unique<form::Label>(form, form::Place{"Label2", &side});
-    aufg = std::make_unique<form::Label>(form, form::Place{"aufg", &side});
+    if (run_.exercise().sounds()) return;
+    Label2 = std::make_unique<form::Label>(form_, form::Place{"Label2", &at.side});
+    aufg = std::make_unique<form::Label>(form_, form::Place{"aufg", &at.side});
 }
 
 void NoteField::prepare() {
@@ -73,7 +68,6 @@ void NoteField::loadHint() {
 
 void NoteField::show(const engine::Task& a) {
     view_.layOut(a, false);
-    entry_.beginTask();
     keyboard_.beginTask();
     for (int c = 0; c < a.tonAnz; ++c)
         view_.staff.NoteSetzen(c, a.shown(a.index(c)), staff::ink::black);
@@ -105,9 +99,9 @@ void NoteField::skal_antw() {
     give(engine::writtenAnswer(a, [this](int c) { return view_.staff.NotSelb(c).pitch(); }));
 }
 
-void NoteField::scored(const engine::Run& run) {
-    if (run.aufgZustand() == engine::TaskState::TryAgain) return;
-    if (!run.lastAnswer().right) LoesungZeigen(run.task());
+void NoteField::scored() {
+    if (run_.aufgZustand() == engine::TaskState::TryAgain) return;
+    if (!run_.lastAnswer().right) LoesungZeigen(run_.task());
     close();
     HinweisMeldung.visible = false;
 }

@@ -13,15 +13,13 @@ namespace worksheets {
 /// and the learner puts accidentals on them. Where nothing sounds the scale is named beside it.
 class NoteField final : public AnswerField {
   public:
-    /// @param leaving true once the form is being left.
-    NoteField(core::Formular& form, core::Programm& programm, const engine::Run& run,
-              form::Control& side, form::Control& area, const bool& leaving);
+    explicit NoteField(const FieldPlace& at);
 
     void prepare() override;
     void show(const engine::Task& a) override;
     void open() override;
     void close() override;
-    void scored(const engine::Run& run) override;
+    void scored() override;
     bool key(form::Key key) override;
 
     staff::Staff& staff() { return view_.staff; }
@@ -36,11 +34,6 @@ class NoteField final : public AnswerField {
     void LoesungZeigen(const engine::Task& a);
     std::string inWords() const;
 
-    core::Formular& form_;
-    core::Programm& p;
-    core::Zustand& z;
-    const engine::Run& run_;
-    const bool& leaving_;
     base::FixedArray<i16, 9> ownVersion_;
 
     StaffView view_;

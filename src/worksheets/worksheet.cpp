@@ -1,7 +1,6 @@
 #include "worksheets/worksheet.h"
 
 #include "core/formnamen.h"
-#include "core/fortsetzung.h"
 #include "core/wort.h"
 #include "worksheets/name_field.h"
 #include "worksheets/note_field.h"
@@ -31,7 +30,8 @@ Worksheet::Worksheet(core::Programm& programm, sound::Midi& midi, results::Wertu
       midi_(midi),
       xml_(xml),
       recorder_(xml, programm.katalog, programm.zustand, exercise),
-      run_(programm.zustand, programm.rnd, wertung, exercise, &recorder_) {
+      run_(programm.zustand, programm.rnd, wertung, exercise, &recorder_),
+      kept_(programm, run_) {
     setCaption(exercise.title);
     CmdNextAufg.onClick = {"CmdNextAufg_click.", [this] {
                                CmdNextAufg.enabled = false;
@@ -55,13 +55,14 @@ Worksheet::Worksheet(core::Programm& programm, sound::Midi& midi, results::Wertu
     CmdNextAufg.enabled = false;
 
     NoteField* noteField = nullptr;
+    const FieldPlace place{*this, p, run_, PicArb1, PicArb2, abbruch_};
     if (exercise.isWritten()) {
-        auto field = std::make_unique<NoteField>(*this, p, run_, PicArb1, PicArb2, abbruch_);
+        auto field = std::make_unique<NoteField>(place);
         noteField = field.get();
         staff_ = &field->staff();
         field_ = std::move(field);
     } else {
-        auto field = std::make_unique<NameField>(*this, p, run_, PicArb1, PicArb2, abbruch_);
+        auto field = std::make_unique<NameField>(place);
         staff_ = field->staff();
         field_ = std::move(field);
     }
@@ -111,7 +112,7 @@ void Worksheet::start_timer() {
     run_.begin({.presentation = presentation_ ? engine::soundingTime(z) : 0}, p.ports.saat);
     field_->prepare();
     if (presentation_) presentation_->beginRun();
-    if (z.uebungsmodus == core::modus::fortsetzung) resumeTraining();
+    if (z.uebungsmodus == core::modus::fortsetzung) kept_.resume();
     showMode();
     showStanding();
 
@@ -124,12 +125,6 @@ void Worksheet::start_timer() {
     LbNextAufg.visible = automatic;
     if (automatic) WahlAutomat.start();
     turn(Turn::RunReady);
-}
-
-void Worksheet::resumeTraining() {
-    if (!p.host.LeseAbbruch("A" + core::satz(z)))
-        throw base::RuntimeError(base::ErrorNumber::InvalidCall, "saved training: not there");
-    run_.resume(z.gelesen_a);
 }
 
 void Worksheet::showMode() {
@@ -146,11 +141,11 @@ void Worksheet::showStanding() {
     zaehler(1).caption = std::to_string(standing.counters.wrong);
     if (presentation_) presentation_->showRepetitions(standing.counters.repetitions);
     if (core::isTraining(z)) {
-        const engine::TaskPool& box = run_.pool();
-        matboxanz.floodPercent = box.percent();
+        const engine::TaskPool& pool = run_.pool();
+        matboxanz.floodPercent = pool.percent();
         matboxanz.hint =
-            core::eingesetzt(Wort(wort::pointsToGoal), std::to_string(box.matbox_zahl()),
-                             std::to_string(box.obergrenze()));
+            core::eingesetzt(Wort(wort::pointsToGoal), std::to_string(pool.matbox_zahl()),
+                             std::to_string(pool.obergrenze()));
     }
     if (core::isTest(z)) {
         stop_uhr.caption = Wort(wort::timeLeft) + std::to_string(standing.restZeit / 60) + " " +
@@ -201,7 +196,7 @@ void Worksheet::scoreAnswer(const engine::Answer& answer) {
     else
         showWrong();
     showStanding();
-    field_->scored(run_);
+    field_->scored();
     turn(Turn::Answered);
     if (run_.aufgZustand() != TaskState::TryAgain) turn(Turn::Closed);
     afterAnswer();
@@ -250,7 +245,9 @@ void Worksheet::afterAnswer() {
             CmdNextAufg.enabled = false;
             if (presentation_) presentation_->endRun(true);
             offerWayOn();
-            discardTraining();
+            setPointer(form::Pointer::Hourglass);
+            kept_.discard();
+            setPointer(form::Pointer::Arrow);
             turn(Turn::RunEnded);
             break;
         case TaskState::ExamOver:
@@ -333,14 +330,6 @@ void Worksheet::Uhrzeit_timer() {
     returnToSetUp();
 }
 
-// Leaving, and what is kept.
-
-std::string Worksheet::setUpForm() const { return core::setUpForm(z.theoriewahl); }
-
-void Worksheet::offerContinuation(bool available, int mode) {
-    core::offerContinuation(p, setUpForm(), available, mode);
-}
-
 /// From here on nothing goes on by itself.
 void Worksheet::stopAll() {
     zurueck.enabled = false;
@@ -374,31 +363,12 @@ void Worksheet::zurueck_click() {
     returnToSetUp();
 }
 
-/// A training in which a task was closed may be kept, to go on with another day.
 void Worksheet::offerSaving() {
-    if (failed_ || !core::isTraining(z) || !run_.standing().schalter_frei) return;
+    if (failed_ || !run_.mayBeKept()) return;
     if (!p.ports.dialogs.askYesNo(Wort(wort::saveTraining), Wort(wort::saveTrainingQuestion)))
         return;
     setPointer(form::Pointer::Hourglass);
-    offerContinuation(saveTraining(), z.uebungsmodus);
-    setPointer(form::Pointer::Arrow);
-}
-
-/// What an older training left is taken back first: whatever fails in between, settings and state
-/// that do not belong together are never offered. @return whether both were stored.
-bool Worksheet::saveTraining() {
-    z.abbruch_stand = run_.save();
-    const std::string record = core::satz(z);
-    return p.host.HostSichern("A" + record, core::Value::Array{"False"}) &&
-           p.host.HostSichern("E" + record, z.gelesen_e) &&
-           p.host.HostSichern("A" + record, z.abbruch_stand);
-}
-
-/// A training that has ended leaves nothing to continue.
-void Worksheet::discardTraining() {
-    setPointer(form::Pointer::Hourglass);
-    p.host.HostSichern("A" + core::satz(z), core::Value::Array{"False"});
-    offerContinuation(false, core::modus::training);
+    kept_.keep();
     setPointer(form::Pointer::Arrow);
 }
 
@@ -429,7 +399,8 @@ void Worksheet::saveRecord() {
 }
 
 void Worksheet::returnToSetUp() {
-    if (forms().loaded(setUpForm())) forms().show(setUpForm());
+    const std::string setUp = core::setUpForm(z.theoriewahl);
+    if (forms().loaded(setUp)) forms().show(setUp);
     forms().unload("testergebnis");
     forms().unload(name());
 }
@@ -440,9 +411,8 @@ void Worksheet::nachFehler(const std::string& prozedur) {
         "start_timer.", "spieltimer_timer.", "skal_antw_click.", "MatWahl.", "cmdOK_click."};
     if (std::ranges::find(essential, prozedur) == essential.end()) return;
     failed_ = true;
-    // A training that cannot be gone on with is not offered once more.
     if (prozedur == essential.front() && z.uebungsmodus == core::modus::fortsetzung)
-        offerContinuation(false, core::modus::training);
+        kept_.withdraw();
     zurueck_click();
 }
 

@@ -4,6 +4,7 @@
 #include "engine/xml_recorder.h"
 #include "staff/staff.h"
 #include "worksheets/answer_field.h"
+#include "worksheets/kept_training.h"
 #include "worksheets/sound_presentation.h"
 
 #include <memory>
@@ -54,7 +55,6 @@ class Worksheet final : public core::Formular {
     void start_timer();
     void setCaptions();
     void showMode();
-    void resumeTraining();
     void showStanding();
     void showTestStanding(bool shown);
     void MatWahl();
@@ -71,13 +71,9 @@ class Worksheet final : public core::Formular {
     void zurueck_click();
     void stopAll();
     void offerSaving();
-    bool saveTraining();
-    void discardTraining();
     void showResult();
     void saveRecord();
     void returnToSetUp();
-    std::string setUpForm() const;
-    void offerContinuation(bool available, int mode);
     void nachFehler(const std::string& prozedur) override;
     std::string logText(const std::string& prozedur) const override { return prozedur + name(); }
 
@@ -85,6 +81,7 @@ class Worksheet final : public core::Formular {
     results::Skalaxml& xml_;
     engine::XmlRecorder recorder_;
     engine::Run run_;
+    KeptTraining kept_;
     bool begun_ = false;
     bool abbruch_ = true;
     bool leaving_ = false;

@@ -25,7 +25,6 @@ struct Sheet {
             staff.NotenzeileAufbauen(8, range);
         else
             staff.NotenzeileAufbauen(8, range, signature);
-        entry.beginTask();
         keys.beginTask();
     }
 

@@ -70,7 +70,6 @@ TEST(Task, CanBeWrittenRight) {
         staff.SchluesselWahl(a.noten[7]);
         staff.NotenzeileAufbauen(8, {a.quintLage, engine::TonalityChoice::stufenQz(0, a.skala_nr),
                                      a.transpLage, bare.z.FrquMinAkt, bare.z.FrquMaxAkt});
-        entry.beginTask();
         const auto judged = [&] {
             return engine::writtenAnswer(a, [&](int c) { return staff.NotSelb(c).pitch(); });
         };
