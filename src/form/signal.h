@@ -17,7 +17,8 @@ class [[nodiscard]] Connection {
     std::shared_ptr<void> listener_;
 };
 
-/// Tells every listener, in the order of connecting. A listener may go while it is being told.
+/// Tells every listener, in the order of connecting. A listener may go or come while it is being
+/// told; one that comes is told the next time.
 template <class... Args>
 class Signal {
   public:
@@ -29,14 +30,30 @@ class Signal {
 
     void operator()(Args... args) {
         if (listeners_.empty()) return;
-        for (const auto& weak : std::vector(listeners_))
-            if (const auto listener = weak.lock()) (*listener)(args...);
-        std::erase_if(listeners_, [](const auto& weak) { return weak.expired(); });
+        const Telling telling(*this);
+        for (std::size_t i = 0, count = listeners_.size(); i < count; ++i)
+            if (const auto listener = listeners_[i].lock()) (*listener)(args...);
     }
 
   private:
     using Listener = std::function<void(Args...)>;
+    /// While listeners are told, also one inside the other, none changes its place.
+    class Telling {
+      public:
+        explicit Telling(Signal& signal) : signal_(signal) { ++signal_.telling_; }
+        ~Telling() {
+            if (--signal_.telling_ == 0)
+                std::erase_if(signal_.listeners_, [](const auto& weak) { return weak.expired(); });
+        }
+        Telling(const Telling&) = delete;
+        Telling& operator=(const Telling&) = delete;
+
+      private:
+        Signal& signal_;
+    };
+
     std::vector<std::weak_ptr<Listener>> listeners_;
+    int telling_ = 0;
 };
 
 }  // namespace form

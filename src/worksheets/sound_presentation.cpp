@@ -5,6 +5,8 @@
 #include "sound/phrase.h"
 #include "worksheets/worksheet.h"
 
+#include <span>
+
 namespace worksheets {
 
 namespace wort = core::wort;
@@ -83,11 +85,12 @@ void SoundPresentation::AufgabeSpielen(const Version* ownNotes) {
     if (worksheet_.abbruch()) return;
 
     const engine::Task& a = worksheet_.run().task();
-    std::vector<sound::PhraseNote> phrase;
+    base::FixedArray<sound::PhraseNote, 9> notes;
     for (int i = 0; i < a.tonAnz; ++i) {
         const int k = a.index(i);
-        phrase.push_back({ownNotes ? (*ownNotes)[i] : a.noten[k], k, a.stimmWert[k]});
+        notes[i] = {ownNotes ? (*ownNotes)[i] : a.noten[k], k, a.stimmWert[k]};
     }
+    const auto phrase = std::span(notes.begin(), static_cast<std::size_t>(a.tonAnz));
     const bool varies = z.frequenz == 1;
     sound::queuePhrase(midi_, phrase,
                        {.noteDuration = z.tempo_dauer[z.tempoIdx],
