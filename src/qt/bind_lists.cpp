@@ -2,6 +2,7 @@
 #include "qt/binder.h"
 #include "qt/painter_surface.h"
 #include "suite/look.h"
+#include "suite/wheel.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -20,6 +21,7 @@ QWidget* Binder::combo(form::Combo& control) {
     auto* box = new QComboBox(&window_);
     common(control, *box);
     box->setMaxVisibleItems(16);
+    suite::wheelNeedsFocus(*box);
     const auto show = [&control, box](Aspect aspect) {
         const QSignalBlocker quiet(box);
         if (aspect == Aspect::Items) {
@@ -101,6 +103,7 @@ QWidget* Binder::listBox(form::ListBox& control) {
 QWidget* Binder::slider(form::Slider& control) {
     auto* slider = new QSlider(Qt::Horizontal, &window_);
     common(control, *slider);
+    suite::wheelNeedsFocus(*slider);
     slider->setRange(control.minimum(), control.maximum());
     const auto show = [&control, slider](Aspect aspect) {
         const QSignalBlocker quiet(slider);
