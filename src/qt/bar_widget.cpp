@@ -3,7 +3,6 @@
 #include "suite/look.h"
 
 #include <QPainter>
-#include <QToolTip>
 
 namespace qt {
 
@@ -15,7 +14,6 @@ void BarWidget::setPercent(int percent) {
 
 void BarWidget::setMeaning(const QString& words) {
     setToolTip(words);
-    setFocusPolicy(words.isEmpty() ? Qt::NoFocus : Qt::TabFocus);
     describe();
 }
 
@@ -24,23 +22,11 @@ void BarWidget::describe() {
                                                  : toolTip());
 }
 
-void BarWidget::focusInEvent(QFocusEvent* event) {
-    QWidget::focusInEvent(event);
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), toolTip(), this);
-    update();
-}
-
-void BarWidget::focusOutEvent(QFocusEvent* event) {
-    QWidget::focusOutEvent(event);
-    QToolTip::hideText();
-    update();
-}
-
 void BarWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(hasFocus() ? QPen(suite::accent, 2) : QPen(suite::line));
+    painter.setPen(suite::line);
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(area, 4, 4);
     if (percent() == 0) return;

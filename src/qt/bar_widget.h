@@ -15,13 +15,11 @@ class BarWidget final : public QWidget {
     int percent() const { return isEnabled() ? std::clamp(percent_, 0, 100) : 0; }
     QSize sizeHint() const override { return {120, 14}; }
 
-    /// What the fill means, in words: told when the bar is pointed at or has the focus.
+    /// What the fill means, in words: told when the bar is pointed at.
     void setMeaning(const QString& words);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     void describe();

@@ -2,6 +2,7 @@
 #include "qt/bar_widget.h"
 #include "qt/binder.h"
 #include "qt/painter_surface.h"
+#include "qt/window_keys.h"
 #include "suite/look.h"
 
 #include <QPushButton>
@@ -29,9 +30,10 @@ QPushButton* Binder::pushButton(C& control) {
     common(control, *button);
     button->setMinimumHeight(32);
     button->setAutoDefault(false);
-    const auto show = [&control, button](Aspect aspect) {
+    const auto show = [this, &control, button](Aspect aspect) {
         if (aspect == Aspect::Caption) {
             button->setText(captionOf(control));
+            keys_.changed();
             button->setMinimumWidth(button->sizeHint().width() + air);
         }
         if (aspect == Aspect::Colour)

@@ -5,6 +5,7 @@
 #include "qt/painter_surface.h"
 #include "qt/picture_widget.h"
 #include "qt/staff_widget.h"
+#include "qt/window_keys.h"
 #include "suite/look.h"
 
 #include <QAction>
@@ -64,7 +65,11 @@ void Binder::follow(form::Control& control, std::function<void(Aspect)> listener
 
 void Binder::common(form::Control& control, QWidget& widget) {
     widget.setObjectName(QString::fromStdString(control.id()));
-    const auto show = [&control, &widget](Aspect aspect) {
+    const auto show = [this, &control, &widget](Aspect aspect) {
+        if (aspect == Aspect::Visible || aspect == Aspect::Enabled) {
+            if (!control.visible() || !control.enabled()) keys_.leaving(widget);
+            keys_.changed();
+        }
         if (aspect == Aspect::Visible) widget.setVisible(control.visible());
         if (aspect == Aspect::Enabled) widget.setEnabled(control.enabled());
         if (aspect == Aspect::Caption) {

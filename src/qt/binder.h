@@ -16,11 +16,14 @@ class Canvas;
 
 namespace qt {
 
+class WindowKeys;
+
 /// Ties the controls of a form to widgets: what the model says is shown, what the user does is told
 /// to the model. One function binds each kind of control; none decides anything.
 class Binder {
   public:
-    Binder(form::Form& form, QWidget& window) : form_(form), window_(window) {}
+    Binder(form::Form& form, QWidget& window, WindowKeys& keys)
+        : form_(form), window_(window), keys_(keys) {}
 
     form::Form& form() const { return form_; }
 
@@ -62,6 +65,7 @@ class Binder {
 
     form::Form& form_;
     QWidget& window_;
+    WindowKeys& keys_;
     std::vector<form::Connection> connections_;
 };
 

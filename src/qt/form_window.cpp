@@ -39,7 +39,7 @@ std::optional<form::Key> keyOf(int key) {
 
 }  // namespace
 
-FormWindow::FormWindow(form::Form& form) : form_(form), binder_(form, *this) {
+FormWindow::FormWindow(form::Form& form) : form_(form), keys_(*this), binder_(form, *this, keys_) {
     setObjectName(QString::fromStdString(form.name()));
     changed_ = form.changed.connect([this] { follow(); });
     qApp->installEventFilter(this);
@@ -75,6 +75,7 @@ void FormWindow::open() {
         opened_ = true;
     }
     show();
+    keys_.changed();
     raise();
     activateWindow();
 }
@@ -92,8 +93,11 @@ void FormWindow::hideEvent(QHideEvent* event) {
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    if (!watched->isWidgetType()) return false;
     auto& widget = static_cast<QWidget&>(*watched);
+    if (event->type() == QEvent::FocusIn && widget.window() == this)
+        keys_.focused(widget, static_cast<const QFocusEvent&>(*event).reason());
+    if (event->type() != QEvent::KeyPress) return false;
     const auto& press = static_cast<QKeyEvent&>(*event);
     const bool plain = (press.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     return widget.window() == this && plain && !press.isAutoRepeat() && isEnabled() &&
@@ -103,17 +107,18 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 bool FormWindow::keyPressed(QWidget& widget, int pressed) {
     const auto key = keyOf(pressed);
     if (!key) return false;
+    const bool enter = key->kind == form::Key::Kind::Enter;
+    const bool presses = enter || key->kind == form::Key::Kind::Space;
+    if (presses && keys_.press(widget)) return true;
     auto* button = qobject_cast<QPushButton*>(&widget);
-    if (key->kind == form::Key::Kind::Enter && button && !form_.claimsEnter()) {
+    if (enter && button && !form_.claimsEnter()) {
         button->click();
         return true;
     }
     const auto* staff = dynamic_cast<const StaffWidget*>(&widget);
-    if (staff && key->kind == form::Key::Kind::Enter && staff->takesEnter()) return false;
+    if (staff && enter && staff->takesEnter()) return false;
     // In a list both choose the item.
-    if (qobject_cast<QAbstractItemView*>(&widget) &&
-        (key->kind == form::Key::Kind::Enter || key->kind == form::Key::Kind::Space))
-        return false;
+    if (presses && qobject_cast<QAbstractItemView*>(&widget)) return false;
     bool taken = false;
     form_.handle({"key.", [&] { taken = form_.key(*key); }});
     return taken;

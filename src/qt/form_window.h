@@ -1,5 +1,6 @@
 #pragma once
 #include "qt/binder.h"
+#include "qt/window_keys.h"
 
 #include <QWidget>
 
@@ -12,6 +13,7 @@ class FormWindow final : public QWidget {
     ~FormWindow() override;
 
     Binder& binder() { return binder_; }
+    WindowKeys& keys() { return keys_; }
     /// Called once, before the window is seen: what depends on the form's contents.
     std::function<void()> beforeOpening;
     /// What shows the form's contents without its buttons; the window itself unless said.
@@ -31,6 +33,7 @@ class FormWindow final : public QWidget {
     bool keyPressed(QWidget& widget, int pressed);
 
     form::Form& form_;
+    WindowKeys keys_;
     Binder binder_;
     form::Connection changed_;
     QWidget* contents_ = this;

@@ -24,7 +24,7 @@ QLabel* digit(Binder& bind, int i) {
 }
 
 /// The picture with its name below; the frame's colour tells the state.
-QWidget* pictureAnswer(Binder& bind, int i) {
+QWidget* pictureAnswer(Binder& bind, int i, std::vector<QWidget*>& buttons) {
     auto& frame = bind.control<form::Panel>("skal_pan", i);
     auto* card = new AnswerCard;
     bind.common(frame, *card);
@@ -35,14 +35,15 @@ QWidget* pictureAnswer(Binder& bind, int i) {
     auto* inside = new QVBoxLayout(card);
     inside->setContentsMargins(6, 4, 6, 6);
     inside->setSpacing(2);
-    inside->addWidget(bind("ton_art", i), 1);
+    buttons.push_back(bind("ton_art", i));
+    inside->addWidget(buttons.back(), 1);
     QLabel* name = labelOf(bind, "skal_bez", i);
     name->setAlignment(Qt::AlignCenter);
     inside->addWidget(name);
     return card;
 }
 
-QWidget* answerArea(Binder& bind) {
+QWidget* answerArea(Binder& bind, std::vector<QWidget*>& buttons) {
     QWidget* area = bind("PicArb2");
     auto* column = new QVBoxLayout(area);
     column->setContentsMargins(0, 0, 0, 0);
@@ -56,9 +57,11 @@ QWidget* answerArea(Binder& bind) {
         auto* line = new QHBoxLayout;
         line->setSpacing(2);
         line->addWidget(digit(bind, i));
-        line->addWidget(pictureAnswer(bind, i), 1);
+        line->addWidget(pictureAnswer(bind, i, buttons), 1);
         QWidget* name = bind("tonart", i);
         name->setMinimumHeight(56);
+        name->setProperty("ownKey", true);
+        buttons.push_back(name);
         name->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         suite::font(*name, 1.15);
         line->addWidget(name, 1);
@@ -72,6 +75,10 @@ QWidget* answerArea(Binder& bind) {
 
 }  // namespace
 
-void layoutBestimmen(FormWindow& window) { worksheetPage(window, answerArea(window.binder())); }
+void layoutBestimmen(FormWindow& window) {
+    std::vector<QWidget*> buttons;
+    QWidget* area = answerArea(window.binder(), buttons);
+    worksheetPage(window, area, buttons);
+}
 
 }  // namespace qt

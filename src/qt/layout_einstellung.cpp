@@ -183,6 +183,7 @@ void layoutEinstellung(FormWindow& window) {
     QWidget* ok = bind("cmdOK");
     suite::font(*ok, 1, QFont::Bold);
     actions->addWidget(ok);
+    window.keys().setSteps({ok});
     page->addWidget(box);
     bind("popPruefung");
     window.openWith({960, 600});

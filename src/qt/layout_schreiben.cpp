@@ -31,7 +31,7 @@ QWidget* palette(Binder& bind) {
     return frame;
 }
 
-QWidget* writingArea(Binder& bind) {
+QWidget* writingArea(Binder& bind, std::vector<QWidget*>& steps) {
     QWidget* area = bind("PicArb2");
     auto* column = new QVBoxLayout(area);
     column->setContentsMargins(0, 0, 0, 0);
@@ -44,7 +44,9 @@ QWidget* writingArea(Binder& bind) {
     suite::font(*hand, 1.15, QFont::Bold);
     tools->addWidget(hand);
     column->addLayout(tools);
-    column->addWidget(bind("PicBNot"), 1);
+    QWidget* staff = bind("PicBNot");
+    column->addWidget(staff, 1);
+    steps = {staff, hand};
     QWidget* hint = bind("HinweisMeldung");
     hint->setFixedHeight(12 * hint->fontMetrics().lineSpacing());
     // The staff stays where it is when the hint goes.
@@ -57,6 +59,10 @@ QWidget* writingArea(Binder& bind) {
 
 }  // namespace
 
-void layoutSchreiben(FormWindow& window) { worksheetPage(window, writingArea(window.binder())); }
+void layoutSchreiben(FormWindow& window) {
+    std::vector<QWidget*> steps;
+    QWidget* area = writingArea(window.binder(), steps);
+    worksheetPage(window, area, steps);
+}
 
 }  // namespace qt

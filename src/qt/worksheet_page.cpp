@@ -42,7 +42,7 @@ class InTheMiddle final : public QObject {
 };
 
 /// Result, counters, and what leads on.
-QWidget* sidePanel(Binder& bind) {
+QWidget* sidePanel(Binder& bind, QWidget*& nextTask) {
     QWidget* side = bind("PicArb1");
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
@@ -86,7 +86,8 @@ QWidget* sidePanel(Binder& bind) {
         column->addWidget(button);
         return button;
     };
-    suite::font(*tall("CmdNextAufg"), 1, QFont::Bold);
+    nextTask = tall("CmdNextAufg");
+    suite::font(*nextTask, 1, QFont::Bold);
     QLabel* next = labelOf(bind, "LbNextAufg");
     next->setAlignment(Qt::AlignCenter);
     next->setMinimumHeight(40);
@@ -129,13 +130,16 @@ QWidget* sidePanel(Binder& bind) {
 
 }  // namespace
 
-void worksheetPage(FormWindow& window, QWidget* area) {
+void worksheetPage(FormWindow& window, QWidget* area, std::vector<QWidget*> answers) {
     Binder& bind = window.binder();
     auto* page = new QVBoxLayout(&window);
     page->setContentsMargins(16, suite::margin, 16, suite::gap);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(20);
-    columns->addWidget(sidePanel(bind));
+    QWidget* nextTask = nullptr;
+    columns->addWidget(sidePanel(bind, nextTask));
+    answers.push_back(nextTask);
+    window.keys().setSteps(std::move(answers));
     columns->addWidget(area, 1);
     page->addLayout(columns, 1);
 

@@ -9,6 +9,6 @@ namespace qt {
 QLabel* labelOf(Binder& bind, const char* name, int index = form::Place::noIndex);
 
 /// Lays out a worksheet around the area in which it is answered.
-void worksheetPage(FormWindow& window, QWidget* area);
+void worksheetPage(FormWindow& window, QWidget* area, std::vector<QWidget*> answers);
 
 }  // namespace qt
