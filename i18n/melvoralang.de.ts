@@ -333,5 +333,20 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Unerwarteter Fehler: %1</translation></message>
 <message id="974s"><translation>Ergebnisse können nicht angenommen werden. %1</translation></message>
+<message id="1300s"><translation>Wirklich abbrechen? Ein Ergebnis wird dann nicht gezeigt.</translation></message>
+<message id="1301s"><translation>Eingabetaste: Aufgabe 1 hören</translation></message>
+<message id="1302s"><translation>Eingabetaste: Aufgabe 1 zeigen</translation></message>
+<message id="1303s"><translation>Aufgabe 1 folgt …</translation></message>
+<message id="1304s"><translation>Zuhören …</translation></message>
+<message id="1305s"><translation>Welche Skala ist es?</translation></message>
+<message id="1306s"><translation>Vorzeichen setzen, dann Fertig</translation></message>
+<message id="1307s"><translation>richtig:</translation></message>
+<message id="1308s"><translation>Lösung:</translation></message>
+<message id="1309s"><translation>Ziel</translation></message>
+<message id="1310s"><translation>verfehlt</translation></message>
+<message id="1311s"><translation>nicht gefragt</translation></message>
+<message id="1312s"><translation>beherrscht</translation></message>
+<message id="1313s"><translation>Alles auf Anhieb richtig; Abzüge gab es für Antwortzeit oder Wiederholungen.</translation></message>
+<message id="1314s"><translation>noch %1</translation></message>
 </context>
 </TS>

@@ -333,5 +333,20 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Unexpected fault: %1</translation></message>
 <message id="974s"><translation>Results cannot be taken in. %1</translation></message>
+<message id="1300s"><translation>Really break off? No result will be shown then.</translation></message>
+<message id="1301s"><translation>Enter: hear task 1</translation></message>
+<message id="1302s"><translation>Enter: show task 1</translation></message>
+<message id="1303s"><translation>Task 1 is coming …</translation></message>
+<message id="1304s"><translation>Listen …</translation></message>
+<message id="1305s"><translation>Which scale is it?</translation></message>
+<message id="1306s"><translation>Put the accidentals, then Done</translation></message>
+<message id="1307s"><translation>right:</translation></message>
+<message id="1308s"><translation>solution:</translation></message>
+<message id="1309s"><translation>goal</translation></message>
+<message id="1310s"><translation>failed</translation></message>
+<message id="1311s"><translation>not asked</translation></message>
+<message id="1312s"><translation>mastered</translation></message>
+<message id="1313s"><translation>All right at first; points were lost for answer time or repeats.</translation></message>
+<message id="1314s"><translation>%1 to go</translation></message>
 </context>
 </TS>

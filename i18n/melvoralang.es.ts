@@ -333,5 +333,20 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Error inesperado: %1</translation></message>
 <message id="974s"><translation>No se pueden recoger los resultados. %1</translation></message>
+<message id="1300s"><translation>¿Interrumpir de verdad? Entonces no se mostrará ningún resultado.</translation></message>
+<message id="1301s"><translation>Intro: oír la tarea 1</translation></message>
+<message id="1302s"><translation>Intro: mostrar la tarea 1</translation></message>
+<message id="1303s"><translation>Llega la tarea 1 …</translation></message>
+<message id="1304s"><translation>Escuche …</translation></message>
+<message id="1305s"><translation>¿Qué escala es?</translation></message>
+<message id="1306s"><translation>Ponga las alteraciones y termine</translation></message>
+<message id="1307s"><translation>correcto:</translation></message>
+<message id="1308s"><translation>solución:</translation></message>
+<message id="1309s"><translation>meta</translation></message>
+<message id="1310s"><translation>fallado</translation></message>
+<message id="1311s"><translation>no preguntada</translation></message>
+<message id="1312s"><translation>dominada</translation></message>
+<message id="1313s"><translation>Todo correcto a la primera; se perdieron puntos por el tiempo de respuesta o las repeticiones.</translation></message>
+<message id="1314s"><translation>faltan %1</translation></message>
 </context>
 </TS>

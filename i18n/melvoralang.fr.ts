@@ -333,5 +333,20 @@
 <message id="972s"><translation>%1 : %2</translation></message>
 <message id="973s"><translation>Erreur inattendue : %1</translation></message>
 <message id="974s"><translation>Les résultats ne peuvent pas être reçus. %1</translation></message>
+<message id="1300s"><translation>Vraiment interrompre ? Aucun résultat ne sera alors affiché.</translation></message>
+<message id="1301s"><translation>Entrée : écouter la question 1</translation></message>
+<message id="1302s"><translation>Entrée : afficher la question 1</translation></message>
+<message id="1303s"><translation>La question 1 arrive …</translation></message>
+<message id="1304s"><translation>Écoutez …</translation></message>
+<message id="1305s"><translation>Quelle gamme est-ce ?</translation></message>
+<message id="1306s"><translation>Placez les altérations, puis validez</translation></message>
+<message id="1307s"><translation>juste :</translation></message>
+<message id="1308s"><translation>solution :</translation></message>
+<message id="1309s"><translation>but</translation></message>
+<message id="1310s"><translation>manqué</translation></message>
+<message id="1311s"><translation>non demandée</translation></message>
+<message id="1312s"><translation>maîtrisée</translation></message>
+<message id="1313s"><translation>Tout juste du premier coup ; des points ont été perdus pour le temps de réponse ou les répétitions.</translation></message>
+<message id="1314s"><translation>encore %1</translation></message>
 </context>
 </TS>

@@ -58,6 +58,9 @@ class Answers final : public form::Dialogs {
         : loop_(loop), chance_(chance), tally_(tally), folder_(std::move(folder)) {}
     void message(form::Icon icon, const std::string& title, const std::string& text) override;
     bool askYesNo(const std::string& title, const std::string& text) override;
+    bool confirm(const std::string& title, const std::string& text) override {
+        return askYesNo(title, text);
+    }
     std::string askOpenFile(const FileQuestion& question) override;
     std::string askSaveFile(const FileQuestion& question) override;
 

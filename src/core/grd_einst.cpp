@@ -56,6 +56,7 @@ void GrdEinst::start_timer() {
                  {cmdOK, wort::ok},
                  {cmdEnde, wort::quit},
                  {cmdHilfe, wort::help}});
+    benennen({{grdeinst(0), wort::branch}, {grdeinst(1), wort::exerciseType}});
     z.angemeldet = p.host.HostBenutzer().at(0).text() != "unbekannt";
     setCaption(p.katalog.titelWort + Wort(wort::colon) + p.katalog.bereich_name[0]);
     copyright.caption = Wort(wort::copyright) + " " + Wort(wort::version) + " " + versionText();

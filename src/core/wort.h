@@ -318,6 +318,25 @@ enum class Id : int {
     settingsMustWait = 971,    // Das Übungsprogramm „%1“ läuft gerade. Verlassen …
     unexpectedFault = 973,     // Unerwarteter Fehler: %1
     resultsNotTaken = 974,     // Ergebnisse können nicht angenommen werden. %1
+
+    // Worksheet: what to do, and what became of it
+    breakOffQuestion = 1300,  // Wirklich abbrechen? Ein Ergebnis wird dann …
+    hearFirstTask = 1301,     // Eingabetaste: Aufgabe 1 hören
+    seeFirstTask = 1302,      // Eingabetaste: Aufgabe 1 zeigen
+    firstTaskComes = 1303,    // Aufgabe 1 folgt …
+    listen = 1304,            // Zuhören …
+    whichScale = 1305,        // Welche Skala ist es?
+    putAccidentals = 1306,    // Vorzeichen setzen, dann Fertig
+    verdictRight = 1307,      // richtig:
+    verdictSolution = 1308,   // Lösung:
+
+    // Training bar and result form
+    barGoal = 1309,      // Ziel
+    barFailed = 1310,    // verfehlt
+    notAsked = 1311,     // nicht gefragt
+    mastered = 1312,     // beherrscht
+    weightToGo = 1314,   // noch %1
+    lostForTime = 1313,  // Alles auf Anhieb richtig; Abzüge gab es für …
 };
 using enum Id;
 

@@ -22,6 +22,7 @@ void Run::begin(TaskDuration dauer, const std::function<std::int64_t()>& seed) {
     rnd_.restart(numbered ? -int(z.zufallsNr) : seed());
     wertung_.auswertung.Clear();
     wertung_.ergebnis_best.Clear();
+    wertung_.wrongAnswers = 0;
     choice_.beginRun();
     ton_anz_akt_ = wrongAnswersAllowed(z, exercise_);
     z.bewertung_basis = static_cast<float>(ton_anz_akt_) * 0.5F;
@@ -40,6 +41,7 @@ void Run::beginExam(TaskDuration dauer) {
 
 void Run::resume(const core::Value& record) {
     standing_.counters = readTraining(record, pool_.potSkala(), z, wertung_.auswertung);
+    wertung_.wrongAnswers = standing_.counters.wrong;
     pool_.resumeTraining();
 }
 
@@ -90,7 +92,7 @@ void Run::rightAnswer() {
 
 void Run::wrongAnswer(float clock) {
     Attempt& v = choice_.attempt();
-    ++standing_.counters.wrong;
+    wertung_.wrongAnswers = ++standing_.counters.wrong;
     v.wrongAnswers += 1;
     v.punkte += 2;
     if (!exercise_.isWritten())

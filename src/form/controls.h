@@ -59,13 +59,26 @@ class Picture : public Control {
     Handler onClick;
 };
 
-/// A panel; with `floodPercent` a bar, with a handler a button.
+/// What has become of an answer.
+enum class Verdict { None, Right, Wrong };
+
+/// Steps that follow each other at the clock's pace; none: nothing moves.
+struct Flow {
+    int steps = 0;
+    int milliseconds = 0;  ///< from one step to the next
+    friend bool operator==(const Flow&, const Flow&) = default;
+};
+
+/// A panel; with `floodPercent` a bar, with a handler a button, with a `flow` a mark that moves.
 class Panel : public Control {
   public:
     Panel(Form& form, Place place) : Control(form, Kind::Panel, std::move(place)) {}
     void click();
     /// 0..100.
     Property<int> floodPercent{*this, Aspect::Value, 0};
+    Property<Flow> flow{*this, Aspect::Value, {}};
+    /// Of an answer that the panel stands for; views show a sign.
+    Property<Verdict> verdict{*this, Aspect::Value, Verdict::None};
     Handler onClick;
 };
 

@@ -14,7 +14,12 @@ class Dialogs {
   public:
     virtual ~Dialogs() = default;
     virtual void message(Icon icon, const std::string& title, const std::string& text) = 0;
+    /// Whether to do something that keeps what was done: yes unless the user says no in so many
+    /// words; Esc and the close box are no answer.
     virtual bool askYesNo(const std::string& title, const std::string& text) = 0;
+    /// Whether to do something that loses what was done: no unless the user says yes; Esc and the
+    /// close box mean no.
+    virtual bool confirm(const std::string& title, const std::string& text) = 0;
 
     /// What a file dialog offers.
     struct FileQuestion {

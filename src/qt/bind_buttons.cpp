@@ -2,9 +2,12 @@
 #include "qt/bar_widget.h"
 #include "qt/binder.h"
 #include "qt/painter_surface.h"
+#include "qt/play_mark.h"
+#include "qt/sign.h"
 #include "qt/window_keys.h"
 #include "suite/look.h"
 
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -48,8 +51,38 @@ QPushButton* Binder::pushButton(C& control) {
 
 QWidget* Binder::button(form::Button& control) { return pushButton(control); }
 
+/// A button that stands for an answer shows what became of it.
+QWidget* Binder::judged(QPushButton& button, form::Panel& control) {
+    follow(control, [&control, &button](Aspect aspect) {
+        if (aspect != Aspect::Value) return;
+        const form::Verdict verdict = control.verdict();
+        QIcon icon;
+        if (verdict != form::Verdict::None) {
+            const double ratio = button.devicePixelRatioF();
+            QPixmap picture(button.iconSize() * ratio);
+            picture.setDevicePixelRatio(ratio);
+            picture.fill(Qt::transparent);
+            QPainter painter(&picture);
+            paintSign(painter, QRectF(QPointF(), QSizeF(button.iconSize())).adjusted(1, 1, -1, -1),
+                      verdict);
+            for (const auto mode : {QIcon::Normal, QIcon::Disabled}) icon.addPixmap(picture, mode);
+        }
+        button.setIcon(icon);
+    });
+    return &button;
+}
+
+QWidget* Binder::playMark(form::Panel& control) {
+    auto* mark = new PlayMark(&window_);
+    common(control, *mark);
+    follow(control, [&control, mark](Aspect aspect) {
+        if (aspect == Aspect::Value) mark->setFlow(control.flow());
+    });
+    return mark;
+}
+
 QWidget* Binder::panel(form::Panel& control) {
-    if (control.onClick.run) return pushButton(control);
+    if (control.onClick.run) return judged(*pushButton(control), control);
     auto* bar = new BarWidget(&window_);
     common(control, *bar);
     const auto show = [&control, bar](Aspect aspect) {

@@ -33,6 +33,8 @@ class Binder {
     bool has(const std::string& name, int index = form::Place::noIndex) const {
         return form_.find(name, index) != nullptr;
     }
+    /// A panel that shows how far what sounds has come.
+    QWidget* playMark(form::Panel& control);
     /// Follows a control's changes for as long as the window lives.
     void follow(form::Control& control, std::function<void(form::Aspect)> listener);
     /// Name, accessible name, visible and enabled: what all widgets share.
@@ -52,6 +54,7 @@ class Binder {
     QWidget* textPage(W* text, form::TextBox& control, void (W::*setText)(const QString&));
     QWidget* button(form::Button& control);
     QWidget* panel(form::Panel& control);
+    QWidget* judged(QPushButton& button, form::Panel& control);
     QWidget* option(form::Option& control);
     QWidget* combo(form::Combo& control);
     QWidget* listBox(form::ListBox& control);

@@ -1,6 +1,9 @@
 #include "qt/dialogs.h"
 
+#include "qt/window_keys.h"
+
 #include <QApplication>
+#include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -27,17 +30,32 @@ QMessageBox::Icon iconOf(form::Icon icon) {
 
 using Button = std::pair<const std::string&, QMessageBox::ButtonRole>;
 
-/// @param buttons the default first, last the one of Esc and the close box.
-/// @return whether the default was pressed.
+/// A box that is answered by its buttons only.
+class Insistent final : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+    }
+};
+
+/// @param buttons the first is the default, and what Esc and the close box mean.
+/// @return whether the first was pressed.
+template <class Box = QMessageBox>
 bool ask(form::Icon icon, const std::string& title, const std::string& text,
          std::initializer_list<Button> buttons) {
-    QMessageBox box(iconOf(icon), QString::fromStdString(title), QString::fromStdString(text),
-                    QMessageBox::NoButton, QApplication::activeWindow());
+    Box box(iconOf(icon), QString::fromStdString(title), QString::fromStdString(text),
+            QMessageBox::NoButton, QApplication::activeWindow());
     for (const auto& [caption, role] : buttons) {
         auto* button = box.addButton(QString::fromStdString(caption), role);
-        if (!box.defaultButton()) box.setDefaultButton(button);
+        if (box.defaultButton()) continue;
+        box.setDefaultButton(button);
         box.setEscapeButton(button);
     }
+    giveLetters(box);
     box.exec();
     return box.clickedButton() == box.defaultButton();
 }
@@ -75,8 +93,14 @@ void QtDialogs::message(form::Icon icon, const std::string& title, const std::st
 
 bool QtDialogs::askYesNo(const std::string& title, const std::string& text) {
     const Answers a = answers();
-    return ask(form::Icon::Question, title, text,
-               {{a.yes, QMessageBox::YesRole}, {a.no, QMessageBox::NoRole}});
+    return ask<Insistent>(form::Icon::Question, title, text,
+                          {{a.yes, QMessageBox::YesRole}, {a.no, QMessageBox::NoRole}});
+}
+
+bool QtDialogs::confirm(const std::string& title, const std::string& text) {
+    const Answers a = answers();
+    return !ask(form::Icon::Question, title, text,
+                {{a.no, QMessageBox::NoRole}, {a.yes, QMessageBox::YesRole}});
 }
 
 }  // namespace qt

@@ -17,6 +17,7 @@ class QtDialogs final : public form::Dialogs {
 
     void message(form::Icon icon, const std::string& title, const std::string& text) override;
     bool askYesNo(const std::string& title, const std::string& text) override;
+    bool confirm(const std::string& title, const std::string& text) override;
     std::string askOpenFile(const FileQuestion& question) override;
     std::string askSaveFile(const FileQuestion& question) override;
 };

@@ -2,13 +2,26 @@
 
 #include "suite/look.h"
 
+#include <QFocusEvent>
 #include <QPainter>
+#include <QRadioButton>
 
 namespace qt {
 
 void GroupFrame::setColour(const QColor& colour) {
     colour_ = colour;
     update();
+}
+
+void GroupFrame::focusInEvent(QFocusEvent* event) {
+    QWidget* first = nullptr;
+    for (QWidget* child : findChildren<QWidget*>()) {
+        if (!child->isEnabled() || !child->isVisible() || !(child->focusPolicy() & Qt::TabFocus))
+            continue;
+        const auto* option = qobject_cast<QRadioButton*>(child);
+        if (!first || (option && option->isChecked())) first = child;
+    }
+    if (first) first->setFocus(event->reason());
 }
 
 void GroupFrame::paintEvent(QPaintEvent*) {

@@ -12,6 +12,8 @@ class GroupFrame final : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    /// Hands the focus to what is chosen in it, or to its first control.
+    void focusInEvent(QFocusEvent* event) override;
 
   private:
     QColor colour_;

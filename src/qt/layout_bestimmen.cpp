@@ -31,6 +31,7 @@ QWidget* pictureAnswer(Binder& bind, int i, std::vector<QWidget*>& buttons) {
     card->setColour(colour(frame.backColour()));
     bind.follow(frame, [card, &frame](form::Aspect aspect) {
         if (aspect == form::Aspect::Colour) card->setColour(colour(frame.backColour()));
+        if (aspect == form::Aspect::Value) card->setVerdict(frame.verdict());
     });
     auto* inside = new QVBoxLayout(card);
     inside->setContentsMargins(6, 4, 6, 6);

@@ -2,6 +2,7 @@
 #include "suite/look.h"
 
 #include <QGridLayout>
+#include <QLabel>
 
 namespace qt {
 
@@ -14,11 +15,16 @@ void build(FormWindow& window, const char* field, const char* label) {
     grid->setContentsMargins(suite::dialogMargins);
     grid->setVerticalSpacing(suite::gap);
     grid->setHorizontalSpacing(suite::gap);
-    grid->addWidget(bind(label), 0, 0);
-    grid->addWidget(bind(field, 0), 0, 1);
+    const auto pair = [&](const char* name, int index, int row, int span) {
+        auto* words = static_cast<QLabel*>(bind(name));
+        QWidget* line = bind(field, index);
+        words->setBuddy(line);
+        grid->addWidget(words, row, 0);
+        grid->addWidget(line, row, 1, 1, span);
+    };
+    pair(label, 0, 0, 1);
+    pair("lblDesc", 1, 1, 2);
     grid->addWidget(bind("cmdSave"), 0, 2);
-    grid->addWidget(bind("lblDesc"), 1, 0);
-    grid->addWidget(bind(field, 1), 1, 1, 1, 2);
     grid->setRowStretch(2, 1);
     QWidget* ok = bind("cmdOK");
     suite::leadingButton(*ok);

@@ -25,8 +25,10 @@ class Groups {
         inside->setContentsMargins(suite::margin, suite::gap, suite::margin, suite::gap + 2);
         inside->setSpacing(5);
         if (bind_.has("geinst_lb", index)) {
-            QWidget* heading = bind_("geinst_lb", index);
+            QLabel* heading = static_cast<QLabel*>(bind_("geinst_lb", index));
             suite::font(*heading, 1, QFont::Bold);
+            heading->setBuddy(frame);
+            frame->setFocusPolicy(Qt::ClickFocus);
             inside->addWidget(heading);
         }
         if (column) column->addWidget(frame);
@@ -44,6 +46,7 @@ class Groups {
     /// A label and what it names, side by side.
     void row(QBoxLayout* inside, QWidget* label, QWidget* control) {
         auto* line = new QHBoxLayout;
+        static_cast<QLabel*>(label)->setBuddy(control);
         line->addWidget(label);
         line->addWidget(control, 1);
         inside->addLayout(line);
@@ -57,8 +60,11 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
     QVBoxLayout* sound = groups.begin(column, 15);
     sound->addWidget(bind("ComboPatch"));
     auto* tempo = new QHBoxLayout;
-    tempo->addWidget(bind("lb15", 0));
-    tempo->addWidget(bind("temp_Combo"), 1);
+    auto* tempoLabel = static_cast<QLabel*>(bind("lb15", 0));
+    QWidget* tempoChoice = bind("temp_Combo");
+    tempoLabel->setBuddy(tempoChoice);
+    tempo->addWidget(tempoLabel);
+    tempo->addWidget(tempoChoice, 1);
     auto* note = static_cast<PictureWidget*>(bind("pic15"));
     note->setPicture(staff::quarterNote);
     note->setColour(Qt::transparent);
@@ -69,8 +75,11 @@ void soundGroup(Binder& bind, Groups& groups, QBoxLayout* column) {
     sound->addLayout(tempo);
     QVBoxLayout* check = groups.begin(nullptr, 14);
     auto* volume = new QHBoxLayout;
-    volume->addWidget(bind("lb14", 0));
-    volume->addWidget(bind("HSliderVolume"), 1);
+    auto* volumeLabel = static_cast<QLabel*>(bind("lb14", 0));
+    QWidget* slider = bind("HSliderVolume");
+    volumeLabel->setBuddy(slider);
+    volume->addWidget(volumeLabel);
+    volume->addWidget(slider, 1);
     QWidget* value = bind("lb14", 1);
     value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("127")) + 4);
     volume->addWidget(value);
@@ -165,7 +174,7 @@ void layoutEinstellung(FormWindow& window) {
 
     auto* hint = static_cast<QLabel*>(bind("tonHinweis"));
     hint->setWordWrap(true);
-    suite::colours(*hint, QColor(0x8A, 0x3B, 0x00));
+    suite::colours(*hint, suite::warning);
     page->addWidget(hint);
 
     QWidget* box = bind("aktionsbox");

@@ -32,6 +32,11 @@ void layoutGrdEinst(FormWindow& window) {
         column->setContentsMargins(18, 14, 18, 14);
         column->setSpacing(suite::gap);
         choices->addWidget(frame, 1);
+        frame->setFocusPolicy(Qt::ClickFocus);
+        auto* head = static_cast<QLabel*>(bind("grdeinst_lb", 1 - index));
+        suite::font(*head, 1, QFont::Bold);
+        head->setBuddy(frame);
+        column->addWidget(head);
         return column;
     };
     const auto option = [&](QVBoxLayout* column, const char* name, int index) {
@@ -40,16 +45,10 @@ void layoutGrdEinst(FormWindow& window) {
         column->addWidget(widget);
     };
     QVBoxLayout* branch = group(0);
-    QWidget* branchHead = bind("grdeinst_lb", 1);
-    suite::font(*branchHead, 1, QFont::Bold);
-    branch->addWidget(branchHead);
     option(branch, "Theoriewahl", 0);
     option(branch, "Theoriewahl", 1);
     branch->addStretch();
     QVBoxLayout* type = group(1);
-    QWidget* typeHead = bind("grdeinst_lb", 0);
-    suite::font(*typeHead, 1, QFont::Bold);
-    type->addWidget(typeHead);
     option(type, "ueb_typ", 1);
     option(type, "ueb_typ", 4);
     type->addStretch();

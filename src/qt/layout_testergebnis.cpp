@@ -8,6 +8,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace qt {
 
 namespace {
@@ -18,7 +20,7 @@ void heading(Binder& bind, QVBoxLayout* column, const char* name) {
     column->addWidget(head);
 }
 
-/// The rows of each direction below its heading, then the total.
+/// The rows of each direction below its heading, those never asked last, then the total.
 QWidget* resultRows(FormWindow& window) {
     Binder& bind = window.binder();
     QWidget* frame = bind("erg_cont");
@@ -47,15 +49,21 @@ QWidget* resultRows(FormWindow& window) {
         suite::colours(*head, suite::accent);
     }
     window.beforeOpening = [rows, headings, grid, &bind] {
-        const int each = static_cast<results::Testergebnis&>(bind.form()).zeilenJeRichtung();
+        const auto each = static_cast<std::size_t>(
+            static_cast<results::Testergebnis&>(bind.form()).zeilenJeRichtung());
         int line = 0;
-        for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
-            const auto at = static_cast<std::size_t>(i);
-            if (i % each == 0 && i / each < 2)
-                grid->addWidget(headings[static_cast<std::size_t>(i / each)], line++, 0, 1, 3);
-            grid->addWidget(rows[at].name, line, 0);
-            grid->addWidget(rows[at].bar, line, 1);
-            grid->addWidget(rows[at].percent, line++, 2);
+        for (std::size_t first = 0, k = 0; first < rows.size(); first += each, ++k) {
+            std::vector<Row> part(
+                rows.begin() + static_cast<std::ptrdiff_t>(first),
+                rows.begin() + static_cast<std::ptrdiff_t>(std::min(first + each, rows.size())));
+            std::ranges::stable_partition(part,
+                                          [](const Row& row) { return row.name->isEnabled(); });
+            if (k < headings.size()) grid->addWidget(headings[k], line++, 0, 1, 3);
+            for (const Row& row : part) {
+                grid->addWidget(row.name, line, 0);
+                grid->addWidget(row.bar, line, 1);
+                grid->addWidget(row.percent, line++, 2);
+            }
         }
     };
     auto* total = new QHBoxLayout;
@@ -67,6 +75,10 @@ QWidget* resultRows(FormWindow& window) {
     total->addWidget(percent);
     column->addSpacing(suite::gap);
     column->addLayout(total);
+    QLabel* lost = labelOf(bind, "lost");
+    lost->setWordWrap(true);
+    suite::quiet(*lost);
+    column->addWidget(lost);
     column->addStretch(1);
     return frame;
 }

@@ -2,6 +2,7 @@
 #include "qt/worksheet_page.h"
 
 #include "qt/group_frame.h"
+#include "qt/painter_surface.h"
 #include "suite/look.h"
 
 #include <QEvent>
@@ -41,6 +42,75 @@ class InTheMiddle final : public QObject {
     QWidget& below_;
 };
 
+/// The result, small above it what it says of the task, and while it is empty what to do.
+QWidget* resultBox(Binder& bind) {
+    auto& model = bind.control<form::Label>("ergebnis");
+    QLabel* result = labelOf(bind, "ergebnis");
+    QLabel* verdict = labelOf(bind, "verdict");
+    QLabel* todo = labelOf(bind, "todo");
+    auto* box = new QWidget;
+    box->setAutoFillBackground(true);
+    box->setMinimumHeight(84);
+    auto* inside = new QGridLayout(box);
+    inside->setContentsMargins(suite::gap, 4, suite::gap, suite::gap);
+    inside->setSpacing(0);
+    inside->addWidget(verdict, 0, 0);
+    inside->addWidget(result, 1, 0);
+    inside->addWidget(todo, 1, 0);
+    inside->setRowStretch(1, 1);
+    for (QLabel* label : {result, todo}) {
+        label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(true);
+    }
+    verdict->setAlignment(Qt::AlignHCenter);
+    suite::font(*result, 1.2, QFont::Bold);
+    suite::font(*verdict, 0.9);
+    suite::colours(*todo, Qt::white);
+    const auto show = [&model, result, verdict, todo, box](form::Aspect aspect) {
+        if (aspect == form::Aspect::Colour) {
+            suite::colours(*box, Qt::white, colour(model.backColour()));
+            suite::colours(*verdict, colour(model.foreColour()));
+        }
+        if (aspect != form::Aspect::Caption) return;
+        result->setVisible(!model.caption().empty());
+        todo->setVisible(model.caption().empty());
+    };
+    show(form::Aspect::Colour);
+    show(form::Aspect::Caption);
+    bind.follow(model, show);
+    return box;
+}
+
+/// The ends of the training bar, and in words where it stands.
+void barInWords(Binder& bind, QVBoxLayout* column) {
+    auto* ends = new QHBoxLayout;
+    QLabel* goal = labelOf(bind, "barGoal");
+    QLabel* failed = labelOf(bind, "barFailed");
+    QLabel* standing = labelOf(bind, "barStanding");
+    ends->addWidget(goal);
+    ends->addStretch();
+    ends->addWidget(failed);
+    column->addLayout(ends);
+    column->addWidget(standing);
+    standing->setWordWrap(true);
+    for (QLabel* label : {goal, failed, standing}) suite::quiet(*label);
+}
+
+/// How loud it is, and why nothing can be heard.
+void soundControls(Binder& bind, QVBoxLayout* column) {
+    QLabel* why = labelOf(bind, "soundHint");
+    why->setWordWrap(true);
+    suite::colours(*why, suite::warning);
+    column->addWidget(why);
+    auto* line = new QHBoxLayout;
+    QLabel* name = labelOf(bind, "volumeLabel");
+    QWidget* slider = bind("volume");
+    name->setBuddy(slider);
+    line->addWidget(name);
+    line->addWidget(slider, 1);
+    column->addLayout(line);
+}
+
 /// Result, counters, and what leads on.
 QWidget* sidePanel(Binder& bind, QWidget*& nextTask) {
     QWidget* side = bind("PicArb1");
@@ -57,13 +127,9 @@ QWidget* sidePanel(Binder& bind, QWidget*& nextTask) {
         column->addWidget(scale);
     }
 
-    QLabel* result = labelOf(bind, "ergebnis");
-    result->setAlignment(Qt::AlignCenter);
-    result->setWordWrap(true);
-    result->setMinimumHeight(64);
-    result->setAutoFillBackground(true);
-    suite::font(*result, 1.2, QFont::Bold);
-    column->addWidget(result);
+    column->addWidget(resultBox(bind));
+    if (bind.has("playMark"))
+        column->addWidget(bind.playMark(bind.control<form::Panel>("playMark")));
 
     auto* counters = new QGridLayout;
     counters->setVerticalSpacing(2);
@@ -105,6 +171,7 @@ QWidget* sidePanel(Binder& bind, QWidget*& nextTask) {
     QWidget* flood = bind("matboxanz");
     flood->setMinimumHeight(18);
     bar->addWidget(flood);
+    barInWords(bind, bar);
     for (const int i : {0, 1, 2}) {
         QLabel* caption = labelOf(bind, "ergebnis_anz", i);
         suite::font(*caption, 1, QFont::Bold);
@@ -123,6 +190,7 @@ QWidget* sidePanel(Binder& bind, QWidget*& nextTask) {
     clock->addWidget(bind("cmd_test_ein"));
     column->addWidget(exam);
     column->addStretch();
+    if (bind.has("volume")) soundControls(bind, column);
     tall("zurueck");
     side->setFixedWidth(static_cast<int>(sideWidth * suite::scale()));
     return side;

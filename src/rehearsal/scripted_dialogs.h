@@ -26,6 +26,9 @@ struct ScriptedDialogs final : form::Dialogs {
         questions.push_back(title + "|" + text);
         return next(answers, otherwise);
     }
+    bool confirm(const std::string& title, const std::string& text) override {
+        return askYesNo(title, text);
+    }
     std::string askOpenFile(const FileQuestion& question) override { return file(question); }
     std::string askSaveFile(const FileQuestion& question) override { return file(question); }
 

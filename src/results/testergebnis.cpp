@@ -58,6 +58,10 @@ void Testergebnis::ZeilenZeigen() {
     }
     gesamt.caption =
         gezaehlt_ == 0 ? nichtGezaehlt : prozentText(summe_ / static_cast<float>(gezaehlt_));
+    const bool onlyTime =
+        gezaehlt_ > 0 && wertung_.wrongAnswers == 0 && summe_ < static_cast<float>(gezaehlt_);
+    lost.visible = onlyTime;
+    if (onlyTime) lost.caption = Wort(wort::lostForTime);
 }
 
 void Testergebnis::ErgebnisZeile(int i, int slot, const std::string& name) {
@@ -66,7 +70,11 @@ void Testergebnis::ErgebnisZeile(int i, int slot, const std::string& name) {
     ergebnis(i).caption = zeile.zaehlt ? prozentText(zeile.anteil) : nichtGezaehlt;
     balken(i).floodPercent = base::rounded(static_cast<double>(zeile.anteil) * 100);
     balken(i).accessibleName = name;
-    balken(i).enabled = zeile.zaehlt;
+    balken(i).visible = zeile.zaehlt;
+    for (form::Label* label : {&Lab_ergeb(i), &ergebnis(i)}) {
+        label->enabled = zeile.zaehlt;
+        label->hint = zeile.zaehlt ? std::string() : Wort(wort::notAsked);
+    }
     if (!zeile.zaehlt) return;
     summe_ += zeile.anteil;
     ++gezaehlt_;
@@ -81,10 +89,13 @@ void Testergebnis::GewichteZeigen() {
         Lab_schwach(i).visible = da;
         gewicht(i).visible = da;
         if (!da) continue;
-        const i16 code = z.mathaeufgk_box(i + 1, 0);
+        const i16 code = z.mathaeufgk_box(i + 1, core::gewicht::spalteCode);
         const char* richtung = z.richtung != 2 ? "" : code > 0 ? "+ " : "- ";
         Lab_schwach(i).caption = richtung + p.katalog.skal_name[z.skal_typ][std::abs(code) - 1];
-        gewicht(i).caption = std::to_string(z.mathaeufgk_box(i + 1, 1));
+        const i16 weight = z.mathaeufgk_box(i + 1, core::gewicht::spalteGewicht);
+        gewicht(i).caption = weight <= 0
+                                 ? Wort(wort::mastered)
+                                 : core::eingesetzt(Wort(wort::weightToGo), std::to_string(weight));
     }
 }
 

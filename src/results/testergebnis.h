@@ -54,6 +54,8 @@ class Testergebnis final : public core::Formular {
     form::ControlArray<form::Label> ergebnis{*this, "ergebnis", maxZeilen, &erg_cont};
     form::Label Lab_gesamt{*this, {"Lab_gesamt", &erg_cont}};
     form::Label gesamt{*this, {"gesamt", &erg_cont}};
+    /// Why it is not all, where every answer was right.
+    form::Label lost{*this, {"lost", &erg_cont}};
     /// After a training: its scales by weight, weakest first.
     form::Group schwach_cont{*this, {"schwach_cont"}};
     form::Label schwach_head{*this, {"schwach_head", &schwach_cont}};

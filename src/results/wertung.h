@@ -19,6 +19,8 @@ struct Wertung {
     void AnwesenheitMerken(i16 code);
 
     core::Zustand& z;
+    /// Wrong answers of the run.
+    int wrongAnswers = 0;
     Auswertung auswertung;
     ergebnis ergebnis_best;
 };

@@ -75,6 +75,7 @@ Groups::Groups(core::Formular& form, Zweig zweig)
         if (g.wort == wort::none) continue;
         geinst_lb(g.index).setContainer(*gruppe);
         form.beschriften({{geinst_lb(g.index), g.wort}});
+        form.benennen({{*gruppe, g.wort}});
     }
     grdeinst(group::check).setContainer(grdeinst(group::sound));
 }

@@ -5,9 +5,9 @@
 #include "core/wort.h"
 #include "sound/instruments.h"
 #include "sound/phrase.h"
+#include "sound/problem.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 namespace setup {
@@ -68,7 +68,7 @@ void SoundPanel::KlangEinrichten() {
     midi_.MidiGeraete(MIDI);
     midi_.MidiInit(MIDI);
     MIDI.queueEmpty = [this] { form_.guard("QueueEmpty.", [this] { QueueEmpty(); }); };
-    MIDI.problemChanged = [this] { TonHinweisZeigen(); };
+    problemTold_ = MIDI.problemChanged.connect([this] { TonHinweisZeigen(); });
     sound::Klangliste(ComboPatch);
     ComboPatch.setListIndex(0);
     for (const char* tempo : katalog::tempo_name) temp_Combo.add(tempo);
@@ -84,7 +84,6 @@ void SoundPanel::silence() {
 void SoundPanel::disconnect() {
     if (!klingt(zweig_)) return;
     MIDI.queueEmpty = nullptr;
-    MIDI.problemChanged = nullptr;
 }
 
 void SoundPanel::chooseTempo(int index) {
@@ -142,12 +141,6 @@ void SoundPanel::KlangKontrolleAbschliessen() {
     onCheck(false);
 }
 
-void SoundPanel::TonHinweisZeigen() {
-    constexpr std::array hinweise{wort::none, wort::noSoundfont, wort::noAudioDevice,
-                                  wort::audioDeviceGone, wort::noSoundLibrary};
-    const wort::Id why = base::at(hinweise, static_cast<int>(MIDI.problem()));
-    tonHinweis.caption = why == wort::none ? std::string() : p.Wort(why);
-    tonHinweis.visible = why != wort::none;
-}
+void SoundPanel::TonHinweisZeigen() { sound::showProblem(tonHinweis, MIDI.problem(), p.worte); }
 
 }  // namespace setup

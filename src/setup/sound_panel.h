@@ -46,7 +46,7 @@ class SoundPanel {
     Zweig zweig_;
     const bool& abbruch_;
     bool verklungen_ = false;  ///< a check has ended and was not closed yet
-    form::Connection formularFort_;
+    form::Connection formularFort_, problemTold_;
 
     form::Combo ComboPatch;
     form::ControlArray<form::Label> lb15;

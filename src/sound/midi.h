@@ -47,6 +47,7 @@ class Midi {
 
     /// Velocity of every note, also of the volume slider, 0..127.
     void setVelocity(i16 wert);
+    i16 velocity() const { return midi_lautstaerke_; }
     i16 device() const { return midi_geraet_; }
     /// The control in use; one that does nothing before `MidiInit`.
     MidiOutput& output() const { return *midi_ausgabe_; }

@@ -1,4 +1,6 @@
 #pragma once
+#include "form/signal.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -63,7 +65,7 @@ class MidiOutput {
     /// Raised once, on the drill's thread, after the last event of a started queue was played.
     std::function<void()> queueEmpty;
     /// Raised, on the drill's thread, when `problem()` has changed.
-    std::function<void()> problemChanged;
+    form::Signal<> problemChanged;
 };
 
 }  // namespace sound

@@ -77,6 +77,14 @@ void paintAccidental(Surface& surface, i16 x, i16 y, int accidental) {
     }
 }
 
+void paintTick(Surface& surface, i16 x, i16 y) {
+    surface.shape(shapes::tick, x - 4, y, lineColour(ink::green));
+}
+
+void paintCross(Surface& surface, i16 x, i16 y) {
+    surface.shape(shapes::cross, x - 4, y, lineColour(ink::red));
+}
+
 void OktavMarkeMalen(Surface& surface, i16 x, i16 y, int farbe) {
     surface.shape(shapes::octaveMark, x, y, lineColour(farbe));
 }

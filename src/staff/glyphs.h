@@ -47,6 +47,10 @@ void AufloesungMalen(Surface& surface, i16 ax, i16 ay);
 /// drawn. @param accidental -2..2.
 void paintAccidental(Surface& surface, i16 x, i16 y, int accidental);
 
+/// What became of a note, 9 pixels wide and high around x, from y on: a green tick, a red cross.
+void paintTick(Surface& surface, i16 x, i16 y);
+void paintCross(Surface& surface, i16 x, i16 y);
+
 /// The letters "8va", 25 pixels wide and 9 high.
 void OktavMarkeMalen(Surface& surface, i16 x, i16 y, int farbe);
 

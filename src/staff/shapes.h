@@ -51,4 +51,10 @@ inline constexpr std::array clefDots{
     Stroke{26, 51, 31, 51}, Stroke{26, 52, 31, 52}, Stroke{26, 53, 31, 53}, Stroke{26, 54, 31, 54},
     Stroke{26, 58, 31, 58}, Stroke{26, 59, 31, 59}, Stroke{26, 60, 31, 60}, Stroke{26, 61, 31, 61}};
 
+/// Signs of a judged note, two pixels thick.
+inline constexpr std::array tick{Stroke{0, 5, 3, 8}, Stroke{0, 6, 3, 9}, Stroke{3, 8, 9, -1},
+                                 Stroke{4, 8, 10, -1}};
+inline constexpr std::array cross{Stroke{0, 0, 9, 9}, Stroke{1, 0, 10, 9}, Stroke{8, 0, -1, 9},
+                                  Stroke{9, 0, 0, 9}};
+
 }  // namespace staff::shapes

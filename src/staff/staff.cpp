@@ -21,6 +21,8 @@ constexpr std::array sharpLines{SignLines{64, 76, 60, 72, 84, 68, 80},
                                 SignLines{56, 68, 52, 64, 76, 60, 72}};
 constexpr std::array flatLines{SignLines{80, 68, 84, 72, 88, 76, 92},
                                SignLines{72, 60, 76, 64, 80, 68, 84}};
+/// Top of what is written below the notes of a staff.
+constexpr int belowNotes = 132;
 constexpr int signatureX = 36;
 constexpr int signatureStep = 10;
 
@@ -140,14 +142,21 @@ void Staff::OktavMarke(i16 c) {
                     NotSelb_[c].octave == 1 ? ink::black : ink::white);
 }
 
+void Staff::paintVerdict(i16 c, bool right) {
+    Canvas& canvas = PicB(SchlZ_);
+    if (right)
+        paintTick(canvas, layout_.x(c), belowNotes);
+    else
+        paintCross(canvas, layout_.x(c), belowNotes);
+}
+
 void Staff::paintSteps() {
-    constexpr int textTop = 132;
     for (int c = 0; c + 1 < tonAnz_; ++c) {
         const int halfTones = std::abs(int(NotSelb_[c + 1].midi - NotSelb_[c].midi));
         std::string text = halfTones > 1 ? std::to_string(halfTones / 2) : "";
         if (halfTones % 2 == 1) text += "½";
         const int middle = (layout_.x(c) + layout_.x(c + 1)) / 2;
-        PicB(SchlZ_).text(middle - 4, textTop, text, lineColour(ink::green));
+        PicB(SchlZ_).text(middle - 4, belowNotes, text, lineColour(ink::green));
     }
 }
 

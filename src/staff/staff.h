@@ -42,6 +42,8 @@ class Staff {
     void NoteMalen(i16 c);
     /// Draws or takes away "8va" above a column.
     void OktavMarke(i16 c);
+    /// A tick or a cross below the note of a column.
+    void paintVerdict(i16 c, bool right);
     /// Writes the steps between the notes below them, in whole tones.
     void paintSteps();
     /// How the note of a column agrees with an earlier one of its staff: -1 the same note stands

@@ -12,6 +12,7 @@ inline const QColor line{0xCF, 0xCB, 0xC2};
 inline const QColor text{0x22, 0x26, 0x2B};
 inline const QColor muted{0x6A, 0x6E, 0x75};
 inline const QColor accent{0x1F, 0x5F, 0x99};
+inline const QColor warning{0x8A, 0x3B, 0x00};
 inline constexpr int margin = 12;
 inline constexpr int gap = 8;
 inline constexpr int radius = 6;

@@ -125,9 +125,7 @@ class SynthOutput : public sound::MidiOutput {
     }
 
     void raiseProblem() {
-        raise([this] {
-            if (problemChanged) problemChanged();
-        });
+        raise([this] { problemChanged(); });
     }
 
     void raise(std::function<void()> call) {

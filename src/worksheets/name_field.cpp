@@ -5,6 +5,8 @@
 
 namespace worksheets {
 
+namespace wort = core::wort;
+
 namespace {
 
 constexpr base::Colour openColour = base::rgb(128, 255, 128);
@@ -49,7 +51,6 @@ void NameField::prepare() {
             const std::string& name = p.katalog.skal_name[z.skal_typ][i];
             skal_bez(i).caption = name;
             tonart(i).caption = name;
-            ton_art(i).accessibleName = name;
             ton_art(i).picture = basis + i;
         }
         tonart(i).visible = offered && !bilder;
@@ -60,13 +61,37 @@ void NameField::prepare() {
         if (offered) ziffer(i).caption = std::to_string(++digit % 10);
     }
     closeAll();
+    for (int i = 0; i <= z.skal_anz; ++i) judge(i, form::Verdict::None);
     if (!view_) return;
-    form_.beschriften({{*schrittmarken, core::wort::stepMarks}});
+    form_.beschriften({{*schrittmarken, wort::stepMarks}});
     view_->prepare(kategorie.tonAnz, true);
 }
 
-/// The scale stands on the staff, in the order in which it is to be read.
+void NameField::judge(int i, form::Verdict verdict) {
+    tonart(i).verdict = verdict;
+    skal_pan(i).verdict = verdict;
+    const std::string words = inWords(i);
+    tonart(i).accessibleName = words;
+    ton_art(i).accessibleName = words;
+}
+
+std::string NameField::inWords(int i) const {
+    std::string words = ziffer(i).caption() + " " + skal_bez(i).caption();
+    switch (skal_pan(i).verdict()) {
+        case form::Verdict::None:
+            return words;
+        case form::Verdict::Right:
+            return words + ", " + p.Wort(wort::right);
+        case form::Verdict::Wrong:
+            return words + ", " + p.Wort(wort::wrong);
+    }
+    return words;
+}
+
+/// Where it stands on a staff, in the order in which it is to be read.
 void NameField::show(const engine::Task& a) {
+    for (int i = 0; i <= z.skal_anz; ++i)
+        if (skal_pan(i).verdict() != form::Verdict::None) judge(i, form::Verdict::None);
     if (!view_) return;
     schrittmarken->enabled = false;
     view_->layOut(a, true);
@@ -97,12 +122,14 @@ void NameField::close() {
 
 /// A wrong answer stays locked until the task is closed.
 void NameField::scored() {
+    const engine::Answer& answer = run_.lastAnswer();
+    if (!answer.right) judge(answer.index, form::Verdict::Wrong);
     if (run_.aufgZustand() == engine::TaskState::TryAgain) {
-        const int wrong = run_.lastAnswer().index;
-        base::at(gesperrt_, wrong) = true;
-        open(wrong, false);
+        base::at(gesperrt_, answer.index) = true;
+        open(answer.index, false);
         return;
     }
+    judge(run_.task().skala_nr, form::Verdict::Right);
     gesperrt_.fill(false);
     closeAll();
     if (schrittmarken) schrittmarken->enabled = true;

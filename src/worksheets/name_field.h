@@ -30,6 +30,10 @@ class NameField final : public AnswerField {
     void skal_antw(int Index);
     void open(int i, bool open);
     void closeAll();
+    /// The sign of an answer, until the next task.
+    void judge(int i, form::Verdict verdict);
+    /// Digit key, name, and what became of it.
+    std::string inWords(int i) const;
 
     std::array<bool, maxAnswers> gesperrt_{};
 

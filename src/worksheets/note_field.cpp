@@ -101,19 +101,22 @@ void NoteField::skal_antw() {
 
 void NoteField::scored() {
     if (run_.aufgZustand() == engine::TaskState::TryAgain) return;
-    if (!run_.lastAnswer().right) LoesungZeigen(run_.task());
+    LoesungZeigen(run_.task());
     close();
     HinweisMeldung.visible = false;
 }
 
-/// The right notes with red heads in place of the wrong ones; right ones turn black.
+/// The right notes with red heads in place of the wrong ones; right ones turn black. Below each
+/// stands what became of it.
 void NoteField::LoesungZeigen(const engine::Task& a) {
     staff::Staff& staff = view_.staff;
-    for (int c = 1; c <= a.tonAnz - 2; ++c) {
-        const core::Pitch pitch = a.pitchAt(c);
-        staff.NoteSetzen(c, pitch,
-                         staff.NotSelb(c).pitch() == pitch ? staff::ink::black : staff::ink::red);
-    }
+    const auto isRight = [&](int c) { return staff.NotSelb(c).pitch() == a.pitchAt(c); };
+    base::FixedArray<bool, staff::ColumnLayout::columns> right;
+    for (int c = 1; c <= a.tonAnz - 2; ++c) right[c] = isRight(c);
+    if (!run_.lastAnswer().right)
+        for (int c = 1; c <= a.tonAnz - 2; ++c)
+            staff.NoteSetzen(c, a.pitchAt(c), right[c] ? staff::ink::black : staff::ink::red);
+    for (int c = 1; c <= a.tonAnz - 2; ++c) staff.paintVerdict(c, right[c]);
 }
 
 /// The notes in words, and what stands under the hand.

@@ -3,6 +3,7 @@
 #include "core/wort.h"
 #include "engine/exam_plan.h"
 #include "sound/phrase.h"
+#include "sound/problem.h"
 #include "worksheets/worksheet.h"
 
 #include <span>
@@ -27,7 +28,13 @@ SoundPresentation::SoundPresentation(Worksheet& worksheet, core::Programm& progr
       wieder2(worksheet, {"wieder2", &area}),
       whlgzaehler(worksheet, {"whlgzaehler", &area}),
       whlgzaehler_lb(worksheet, {"whlgzaehler_lb", &area}),
+      playMark(worksheet, {"playMark", &area}),
+      volumeLabel(worksheet, {"volumeLabel", &area}),
+      volume(worksheet, {"volume", &area}, 0, 127),
+      soundHint(worksheet, {"soundHint", &area}),
       spieltimer(worksheet, {"spieltimer"}, 1000) {
+    volume.onChange = {"volume_change.", [this] { midi_.setVelocity(volume.value()); }};
+    problemTold_ = midi.output().problemChanged.connect([this] { showProblem(); });
     wieder.onClick = {"wieder_click.", [this] { wieder_click(); }};
     wieder2.onClick = {"wieder2_click.", [this] { playReview(nullptr); }};
     spieltimer.onTick = {"spieltimer_timer.", [this] { spieltimer_timer(); }};
@@ -47,8 +54,13 @@ void SoundPresentation::offerOwnVersion(std::function<Version()> version) {
 
 void SoundPresentation::beginRun() {
     if (eigene) worksheet_.beschriften({{*eigene, wort::ownVersion}});
-    worksheet_.beschriften(
-        {{wieder, wort::repeat}, {wieder2, wort::repeatCheck}, {whlgzaehler_lb, wort::repeats}});
+    worksheet_.beschriften({{wieder, wort::repeat},
+                            {wieder2, wort::repeatCheck},
+                            {whlgzaehler_lb, wort::repeats},
+                            {volumeLabel, wort::volume}});
+    worksheet_.benennen({{volume, wort::volume}});
+    volume.setValue(midi_.velocity());
+    showProblem();
     wieder.enabled = false;
     spieltimer.setInterval(engine::soundingTime(z));
 }
@@ -67,6 +79,7 @@ void SoundPresentation::FeinVerstimmen() {
 }
 
 bool SoundPresentation::fallSilent() {
+    playMark.flow = {};
     midi_.MidiReset();
     midi_.Delay(breath, worksheet_.abbruch());
     return !worksheet_.abbruch();
@@ -80,6 +93,7 @@ void SoundPresentation::present() {
 
 void SoundPresentation::AufgabeSpielen(const Version* ownNotes) {
     if (!fallSilent()) return;
+    worksheet_.listen();
     midi_.setInstruments(z.patch);
     midi_.MidiAusblenden();
     if (worksheet_.abbruch()) return;
@@ -98,11 +112,14 @@ void SoundPresentation::AufgabeSpielen(const Version* ownNotes) {
                         .detune = varies ? std::optional(feinVerstimmung_) : std::nullopt});
     midi_.Delay(breath, worksheet_.abbruch());
     if (!worksheet_.abbruch()) midi_.MidiEinblenden();
-    if (!worksheet_.abbruch()) spieltimer.start();
+    if (worksheet_.abbruch()) return;
+    playMark.flow = {a.tonAnz, z.tempo_dauer[z.tempoIdx]};
+    spieltimer.start();
 }
 
 void SoundPresentation::spieltimer_timer() {
     spieltimer.stop();
+    playMark.flow = {};
     if (worksheet_.abbruch()) return;
     if (spielArt_ == Playback::Review) {
         allowReview(true);
@@ -160,8 +177,13 @@ void SoundPresentation::endRun(bool review) {
     allowReview(false);
 }
 
+void SoundPresentation::showProblem() {
+    sound::showProblem(soundHint, midi_.output().problem(), p.worte);
+}
+
 void SoundPresentation::leave() {
     spieltimer.stop();
+    playMark.flow = {};
     wieder.enabled = false;
     allowReview(false);
     midi_.MidiReset();

@@ -53,6 +53,7 @@ class SoundPresentation final {
     void FeinVerstimmen();
     void offerReview();
     void allowReview(bool allowed);
+    void showProblem();
 
     Worksheet& worksheet_;
     core::Programm& p;
@@ -62,10 +63,17 @@ class SoundPresentation final {
     i16 feinVerstimmung_;  ///< detune of the task in bend steps, -15..15
     i16 feinVorzeichen_ = 1;
 
+    form::Connection problemTold_;
     std::function<Version()> version_;
     form::Panel wieder, wieder2;
     std::unique_ptr<form::Panel> eigene;
     form::Label whlgzaehler, whlgzaehler_lb;
+    /// Moves along the notes while they sound.
+    form::Panel playMark;
+    form::Label volumeLabel;
+    form::Slider volume;
+    /// Why nothing can be heard, and what to do.
+    form::Label soundHint;
     form::Timer spieltimer;
 };
 

@@ -94,6 +94,8 @@ void Worksheet::setCaptions() {
                  {cmd_test_aus, wort::hideTestStatus},
                  {cmd_test_ein, wort::showTestStatus},
                  {WaitMeld, wort::oneMoment},
+                 {barGoal, wort::barGoal},
+                 {barFailed, wort::barFailed},
                  {tasten, keyTexts[exercise.isWritten() ? 1 : 0][exercise.sounds() ? 1 : 0]},
                  {cmdHilfe, wort::help}});
     CmdNextAufg.caption = Wort(wort::task) + " 1";
@@ -124,6 +126,9 @@ void Worksheet::start_timer() {
     CmdNextAufg.enabled = !automatic;
     LbNextAufg.visible = automatic;
     if (automatic) WahlAutomat.start();
+    todo.caption = Wort(automatic       ? wort::firstTaskComes
+                        : presentation_ ? wort::hearFirstTask
+                                        : wort::seeFirstTask);
     turn(Turn::RunReady);
 }
 
@@ -143,9 +148,10 @@ void Worksheet::showStanding() {
     if (core::isTraining(z)) {
         const engine::TaskPool& pool = run_.pool();
         matboxanz.floodPercent = pool.percent();
-        matboxanz.hint =
+        barStanding.caption =
             core::eingesetzt(Wort(wort::pointsToGoal), std::to_string(pool.matbox_zahl()),
                              std::to_string(pool.obergrenze()));
+        matboxanz.hint = barStanding.caption();
     }
     if (core::isTest(z)) {
         stop_uhr.caption = Wort(wort::timeLeft) + std::to_string(standing.restZeit / 60) + " " +
@@ -166,8 +172,8 @@ void Worksheet::MatWahl() {
     guard("MatWahl.", [this] {
         const engine::Task& a = run_.draw();
         red_ = false;
-        ergebnis.caption = "";
-        ergebnis.backColour = colours::black;
+        showResult("", colours::green, colours::black);
+        verdict.caption = "";
         if (presentation_) presentation_->beginTask();
         field_->show(a);
         turn(Turn::TaskDrawn);
@@ -178,7 +184,10 @@ void Worksheet::MatWahl() {
     });
 }
 
+void Worksheet::listen() { todo.caption = Wort(wort::listen); }
+
 void Worksheet::allowAnswer() {
+    todo.caption = Wort(run_.exercise().isWritten() ? wort::putAccidentals : wort::whichScale);
     field_->open();
     run_.answerOpen(p.ports.loop.clock());
     turn(Turn::AnswerOpen);
@@ -202,18 +211,25 @@ void Worksheet::scoreAnswer(const engine::Answer& answer) {
     afterAnswer();
 }
 
+void Worksheet::showResult(const std::string& text, base::Colour letters, base::Colour ground) {
+    ergebnis.backColour = ground;
+    ergebnis.foreColour = letters;
+    ergebnis.accessibleName = verdict.caption() + " " + text;
+    ergebnis.caption = text;
+}
+
 void Worksheet::showRight() {
-    ergebnis.backColour = colours::black;
-    ergebnis.foreColour = colours::green;
-    ergebnis.caption = solution();
+    verdict.caption = Wort(wort::verdictRight);
+    showResult(solution(), colours::green, colours::black);
 }
 
 /// Two wrong answers in a row make the field blink.
 void Worksheet::showWrong() {
     red_ = !red_;
-    ergebnis.backColour = red_ ? colours::red : colours::black;
-    ergebnis.foreColour = red_ ? colours::black : colours::red;
-    ergebnis.caption = run_.aufgZustand() == TaskState::TryAgain ? Wort(wort::wrong) : solution();
+    const bool again = run_.aufgZustand() == TaskState::TryAgain;
+    verdict.caption = again ? std::string() : Wort(wort::verdictSolution);
+    showResult(again ? Wort(wort::wrong) : solution(), red_ ? colours::black : colours::red,
+               red_ ? colours::red : colours::black);
 }
 
 /// The name of the scale that was asked for. Where the learner named it, with what it is half of,
@@ -305,7 +321,7 @@ bool Worksheet::key(form::Key key) {
                 CmdNextAufg.click();
             return true;
         case Escape:
-            zurueck.click();
+            breakOff();
             return true;
         case Digit:
             return false;
@@ -326,7 +342,7 @@ void Worksheet::Uhrzeit_timer() {
     stopAll();
     turn(Turn::RunEnded);
     saveRecord();
-    showResult();
+    showResultForm();
     returnToSetUp();
 }
 
@@ -346,6 +362,15 @@ void Worksheet::unloading() {
     stopAll();
 }
 
+/// The key and the close box that leave do not end a test or an exam by mistake.
+void Worksheet::breakOff() {
+    const bool asks = core::isTest(z) && begun_ && !run_.ended();
+    if (asks &&
+        !p.ports.dialogs.confirm(p.katalog.typ_name[z.ueb_typ], Wort(wort::breakOffQuestion)))
+        return;
+    zurueck.click();
+}
+
 void Worksheet::zurueck_click() {
     if (leaving_) return;
     leaving_ = true;
@@ -354,7 +379,7 @@ void Worksheet::zurueck_click() {
         zurueck.backColour = colours::magenta;
         zurueck.caption = Wort(wort::back);
         zurueck.foreColour = colours::black;
-        showResult();
+        showResultForm();
     } else {
         turn(Turn::RunEnded);
         guard("zurueck_click.", [this] { offerSaving(); });
@@ -373,7 +398,7 @@ void Worksheet::offerSaving() {
 }
 
 /// The worksheet stays until the result has come.
-void Worksheet::showResult() {
+void Worksheet::showResultForm() {
     constexpr auto formular = "testergebnis";
     guard("ErgebnisZeigen.", [this] {
         forms().hide(formular);

@@ -23,7 +23,7 @@ class Worksheet final : public core::Formular {
     ~Worksheet() override;
 
     void activate() override;
-    void closeBox() override { zurueck_click(); }
+    void closeBox() override { breakOff(); }
     /// A worksheet that is taken away in the middle of a task falls silent.
     void unloading() override;
     bool key(form::Key key) override;
@@ -50,6 +50,8 @@ class Worksheet final : public core::Formular {
     void scoreAnswer(const engine::Answer& answer);
     void offerNext();
     void withdrawNext();
+    /// The task is being played.
+    void listen();
 
   private:
     void start_timer();
@@ -58,6 +60,7 @@ class Worksheet final : public core::Formular {
     void showStanding();
     void showTestStanding(bool shown);
     void MatWahl();
+    void showResult(const std::string& text, base::Colour letters, base::Colour ground);
     void showRight();
     void showWrong();
     std::string solution() const;
@@ -69,9 +72,10 @@ class Worksheet final : public core::Formular {
     void Uhrzeit_timer();
 
     void zurueck_click();
+    void breakOff();
     void stopAll();
     void offerSaving();
-    void showResult();
+    void showResultForm();
     void saveRecord();
     void returnToSetUp();
     void nachFehler(const std::string& prozedur) override;
@@ -93,12 +97,19 @@ class Worksheet final : public core::Formular {
     form::Group PicUebTyp{*this, {"PicUebTyp"}};
     form::ControlArray<form::Group> PicUetyp{*this, "PicUetyp", 3};
     form::Label ergebnis{*this, {"ergebnis", &PicArb1}};
+    /// What `ergebnis` says of the task, and what is to be done while it says nothing.
+    form::Label verdict{*this, {"verdict", &PicArb1}};
+    form::Label todo{*this, {"todo", &PicArb1}};
     form::ControlArray<form::Label> true_false{*this, "true_false", 2, &PicArb1};
     form::ControlArray<form::Label> zaehler{*this, "zaehler", 2, &PicArb1};
     form::Button CmdNextAufg{*this, {"CmdNextAufg", &PicArb1}};
     form::Label LbNextAufg{*this, {"LbNextAufg", &PicArb1}};
     form::Panel zurueck{*this, {"zurueck", &PicArb1}};
     form::Panel matboxanz{*this, {"matboxanz", &PicUetyp(0)}};
+    /// The ends of the bar, and where it stands, in words.
+    form::Label barGoal{*this, {"barGoal", &PicUetyp(0)}};
+    form::Label barFailed{*this, {"barFailed", &PicUetyp(0)}};
+    form::Label barStanding{*this, {"barStanding", &PicUetyp(0)}};
     form::ControlArray<form::Label> ergebnis_anz{*this, "ergebnis_anz", 3, &PicUetyp(0)};
     /// Labels of a state that no exercise of this program shows.
     form::ControlArray<form::Label> AuP_lab{*this, "AuP_lab", 4, &PicUetyp(2)};

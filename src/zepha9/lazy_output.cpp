@@ -28,9 +28,7 @@ void LazyOutput::load() {
     real_->queueEmpty = [this] {
         if (queueEmpty) queueEmpty();
     };
-    real_->problemChanged = [this] {
-        if (problemChanged) problemChanged();
-    };
+    told_ = real_->problemChanged.connect([this] { problemChanged(); });
 }
 
 }  // namespace zepha9

@@ -38,6 +38,7 @@ class LazyOutput final : public sound::MidiOutput {
     synth::Post post_;
     std::function<void(const std::string&)> missing_;
     std::unique_ptr<sound::MidiOutput> real_;
+    form::Connection told_;
 };
 
 }  // namespace zepha9

@@ -2,6 +2,7 @@
 #include "core/wort.h"
 #include "drill/drill.h"
 #include "hostlink/dbus_host.h"
+#include "qt/accessibility.h"
 #include "qt/dialogs.h"
 #include "qt/help.h"
 #include "qt/language_files.h"
@@ -18,7 +19,11 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 
+#include <algorithm>
+#include <cstdio>
 #include <cstdlib>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -43,6 +48,27 @@ core::Aufruf aufruf(const QStringList& arguments) {
             .pruefEdit = arguments.contains(QStringLiteral("--teacher"))};
 }
 
+/// Answers what needs neither host nor window. @return the status to end with, -1 to go on.
+int commandLine(int argc, char** argv) {
+    const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+    const auto asks = [&](std::string_view option) {
+        return std::ranges::find(arguments, option) != arguments.end();
+    };
+    if (asks("--version")) {
+        std::puts("zepha9 " MELVORA_VERSION);
+        return 0;
+    }
+    if (!asks("--help") && !asks("-h")) return -1;
+    std::puts(
+        "usage: zepha9 [--settings FILE] [--teacher]\n\n"
+        "The scales drill. It runs under its host: start `melvora`, which starts it.\n\n"
+        "  --settings FILE  opens the exercise of a file of settings (*.mvs)\n"
+        "  --teacher        lets the set-up form write such files and mark what they hold\n"
+        "  --help, -h       shows this text\n"
+        "  --version        shows the version");
+    return 0;
+}
+
 /// Nothing goes on behind a fault that nobody caught: it is logged, told, and the program ends.
 [[noreturn]] void endWith(core::Programm& program, const std::exception& fault) {
     program.host.HostFehler("uncaught.", fault);
@@ -57,12 +83,14 @@ core::Aufruf aufruf(const QStringList& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (const int status = commandLine(argc, argv); status >= 0) return status;
     const std::jthread fonts = suite::readFontsAhead();
     suite::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("zepha9"));
     QApplication::setApplicationVersion(QStringLiteral(MELVORA_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
     suite::apply();
+    qt::installAccessibility();
 
     qt::QtMessageLoop loop;
     qt::QtDialogs dialogs;

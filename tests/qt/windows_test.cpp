@@ -144,24 +144,37 @@ TEST(Windows, TheWaitingNoticeLiesInTheMiddleAndMovesNothing) {
     EXPECT_GE(shown.width(), shown.sizeHint().width());
 }
 
-TEST(Boxes, SpeakTheLanguageOfTheProgram) {
+/// What is kept unless it is refused is not lost by Esc; what is lost only when it is meant.
+TEST(Boxes, AreAnsweredAsTheyAreMeant) {
     qt::QtDialogs dialogs;
     dialogs.answers = [] { return qt::QtDialogs::Answers{"Aceptar", "Sí", "No"}; };
-    for (const bool yes : {true, false}) {
-        QTimer::singleShot(0, [yes] {
+    using Ask = bool (form::Dialogs::*)(const std::string&, const std::string&);
+    struct Case {
+        Ask ask;
+        int key;
+        const char* button;  ///< pressed if the box is still open then
+        bool answer;
+    };
+    for (const Case& c : {Case{&form::Dialogs::askYesNo, Qt::Key_Return, "", true},
+                          {&form::Dialogs::askYesNo, Qt::Key_Escape, "No", false},
+                          {&form::Dialogs::confirm, Qt::Key_Return, "", false},
+                          {&form::Dialogs::confirm, Qt::Key_Escape, "", false},
+                          {&form::Dialogs::confirm, Qt::Key_unknown, "Sí", true}}) {
+        QTimer::singleShot(0, [&c] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_TRUE(box);
-            QStringList captions;
-            for (const auto* button : box->buttons()) captions << button->text();
-            captions.sort();
-            EXPECT_EQ(captions, QStringList({"No", "Sí"}));
-            if (yes)
-                Stage::press(*box->defaultButton(), Qt::Key_Return);
-            else
-                Stage::press(*box, Qt::Key_Escape);
+            Stage::press(*(c.key == Qt::Key_Return ? box->defaultButton() : box->focusWidget()),
+                         static_cast<Qt::Key>(c.key));
+            if (c.ask == &form::Dialogs::askYesNo) box->close();
+            for (auto* button : box->buttons())
+                if (box->isVisible() && button->text().remove('&') == c.button) button->click();
+            EXPECT_FALSE(box->isVisible());
         });
-        EXPECT_EQ(dialogs.askYesNo("title", "text"), yes);
+        EXPECT_EQ((dialogs.*c.ask)("title", "text"), c.answer);
     }
+}
+
+TEST(Boxes, SpeakTheLanguageOfTheProgram) {
     const auto cancel = [] { return QApplication::translate("QPlatformTheme", "Cancel"); };
     qt::LanguageFiles files(suite::languageFolder());
     for (const auto& [suffix, word] : {std::pair{"de", "Abbrechen"}, {"es", "Cancelar"}}) {

@@ -47,7 +47,7 @@ struct Drill {
     explicit Drill(synth::SynthOptions options)
         : output(synth::makeSynthOutput(std::move(options), mail.post())) {
         output->queueEmpty = [this] { ++ends; };
-        output->problemChanged = [this] { problems.push_back(output->problem()); };
+        told = output->problemChanged.connect([this] { problems.push_back(output->problem()); });
     }
     void queueNotes(int count, int lengthMs) {
         for (int i = 0; i < count; ++i)
@@ -62,6 +62,7 @@ struct Drill {
     int ends = 0;
     std::vector<SoundProblem> problems;
     std::unique_ptr<MidiOutput> output;
+    form::Connection told;
 };
 
 /// The left channel of a file of 16 bits.
