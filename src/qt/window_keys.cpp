@@ -60,24 +60,23 @@ QChar freeLetter(const QString& text, const QSet<QChar>& taken) {
 
 /// A text that may bear a letter.
 struct Bearer {
-    QWidget* widget;
     QString text;
     std::function<void(const QString&)> set;
 };
 
+/// What bears a letter in a window: buttons first, then what labels name.
 std::vector<Bearer> bearers(const QWidget& window) {
-    std::vector<Bearer> found;
+    std::vector<Bearer> buttons, labels;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         if (widget->isHidden() || widget->property("ownKey").toBool()) continue;
         if (auto* button = qobject_cast<QPushButton*>(widget))
-            found.push_back(
-                {widget, button->text(), [button](const QString& t) { button->setText(t); }});
+            buttons.push_back({button->text(), [button](const QString& t) { button->setText(t); }});
         auto* label = qobject_cast<QLabel*>(widget);
         if (label && label->buddy())
-            found.push_back(
-                {widget, label->text(), [label](const QString& t) { label->setText(t); }});
+            labels.push_back({label->text(), [label](const QString& t) { label->setText(t); }});
     }
-    return found;
+    buttons.insert(buttons.end(), labels.begin(), labels.end());
+    return buttons;
 }
 
 bool isUsable(const QWidget* widget) {

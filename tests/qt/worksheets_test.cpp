@@ -54,6 +54,36 @@ TEST(Worksheets, AreReadableInEveryLanguageAndSize) {
     }
 }
 
+/// What was reached by Tab is pressed; from what can no longer be used the focus goes to the next
+/// step, where keys mean what the form says.
+TEST(Worksheets, AreDoneByTabAndEnter) {
+    Stage stage("English");
+    stage.openSetup();
+    stage.openWorksheet();
+    QWidget& window = stage.window("arbeitsblatt1");
+    const auto here = [&] { return window.focusWidget()->objectName().toStdString(); };
+    const auto tabTo = [&](const std::string& id) {
+        for (int i = 0; i < 40 && here() != id; ++i)
+            Stage::press(*window.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(here(), id);
+    };
+    const auto press = [&](Qt::Key key) { Stage::press(*window.focusWidget(), key); };
+    window.setFocus();
+    tabTo("CmdNextAufg");
+    press(Qt::Key_Space);
+    EXPECT_FALSE(stage.on<form::Button>("CmdNextAufg").enabled()) << "pressed";
+    stage.wait(14000);
+    EXPECT_EQ(here(), "ton_art_0");
+    press(Qt::Key_Space);
+    EXPECT_EQ(stage.caption("whlgzaehler"), "1") << "it was not reached by Tab: heard again";
+    stage.wait(14000);
+    tabTo("ton_art_1");
+    press(Qt::Key_Space);
+    const bool right = stage.taskState() == TaskState::Closed;
+    EXPECT_EQ(stage.caption("zaehler", right ? 0 : 1), "1") << "answered";
+    EXPECT_EQ(here(), right ? "CmdNextAufg" : "ton_art_0");
+}
+
 TEST(Worksheets, AScaleIsWrittenByKeyboardAlone) {
     Stage stage("English");
     stage.openSetup({false, 4});
