@@ -25,7 +25,7 @@ QWidget* Binder::combo(form::Combo& control) {
         if (aspect == Aspect::Items) {
             box->clear();
             for (const auto& item : control.items())
-                box->addItem(QString::fromStdString(item.text).trimmed());
+                box->addItem(QString::fromStdString(item.caption()).trimmed());
         }
         if (aspect == Aspect::Items || aspect == Aspect::Value)
             box->setCurrentIndex(control.listIndex());
@@ -58,7 +58,7 @@ class ChoiceList final : public QListWidget {
         const int current = currentRow();
         const QSignalBlocker quiet(this);
         clear();
-        for (const auto& item : control_.items()) addItem(QString::fromStdString(item.text));
+        for (const auto& item : control_.items()) addItem(QString::fromStdString(item.caption()));
         setCurrentRow(std::min(current, count() - 1));
     }
 

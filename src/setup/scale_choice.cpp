@@ -73,7 +73,7 @@ void ScaleChoice::AuswahlOeffnen() {
 void ScaleChoice::lst_ska_click(form::ListBox& quelle, form::ListBox& ziel) {
     const int geklickt = quelle.clicked();
     const form::ItemList::Item skala = quelle.item(geklickt);
-    ziel.insert(sortierteStelle(ziel.items(), skala.data), skala.text, skala.data);
+    ziel.insert(sortierteStelle(ziel.items(), skala.data), skala);
     quelle.remove(geklickt);
     z.einzelAnz = lst_ska1.count() - 1;
     selectionCheck();
