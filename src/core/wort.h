@@ -65,17 +65,17 @@ enum class Id : int {
     aeolian = 115,                 // äolisch
     locrian = 375,                 // lokrisch
     melodicMinor = 386,            // melodisch Moll
-    dorianFlat2 = 204,             // dorisch b2
-    lydianSharp5 = 378,            // lydisch #5
-    mixolydianSharp4 = 403,        // mixolydisch #4
-    mixolydianFlat6 = 404,         // mixolydisch b6
-    locrianSharp2 = 376,           // lokrisch #2
+    dorianFlat2 = 204,             // dorisch ♭2
+    lydianSharp5 = 378,            // lydisch ♯5
+    mixolydianSharp4 = 403,        // mixolydisch ♯4
+    mixolydianFlat6 = 404,         // mixolydisch ♭6
+    locrianSharp2 = 376,           // lokrisch ♯2
     superLocrian = 528,            // superlokrisch
     naturalMinor = 460,            // reines Moll
     harmonicMinor = 314,           // harmonisch Moll
     harmonicMinorFifthMode = 315,  // harmonisch Moll, 5. Stufe
     harmonicMajor = 313,           // harmonisch Dur
-    phrygianMinor = 406,           // Moll, phrygisch
+    phrygianMinor = 406,           // phrygisches Moll
     hungarianMinor = 637,          // ungarisch Moll
     doubleHarmonicMajor = 636,     // doppelharmonisch Dur
     flamenco1 = 241,               // Flamenco 1
@@ -146,7 +146,7 @@ enum class Id : int {
     scaleSelection = 222,          // Skalen-Auswahl
     availableList = 140,           // Auswählen
     selectedList = 135,            // Ausgewählt
-    chosenOf15 = 817,              // %1 von 15 gewählt
+    chosenCount = 817,             // %1 gewählt (höchstens 15)
     atLeast2 = 396,                // mindestens 2 !!
     atLeast2PerDirection = 397,    // mindestens 2 pro Richtung !!
     atLeast3 = 398,                // mindestens 3 !!
@@ -175,9 +175,9 @@ enum class Id : int {
     right = 468,                 // Richtig
     wrong = 232,                 // Falsch
     taskSolved = 130,            // Aufgabe gelöst
-    tooManyErrors = 638,         // zu viele Fehler
+    tooManyErrors = 638,         // Nicht bestanden: zu viele Fehler
     trainingProgress = 566,      // Trainingsstand
-    pointsToGoal = 818,          // Training: noch %1 Punkte bis zum Ziel, bei %2 ist …
+    pointsToGoal = 818,          // Training: noch %1 Punkte bis zum Ziel, bei %2 endet …
     showTestStatus = 551,        // Teststand einblenden
     hideTestStatus = 552,        // Teststand ausblenden
     timeLeft = 461,              // Restdauer:
@@ -187,11 +187,11 @@ enum class Id : int {
     repeat = 629,                // wiederholen
     repeatCheck = 632,           // wiederholen (Kontrolle)
     repeats = 832,               // Wiederholungen
-    ownVersion = 822,            // eigene Fassung
-    identifyKeys = 826,          // Tasten: 1–0 antworten, Leertaste wiederholt, …
-    identifySilentKeys = 886,    // Tasten: 1–0 antworten, Eingabe geht weiter, Esc …
-    writeKeys = 879,             // Tasten: Pfeile schreiben, 1–5 und Eingabe setzen, …
-    writeSilentKeys = 888,       // Tasten: Pfeile schreiben, 1–5 und Eingabe setzen, …
+    ownVersion = 822,            // eigene Fassung hören
+    identifyKeys = 826,          // 1–0: Antwort · Leertaste: wiederholen · …
+    identifySilentKeys = 886,    // 1–0: Antwort · ↵: weiter · …
+    writeKeys = 879,             // ← →: Spalte · ↑ ↓: Halbton · 1–5: Zeichen · …
+    writeSilentKeys = 888,       // ← →: Spalte · ↑ ↓: Halbton · 1–5: Zeichen · …
     saveTraining = 8,            // Training speichern
     saveTrainingQuestion = 495,  // Soll der Trainingsstand gespeichert werden?
 
@@ -241,7 +241,7 @@ enum class Id : int {
     subtitle = 904,             // Programme zum Üben von Musik
     practiseScales = 905,       // &Skalen üben
     practiseScalesAbout = 906,  // Gehörbildung und Musiklehre: Skalen bestimmen und …
-    loggedInLabel = 907,        // &Angemeldet:
+    userLabel = 907,            // &Benutzer:
     nobody = 908,               // niemand
     languageLabel = 909,        // S&prache:
     midiDeviceLabel = 910,      // &MIDI-Gerät:
@@ -250,8 +250,8 @@ enum class Id : int {
     manageUsers = 956,          // Be&nutzer verwalten …
 
     // Host: users
-    logIn = 913,               // An&melden
-    logOut = 914,              // Ab&melden
+    logIn = 913,               // &Anmelden
+    logOut = 914,              // &Abmelden
     addUser = 915,             // &Neu …
     editUser = 916,            // &Bearbeiten …
     deleteUser = 917,          // &Löschen …

@@ -94,7 +94,7 @@ void ScaleChoice::writeHint(int flag) {
 
 void ScaleChoice::AuswahlStandZeigen() {
     wahlStand.caption =
-        core::eingesetzt(p.Wort(wort::chosenOf15), std::to_string(lst_ska1.count()));
+        core::eingesetzt(p.Wort(wort::chosenCount), std::to_string(lst_ska1.count()));
     wahlStand.foreColour =
         lst_ska1.count() > wahlPlaetze ? base::colours::red : base::colours::black;
 }
