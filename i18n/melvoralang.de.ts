@@ -333,5 +333,12 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Unerwarteter Fehler: %1</translation></message>
 <message id="974s"><translation>Ergebnisse können nicht angenommen werden. %1</translation></message>
+<message id="1000s"><translation>Nr.:</translation></message>
+<message id="1001s"><translation>Oktavbereich</translation></message>
+<message id="1002s"><translation>Ska-Richtung</translation></message>
+<message id="1003s"><translation>Vz/Finalis</translation></message>
+<message id="1004s"><translation>Einzel-Auswahl Anzahl</translation></message>
+<message id="1005s"><translation>gewähltes Iv Nr.%1</translation></message>
+<message id="1006s"><translation>gewählte Skala Nr.%1</translation></message>
 </context>
 </TS>

@@ -333,5 +333,12 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Unexpected error: %1</translation></message>
 <message id="974s"><translation>Results cannot be taken in. %1</translation></message>
+<message id="1000s"><translation>Exam no.</translation></message>
+<message id="1001s"><translation>Register</translation></message>
+<message id="1002s"><translation>Direction</translation></message>
+<message id="1003s"><translation>Key signature/final</translation></message>
+<message id="1004s"><translation>Scales selected</translation></message>
+<message id="1005s"><translation>Scale no. %1</translation></message>
+<message id="1006s"><translation>Scale no. %1</translation></message>
 </context>
 </TS>

@@ -333,5 +333,12 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Error inesperado: %1</translation></message>
 <message id="974s"><translation>No se pueden recoger los resultados. %1</translation></message>
+<message id="1000s"><translation>N.º de examen</translation></message>
+<message id="1001s"><translation>Registro</translation></message>
+<message id="1002s"><translation>Dirección</translation></message>
+<message id="1003s"><translation>Armadura/finalis</translation></message>
+<message id="1004s"><translation>Escalas seleccionadas</translation></message>
+<message id="1005s"><translation>Escala n.º %1</translation></message>
+<message id="1006s"><translation>Escala n.º %1</translation></message>
 </context>
 </TS>

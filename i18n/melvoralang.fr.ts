@@ -333,5 +333,12 @@
 <message id="972s"><translation>%1 : %2</translation></message>
 <message id="973s"><translation>Erreur inattendue : %1</translation></message>
 <message id="974s"><translation>Les résultats ne peuvent pas être reçus. %1</translation></message>
+<message id="1000s"><translation>N° d’examen</translation></message>
+<message id="1001s"><translation>Registre</translation></message>
+<message id="1002s"><translation>Direction</translation></message>
+<message id="1003s"><translation>Armure/finale</translation></message>
+<message id="1004s"><translation>Gammes sélectionnées</translation></message>
+<message id="1005s"><translation>Gamme n° %1</translation></message>
+<message id="1006s"><translation>Gamme n° %1</translation></message>
 </context>
 </TS>

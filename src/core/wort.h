@@ -168,6 +168,15 @@ enum class Id : int {
     settingsNotWritten = 834,  // Die Einstellungen konnten nicht nach %1 …
     notASettingsFile = 835,    // %1 ist keine lesbare Einstellungsdatei.
 
+    // Recap of the settings, where the set-up form says it in other words
+    recapExamNumber = 1000,   // Nr.:
+    recapRegister = 1001,     // Oktavbereich
+    recapDirection = 1002,    // Ska-Richtung
+    recapKey = 1003,          // Vz/Finalis
+    recapScaleCount = 1004,   // Einzel-Auswahl Anzahl
+    recapScaleHeard = 1005,   // gewähltes Iv Nr.%1
+    recapScaleSilent = 1006,  // gewählte Skala Nr.%1
+
     // Worksheets
     task = 129,                  // Aufgabe
     nextTask = 420,              // nächste Aufgabe
