@@ -340,5 +340,6 @@
 <message id="1004s"><translation>Einzel-Auswahl Anzahl</translation></message>
 <message id="1005s"><translation>gewähltes Iv Nr.%1</translation></message>
 <message id="1006s"><translation>gewählte Skala Nr.%1</translation></message>
+<message id="1007s"><translation>%1 %2</translation></message>
 </context>
 </TS>

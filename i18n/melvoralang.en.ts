@@ -340,5 +340,6 @@
 <message id="1004s"><translation>Scales selected</translation></message>
 <message id="1005s"><translation>Scale no. %1</translation></message>
 <message id="1006s"><translation>Scale no. %1</translation></message>
+<message id="1007s"><translation>%1 %2</translation></message>
 </context>
 </TS>

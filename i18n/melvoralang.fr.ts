@@ -340,5 +340,6 @@
 <message id="1004s"><translation>Gammes sélectionnées</translation></message>
 <message id="1005s"><translation>Gamme n° %1</translation></message>
 <message id="1006s"><translation>Gamme n° %1</translation></message>
+<message id="1007s"><translation>%2 %1</translation></message>
 </context>
 </TS>

@@ -183,6 +183,7 @@ enum class Id : int {
     oneMoment = 726,             // Einen Moment bitte !
     right = 468,                 // Richtig
     wrong = 232,                 // Falsch
+    scaleWithDirection = 1007,   // %1 %2
     taskSolved = 130,            // Aufgabe gelöst
     tooManyErrors = 638,         // Nicht bestanden: zu viele Fehler
     trainingProgress = 566,      // Trainingsstand
