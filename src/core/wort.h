@@ -349,4 +349,7 @@ inline constexpr auto theoryRangeTo = run<4>(693);
 /// From C to B, each from double flat to double sharp.
 inline constexpr auto noteNames = run<35>(844);
 
+/// The General MIDI programs.
+inline constexpr auto instruments = run<128>(1020);
+
 }  // namespace core::wort

@@ -109,6 +109,12 @@ void Combo::setListIndex(int i) {
 
 std::string Combo::text() const { return listIndex_ < 0 ? std::string() : item(listIndex_).text; }
 
+void Combo::setOnTop(std::vector<int> items) {
+    for (const int i : items) check(i);
+    onTop_ = std::move(items);
+    tell(Aspect::Items);
+}
+
 void ListBox::click(int i) {
     check(i);
     listIndex_ = i;

@@ -131,7 +131,14 @@ class Combo : public ItemList {
     void setListIndex(int i);
     /// The text of the chosen item, "" without one.
     std::string text() const;
+    /// Items that views offer once more above all others. The list stays as it is afterwards.
+    /// @throws run-time error 9 for one outside 0..count()-1.
+    void setOnTop(std::vector<int> items);
+    const std::vector<int>& onTop() const { return onTop_; }
     Handler onSelect;
+
+  private:
+    std::vector<int> onTop_;
 };
 
 /// A click on an item, from code or by the user, runs the handler, which finds it in `clicked`.
