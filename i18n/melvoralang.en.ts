@@ -178,7 +178,7 @@
 <message id="814s"><translation>The connection to Melvora is lost; the training progress is not saved. Start Melvora again.</translation></message>
 <message id="815s"><translation>The record of this exercise could not be written to %1; Melvora’s results will lack it. Free some space and check that the folder can be written to before you go on.</translation></message>
 <message id="816s"><translation>Help</translation></message>
-<message id="817s"><translation>%1 chosen (15 at most)</translation></message>
+<message id="817s"><translation>%1 selected (15 at most)</translation></message>
 <message id="818s"><translation>Training: %1 points to the goal; it fails at %2</translation></message>
 <message id="819s"><translation>Results: ascending</translation></message>
 <message id="820s"><translation>Settings</translation></message>

@@ -178,7 +178,7 @@
 <message id="814s"><translation>Se ha perdido la conexión con Melvora; el estado del entrenamiento no está guardado. Vuelva a iniciar Melvora.</translation></message>
 <message id="815s"><translation>El registro de este ejercicio no se ha podido escribir en %1; faltará en los resultados de Melvora. Libere espacio y compruebe que se puede escribir en la carpeta antes de continuar.</translation></message>
 <message id="816s"><translation>Ayuda</translation></message>
-<message id="817s"><translation>Elegidas: %1 (15 como máximo)</translation></message>
+<message id="817s"><translation>Seleccionadas: %1 (15 como máximo)</translation></message>
 <message id="818s"><translation>Entrenamiento: faltan %1 puntos para la meta; se pierde al llegar a %2</translation></message>
 <message id="819s"><translation>Resultados: ascendente</translation></message>
 <message id="820s"><translation>Ajustes</translation></message>
@@ -265,7 +265,7 @@
 <message id="904s"><translation>Programas para practicar música</translation></message>
 <message id="905s"><translation>Practicar e&amp;scalas</translation></message>
 <message id="906s"><translation>Educación auditiva y teoría: identificar y escribir escalas</translation></message>
-<message id="907s"><translation>&amp;Usuario actual:</translation></message>
+<message id="907s"><translation>&amp;Usuario:</translation></message>
 <message id="908s"><translation>nadie</translation></message>
 <message id="909s"><translation>I&amp;dioma:</translation></message>
 <message id="910s"><translation>Dispositivo &amp;MIDI:</translation></message>

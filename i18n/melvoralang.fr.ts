@@ -178,7 +178,7 @@
 <message id="814s"><translation>La connexion à Melvora est perdue ; l’état de l’entraînement n’est pas enregistré. Relancez Melvora.</translation></message>
 <message id="815s"><translation>Le compte rendu de cet exercice n’a pas pu être écrit dans %1 ; il manquera dans les résultats de Melvora. Libérez de l’espace et vérifiez que le dossier est accessible en écriture avant de continuer.</translation></message>
 <message id="816s"><translation>Aide</translation></message>
-<message id="817s"><translation>Choisies : %1 (15 au plus)</translation></message>
+<message id="817s"><translation>Sélectionnées : %1 (15 au plus)</translation></message>
 <message id="818s"><translation>Entraînement : encore %1 points jusqu’au but ; échec à %2</translation></message>
 <message id="819s"><translation>Résultats : ascendant</translation></message>
 <message id="820s"><translation>Réglages</translation></message>

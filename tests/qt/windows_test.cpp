@@ -142,6 +142,7 @@ TEST(Windows, InstrumentsAreReadInTheLanguageAndThoseHeardLastStandOnTop) {
     };
     const auto onTop = [&] {
         std::vector<int> items;
+        items.reserve(5);
         for (int row = 0; row < box.count() - 129; ++row)
             items.push_back(box.itemData(row).toInt());
         return items;
