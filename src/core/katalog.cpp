@@ -2,6 +2,9 @@
 
 #include "core/worte.h"
 
+#include <string_view>
+#include <utility>
+
 namespace core {
 
 namespace {
@@ -43,6 +46,15 @@ constexpr std::array modusWorte{wort::tryOut, wort::training, wort::continueTrai
                                 wort::exam};
 
 }  // namespace
+
+std::string Katalog::keptName(int skal_typ, int skala_nr) const {
+    constexpr std::array<std::pair<std::string_view, char>, 2> signs{{{"♭", 'b'}, {"♯", '#'}}};
+    std::string name = skal_name[skal_typ][skala_nr];
+    for (const auto& [sign, letter] : signs)
+        for (auto at = name.find(sign); at != std::string::npos; at = name.find(sign, at))
+            name.replace(at, sign.size(), 1, letter);
+    return name;
+}
 
 void Katalog::KatalogInit(Worte& worte) {
     const auto Wort = [&](wort::Id wort) { return worte.Wort(wort); };

@@ -204,6 +204,8 @@ inline constexpr std::array<const char*, 10> tempo_name{
 struct Katalog {
     base::FixedArray<std::string, 7> skal_typ_name;
     base::FixedArray<base::FixedArray<std::string, 11>, 7> skal_name;  ///< [skal_typ][skala_nr]
+    /// A scale's name as records and files have it: with b and # in place of the signs ♭ and ♯.
+    std::string keptName(int skal_typ, int skala_nr) const;
     base::FixedArray<base::FixedArray<std::string, 2>, 10>
         tetra_name;  ///< [skala_nr][0 up, 1 down]
     std::string titelWort;

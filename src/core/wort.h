@@ -65,17 +65,17 @@ enum class Id : int {
     aeolian = 115,                 // äolisch
     locrian = 375,                 // lokrisch
     melodicMinor = 386,            // melodisch Moll
-    dorianFlat2 = 204,             // dorisch b2
-    lydianSharp5 = 378,            // lydisch #5
-    mixolydianSharp4 = 403,        // mixolydisch #4
-    mixolydianFlat6 = 404,         // mixolydisch b6
-    locrianSharp2 = 376,           // lokrisch #2
+    dorianFlat2 = 204,             // dorisch ♭2
+    lydianSharp5 = 378,            // lydisch ♯5
+    mixolydianSharp4 = 403,        // mixolydisch ♯4
+    mixolydianFlat6 = 404,         // mixolydisch ♭6
+    locrianSharp2 = 376,           // lokrisch ♯2
     superLocrian = 528,            // superlokrisch
     naturalMinor = 460,            // reines Moll
     harmonicMinor = 314,           // harmonisch Moll
     harmonicMinorFifthMode = 315,  // harmonisch Moll, 5. Stufe
     harmonicMajor = 313,           // harmonisch Dur
-    phrygianMinor = 406,           // Moll, phrygisch
+    phrygianMinor = 406,           // phrygisches Moll
     hungarianMinor = 637,          // ungarisch Moll
     doubleHarmonicMajor = 636,     // doppelharmonisch Dur
     flamenco1 = 241,               // Flamenco 1
@@ -146,7 +146,7 @@ enum class Id : int {
     scaleSelection = 222,          // Skalen-Auswahl
     availableList = 140,           // Auswählen
     selectedList = 135,            // Ausgewählt
-    chosenOf15 = 817,              // %1 von 15 gewählt
+    chosenCount = 817,             // %1 gewählt (höchstens 15)
     atLeast2 = 396,                // mindestens 2 !!
     atLeast2PerDirection = 397,    // mindestens 2 pro Richtung !!
     atLeast3 = 398,                // mindestens 3 !!
@@ -168,16 +168,26 @@ enum class Id : int {
     settingsNotWritten = 834,  // Die Einstellungen konnten nicht nach %1 …
     notASettingsFile = 835,    // %1 ist keine lesbare Einstellungsdatei.
 
+    // Recap of the settings, where the set-up form says it in other words
+    recapExamNumber = 1000,   // Nr.:
+    recapRegister = 1001,     // Oktavbereich
+    recapDirection = 1002,    // Ska-Richtung
+    recapKey = 1003,          // Vz/Finalis
+    recapScaleCount = 1004,   // Einzel-Auswahl Anzahl
+    recapScaleHeard = 1005,   // gewähltes Iv Nr.%1
+    recapScaleSilent = 1006,  // gewählte Skala Nr.%1
+
     // Worksheets
     task = 129,                  // Aufgabe
     nextTask = 420,              // nächste Aufgabe
     oneMoment = 726,             // Einen Moment bitte !
     right = 468,                 // Richtig
     wrong = 232,                 // Falsch
+    scaleWithDirection = 1007,   // %1 %2
     taskSolved = 130,            // Aufgabe gelöst
-    tooManyErrors = 638,         // zu viele Fehler
+    tooManyErrors = 638,         // Nicht bestanden: zu viele Fehler
     trainingProgress = 566,      // Trainingsstand
-    pointsToGoal = 818,          // Training: noch %1 Punkte bis zum Ziel, bei %2 ist …
+    pointsToGoal = 818,          // Training: noch %1 Punkte bis zum Ziel, bei %2 endet …
     showTestStatus = 551,        // Teststand einblenden
     hideTestStatus = 552,        // Teststand ausblenden
     timeLeft = 461,              // Restdauer:
@@ -187,11 +197,11 @@ enum class Id : int {
     repeat = 629,                // wiederholen
     repeatCheck = 632,           // wiederholen (Kontrolle)
     repeats = 832,               // Wiederholungen
-    ownVersion = 822,            // eigene Fassung
-    identifyKeys = 826,          // Tasten: 1–0 antworten, Leertaste wiederholt, …
-    identifySilentKeys = 886,    // Tasten: 1–0 antworten, Eingabe geht weiter, Esc …
-    writeKeys = 879,             // Tasten: Pfeile schreiben, 1–5 und Eingabe setzen, …
-    writeSilentKeys = 888,       // Tasten: Pfeile schreiben, 1–5 und Eingabe setzen, …
+    ownVersion = 822,            // eigene Fassung hören
+    identifyKeys = 826,          // 1–0: Antwort · Leertaste: wiederholen · …
+    identifySilentKeys = 886,    // 1–0: Antwort · ↵: weiter · …
+    writeKeys = 879,             // ← →: Spalte · ↑ ↓: Halbton · 1–5: Zeichen · …
+    writeSilentKeys = 888,       // ← →: Spalte · ↑ ↓: Halbton · 1–5: Zeichen · …
     saveTraining = 8,            // Training speichern
     saveTrainingQuestion = 495,  // Soll der Trainingsstand gespeichert werden?
 
@@ -241,7 +251,7 @@ enum class Id : int {
     subtitle = 904,             // Programme zum Üben von Musik
     practiseScales = 905,       // &Skalen üben
     practiseScalesAbout = 906,  // Gehörbildung und Musiklehre: Skalen bestimmen und …
-    loggedInLabel = 907,        // &Angemeldet:
+    userLabel = 907,            // &Benutzer:
     nobody = 908,               // niemand
     languageLabel = 909,        // S&prache:
     midiDeviceLabel = 910,      // &MIDI-Gerät:
@@ -250,8 +260,8 @@ enum class Id : int {
     manageUsers = 956,          // Be&nutzer verwalten …
 
     // Host: users
-    logIn = 913,               // An&melden
-    logOut = 914,              // Ab&melden
+    logIn = 913,               // &Anmelden
+    logOut = 914,              // &Abmelden
     addUser = 915,             // &Neu …
     editUser = 916,            // &Bearbeiten …
     deleteUser = 917,          // &Löschen …
@@ -357,5 +367,8 @@ inline constexpr auto theoryRangeTo = run<4>(693);
 
 /// From C to B, each from double flat to double sharp.
 inline constexpr auto noteNames = run<35>(844);
+
+/// The General MIDI programs.
+inline constexpr auto instruments = run<128>(1020);
 
 }  // namespace core::wort

@@ -49,6 +49,7 @@ struct Zustand {
     i16 stimmung;                           ///< 0 equal, 1 Pythagorean, 2 meantone (Kirnberger)
     i16 an_zeig;                            ///< answers: 0 pictures, 1 names
     base::FixedArray<i16, 9> patch;         ///< General MIDI program per channel
+    std::vector<int> usedInstruments;       ///< General MIDI programs heard last, latest first
     base::FixedArray<i16, 10> tempo_dauer;  ///< milliseconds per quarter note
 
     // Host.

@@ -5,7 +5,7 @@
 namespace engine {
 
 void XmlRecorder::task(const Task& a) {
-    xml_.LektionNeu(katalog_.skal_name[z.skal_typ][a.skala_nr]);
+    xml_.LektionNeu(katalog_.keptName(z.skal_typ, a.skala_nr));
 }
 
 void XmlRecorder::answer(const Task& a, const Answer& answer) {
@@ -13,7 +13,7 @@ void XmlRecorder::answer(const Task& a, const Answer& answer) {
     const auto node = xml_.AntwortSchluss(answer.dauer, answer.whlg_anz);
     xml_.AntwortEigenschaft(node, "Antwort", answer.right ? "true" : "false");
     if (!exercise_.isWritten()) {
-        xml_.AntwortEigenschaft(node, "Skala", katalog_.skal_name[z.skal_typ][answer.index]);
+        xml_.AntwortEigenschaft(node, "Skala", katalog_.keptName(z.skal_typ, answer.index));
     } else if (!answer.right) {
         const i16 code = a.attempt.FalschSkala[a.attempt.wrongAnswers + 1];
         xml_.AntwortEigenschaft(node, "FalschSkala", std::to_string(code));

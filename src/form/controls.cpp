@@ -61,11 +61,11 @@ const ItemList::Item& ItemList::item(int i) const {
     return items_[static_cast<std::size_t>(i)];
 }
 
-void ItemList::add(std::string text, int data) { insert(count(), std::move(text), data); }
+void ItemList::add(Item item) { insert(count(), std::move(item)); }
 
-void ItemList::insert(int i, std::string text, int data) {
+void ItemList::insert(int i, Item item) {
     if (i < 0 || i > count()) base::throwSubscript();
-    items_.insert(items_.begin() + i, Item{std::move(text), data});
+    items_.insert(items_.begin() + i, std::move(item));
     if (listIndex_ >= i) ++listIndex_;
     tell(Aspect::Items);
 }
@@ -108,6 +108,12 @@ void Combo::setListIndex(int i) {
 }
 
 std::string Combo::text() const { return listIndex_ < 0 ? std::string() : item(listIndex_).text; }
+
+void Combo::setOnTop(std::vector<int> items) {
+    for (const int i : items) check(i);
+    onTop_ = std::move(items);
+    tell(Aspect::Items);
+}
 
 void ListBox::click(int i) {
     check(i);

@@ -105,16 +105,20 @@ class Option : public Control {
 class ItemList : public Control {
   public:
     struct Item {
-        std::string text;
+        std::string text;  ///< what records and files say
         int data = 0;
+        std::string shown = {};  ///< what views say in its place; "" for the text itself
+
+        const std::string& caption() const { return shown.empty() ? text : shown; }
     };
 
     int count() const { return static_cast<int>(items_.size()); }
     /// @throws run-time error 9 outside 0..count()-1.
     const Item& item(int i) const;
     const std::vector<Item>& items() const { return items_; }
-    void add(std::string text, int data = 0);
-    void insert(int i, std::string text, int data = 0);
+    void add(Item item);
+    void add(std::string text, int data = 0) { add(Item{std::move(text), data}); }
+    void insert(int i, Item item);
     void remove(int i);
     void setText(int i, std::string text);
     void clear();
@@ -140,7 +144,14 @@ class Combo : public ItemList {
     void setListIndex(int i);
     /// The text of the chosen item, "" without one.
     std::string text() const;
+    /// Items that views offer once more above all others. The list stays as it is afterwards.
+    /// @throws run-time error 9 for one outside 0..count()-1.
+    void setOnTop(std::vector<int> items);
+    const std::vector<int>& onTop() const { return onTop_; }
     Handler onSelect;
+
+  private:
+    std::vector<int> onTop_;
 };
 
 /// A click on an item, from code or by the user, runs the handler, which finds it in `clicked`.

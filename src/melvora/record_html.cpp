@@ -1,5 +1,6 @@
 #include "melvora/record_html.h"
 
+#include "core/recap_label.h"
 #include "core/wort.h"
 #include "melvora/users.h"
 
@@ -46,7 +47,10 @@ QString recordHtml(const Words& words, const ResultRecord& record) {
                    "</table>";
     if (!record.settings.isEmpty()) {
         html += heading(words.wort(wort::recordSettings)) + "<table>";
-        for (const auto& [key, value] : record.settings) html += pair(key, value);
+        const auto wordOf = [&](wort::Id word) { return words.wort(word).toStdString(); };
+        for (const auto& [key, value] : record.settings)
+            html +=
+                pair(QString::fromStdString(core::recapLabel(key.toStdString(), wordOf)), value);
         html += "</table>";
     }
     if (record.lessons.isEmpty()) return html;

@@ -141,7 +141,7 @@ void StartPage::layOut() {
 void StartPage::retranslate() {
     const Words& words = host_.words();
     subtitle_->setText(words.wort(wort::subtitle));
-    userLabel_->setText(words.wort(wort::loggedInLabel));
+    userLabel_->setText(words.wort(wort::userLabel));
     manage_->setText(words.wort(wort::manageUsers));
     manage_->setMinimumWidth(manage_->sizeHint().width() + fontMetrics().height());
     languageLabel_->setText(words.wort(wort::languageLabel));

@@ -85,10 +85,10 @@ QString TrainingsPanel::exerciseName(const Training& training) const {
         wort::Id branch, kind;
     };
     static constexpr Row rows[] = {
-        {"1", wort::earTraining, wort::identify},
-        {"4", wort::earTraining, wort::write},
-        {"1b", wort::musicTheory, wort::identify},
-        {"4b", wort::musicTheory, wort::write},
+        {"1", wort::earTraining, wort::identifyScales},
+        {"4", wort::earTraining, wort::writeScales},
+        {"1b", wort::musicTheory, wort::identifyScales},
+        {"4b", wort::musicTheory, wort::writeScales},
     };
     static_assert(std::size(rows) == std::size(Trainings::exercises));
     const Words& words = host_.words();

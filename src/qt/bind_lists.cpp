@@ -17,20 +17,61 @@ namespace qt {
 
 using form::Aspect;
 
+namespace {
+
+/// Every row holds the number of its item: some items stand on top, and again in their place.
+class ChoiceBox final : public QComboBox {
+  public:
+    ChoiceBox(form::Combo& control, QWidget* parent) : QComboBox(parent), control_(control) {
+        setMaxVisibleItems(15);
+        connect(this, &QComboBox::activated, this, [this](int row) { choose(row); });
+    }
+
+    void fill() {
+        const QSignalBlocker quiet(this);
+        clear();
+        const auto add = [this](int i) {
+            addItem(QString::fromStdString(control_.item(i).caption()).trimmed(), i);
+        };
+        for (const int i : control_.onTop()) add(i);
+        if (count() > 0) insertSeparator(count());
+        for (int i = 0; i < control_.count(); ++i) add(i);
+        showChosen();
+    }
+
+    /// Of two rows of the item the one that the user has chosen, or else the upper one.
+    void showChosen() {
+        const QSignalBlocker quiet(this);
+        if (!isShown()) setCurrentIndex(findData(control_.listIndex()));
+    }
+
+  protected:
+    /// Letters move to what begins with them without telling that it is chosen.
+    void keyPressEvent(QKeyEvent* event) override {
+        QComboBox::keyPressEvent(event);
+        if (currentIndex() >= 0 && !isShown()) choose(currentIndex());
+    }
+
+  private:
+    bool isShown() const {
+        return currentIndex() >= 0 && currentData().toInt() == control_.listIndex();
+    }
+    void choose(int row) {
+        if (control_.usable()) control_.setListIndex(itemData(row).toInt());
+    }
+
+    form::Combo& control_;
+};
+
+}  // namespace
+
 QWidget* Binder::combo(form::Combo& control) {
-    auto* box = new QComboBox(&window_);
+    auto* box = new ChoiceBox(control, &window_);
     common(control, *box);
-    box->setMaxVisibleItems(16);
     suite::wheelNeedsFocus(*box);
     const auto show = [&control, box](Aspect aspect) {
-        const QSignalBlocker quiet(box);
-        if (aspect == Aspect::Items) {
-            box->clear();
-            for (const auto& item : control.items())
-                box->addItem(QString::fromStdString(item.text).trimmed());
-        }
-        if (aspect == Aspect::Items || aspect == Aspect::Value)
-            box->setCurrentIndex(control.listIndex());
+        if (aspect == Aspect::Items) box->fill();
+        if (aspect == Aspect::Value) box->showChosen();
         if (aspect == Aspect::Colour) {
             suite::colours(*box, colour(control.foreColour()), colour(control.backColour()));
             box->view()->setPalette(QApplication::palette());
@@ -39,9 +80,6 @@ QWidget* Binder::combo(form::Combo& control) {
     show(Aspect::Items);
     if (control.coloured()) show(Aspect::Colour);
     follow(control, show);
-    QObject::connect(box, &QComboBox::activated, box, [&control](int i) {
-        if (control.usable()) control.setListIndex(i);
-    });
     return box;
 }
 
@@ -60,7 +98,7 @@ class ChoiceList final : public QListWidget {
         const int current = currentRow();
         const QSignalBlocker quiet(this);
         clear();
-        for (const auto& item : control_.items()) addItem(QString::fromStdString(item.text));
+        for (const auto& item : control_.items()) addItem(QString::fromStdString(item.caption()));
         setCurrentRow(std::min(current, count() - 1));
     }
 

@@ -175,6 +175,7 @@ QWidget* sidePanel(Binder& bind, QWidget*& nextTask) {
     for (const int i : {0, 1, 2}) {
         QLabel* caption = labelOf(bind, "ergebnis_anz", i);
         suite::font(*caption, 1, QFont::Bold);
+        caption->setWordWrap(true);
         bar->addWidget(caption);
     }
     column->addWidget(training);

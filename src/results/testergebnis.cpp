@@ -1,6 +1,7 @@
 #include "results/testergebnis.h"
 
 #include "core/formnamen.h"
+#include "core/recap_label.h"
 #include "core/wort.h"
 
 #include <cstdlib>
@@ -107,7 +108,7 @@ void Testergebnis::EinstellungenZeigen() {
         einst_lab(i).visible = da;
         einst_Inh(i).visible = da;
         if (!da) continue;
-        einst_lab(i).caption = liste[k];
+        einst_lab(i).caption = core::recapLabel(liste[k], [&](wort::Id id) { return Wort(id); });
         einst_Inh(i).caption = liste[k + 1];
     }
 }
@@ -121,7 +122,7 @@ void Testergebnis::LbGrdEinst() {
         ++zeile;
     };
     zeigen(Wort(wort::date) + Wort(wort::colon) + " ", p.ports.loop.now().date() + " ");
-    zeigen(p.zweig() + Wort(wort::colon), p.katalog.titelWort + " " + p.uebungsart());
+    zeigen(p.zweig() + Wort(wort::colon), p.katalog.typ_name[z.ueb_typ]);
     zeigen(Wort(wort::user) + Wort(wort::colon) + " ", p.aufruf.rechnername + " ");
     if (z.angemeldet) {
         const core::Value benutzer = p.host.HostBenutzer();

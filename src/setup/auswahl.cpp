@@ -16,9 +16,10 @@ constexpr int absteigend = 1;
 
 form::ItemList::Item eintrag(const core::Katalog& katalog, int skal_typ, int nr, int richtung) {
     const bool ab = richtung == absteigend;
-    std::string text = (ab ? "- " : "+ ") + katalog.skal_name[skal_typ][nr];
-    if (skal_typ == tetrachorde) text += katalog.tetra_name[nr][richtung];
-    return {std::move(text), ab ? -(nr + 1) : nr + 1};
+    const std::string vorn = ab ? "- " : "+ ";
+    const std::string hinten = skal_typ == tetrachorde ? katalog.tetra_name[nr][richtung] : "";
+    return {vorn + katalog.keptName(skal_typ, nr) + hinten, ab ? -(nr + 1) : nr + 1,
+            vorn + katalog.skal_name[skal_typ][nr] + hinten};
 }
 
 }  // namespace
@@ -29,7 +30,8 @@ std::vector<form::ItemList::Item> skalenZurWahl(const core::Katalog& katalog, in
     const int letzte = core::katalog::kategorie(skal_typ).skal_max;
     for (int nr = 0; nr <= letzte; ++nr) {
         if (richtungen.abfolge == 1) {
-            liste.push_back({katalog.skal_name[skal_typ][nr], nr + 1});
+            liste.push_back(
+                {katalog.keptName(skal_typ, nr), nr + 1, katalog.skal_name[skal_typ][nr]});
             continue;
         }
         for (const int richtung : {0, absteigend})

@@ -176,6 +176,7 @@ void Einstellung::cmdOK_click() {
     xml_.SkalaXmlNeu();
     scales_.AuswahlUebernehmen();
     guard("EinstDatSave", [this] { EinstDatSave(); });
+    sound_.rememberInstrument();
     mode_.ModusSchritt();
     setPointer(form::Pointer::Hourglass);
     p.ports.loop.doEvents();

@@ -1,11 +1,14 @@
 #include "setup/recap.h"
 
+#include "core/recap_label.h"
 #include "setup/choices.h"
 
 #include <array>
 #include <string_view>
 
 namespace setup {
+
+namespace labels = core::recap;
 
 namespace {
 
@@ -14,26 +17,26 @@ enum class When { Always, Exam, Sound, Scale };
 
 /// A label, and the control that the value stands in.
 struct Line {
-    const char* label;
+    core::RecapLabel label;
     const char* name;
     When when = When::Always;
 };
 constexpr std::array lines{
-    Line{"Übungsmodus", "training_Combo"},
-    Line{"Nr.:", "prfnr_Comb", When::Exam},
-    Line{"Klangfarbe", "ComboPatch", When::Sound},
-    Line{"Tempo", "temp_Combo", When::Sound},
-    Line{"Frequenz", "frequenz", When::Sound},
-    Line{"Abfolge", "abfrage"},
-    Line{"Tonraum", "CmbOktAnz"},
-    Line{"Oktavbereich", "CmbOktBer"},
-    Line{"Skalentyp", "skal_typ_cmb"},
-    Line{"Tonfolge", "abfolge"},
-    Line{"Ska-Richtung", "Combo_richtung", When::Scale},
-    Line{"Anzeige", "an_zeig", When::Sound},
-    Line{"Vz/Finalis", "final"},
-    Line{"Stimmung", "stimm_g", When::Sound},
-    Line{"Vorkommen", "ska_ausw"},
+    Line{labels::mode, "training_Combo"},
+    Line{labels::examNumber, "prfnr_Comb", When::Exam},
+    Line{labels::timbre, "ComboPatch", When::Sound},
+    Line{labels::tempo, "temp_Combo", When::Sound},
+    Line{labels::referencePitch, "frequenz", When::Sound},
+    Line{labels::advance, "abfrage"},
+    Line{labels::pitchRange, "CmbOktAnz"},
+    Line{labels::keyboardRegister, "CmbOktBer"},
+    Line{labels::scaleType, "skal_typ_cmb"},
+    Line{labels::noteOrder, "abfolge"},
+    Line{labels::direction, "Combo_richtung", When::Scale},
+    Line{labels::display, "an_zeig", When::Sound},
+    Line{labels::key, "final"},
+    Line{labels::tuning, "stimm_g", When::Sound},
+    Line{labels::scalesIncluded, "ska_ausw"},
 };
 
 bool inForce(When when, const core::Zustand& z, Zweig zweig) {
@@ -68,8 +71,9 @@ std::string mitEins(std::string text) {
 std::vector<std::string> recap(const form::Form& form, const core::Zustand& z, Zweig zweig,
                                const std::vector<std::string>& skalen) {
     std::vector<std::string> liste{""};
-    const auto add = [&](const std::string& label, const std::string& wert) {
-        liste.push_back(label);
+    const auto add = [&](const core::RecapLabel& label, const std::string& wert,
+                         const std::string& nummer = {}) {
+        liste.push_back(std::string(label.german) + nummer);
         liste.push_back(ohneBlanks(wert));
     };
     for (const Line& line : lines) {
@@ -78,10 +82,10 @@ std::vector<std::string> recap(const form::Form& form, const core::Zustand& z, Z
         add(line.label, line.name == std::string_view("frequenz") ? mitEins(wert) : wert);
     }
     if (z.ska_ausw == 1) {
-        add("Einzel-Auswahl Anzahl", std::to_string(skalen.size()));
-        const std::string gewaehlt = klingt(zweig) ? "gewähltes Iv Nr." : "gewählte Skala Nr.";
+        add(labels::scaleCount, std::to_string(skalen.size()));
+        const auto& gewaehlt = klingt(zweig) ? labels::scaleHeard : labels::scaleSilent;
         for (std::size_t i = 0; i < skalen.size(); ++i)
-            add(gewaehlt + std::to_string(i + 1), skalen[i]);
+            add(gewaehlt, skalen[i], std::to_string(i + 1));
     }
     liste.front() = std::to_string(liste.size() - 1);
     return liste;

@@ -73,7 +73,7 @@ void ScaleChoice::AuswahlOeffnen() {
 void ScaleChoice::lst_ska_click(form::ListBox& quelle, form::ListBox& ziel) {
     const int geklickt = quelle.clicked();
     const form::ItemList::Item skala = quelle.item(geklickt);
-    ziel.insert(sortierteStelle(ziel.items(), skala.data), skala.text, skala.data);
+    ziel.insert(sortierteStelle(ziel.items(), skala.data), skala);
     quelle.remove(geklickt);
     z.einzelAnz = lst_ska1.count() - 1;
     selectionCheck();
@@ -94,7 +94,7 @@ void ScaleChoice::writeHint(int flag) {
 
 void ScaleChoice::AuswahlStandZeigen() {
     wahlStand.caption =
-        core::eingesetzt(p.Wort(wort::chosenOf15), std::to_string(lst_ska1.count()));
+        core::eingesetzt(p.Wort(wort::chosenCount), std::to_string(lst_ska1.count()));
     wahlStand.foreColour =
         lst_ska1.count() > wahlPlaetze ? base::colours::red : base::colours::black;
 }

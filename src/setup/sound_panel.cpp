@@ -69,7 +69,8 @@ void SoundPanel::KlangEinrichten() {
     midi_.MidiInit(MIDI);
     MIDI.queueEmpty = [this] { form_.guard("QueueEmpty.", [this] { QueueEmpty(); }); };
     problemTold_ = MIDI.problemChanged.connect([this] { TonHinweisZeigen(); });
-    sound::Klangliste(ComboPatch);
+    sound::Klangliste(ComboPatch, p.worte);
+    ComboPatch.setOnTop(z.usedInstruments);
     ComboPatch.setListIndex(0);
     for (const char* tempo : katalog::tempo_name) temp_Combo.add(tempo);
     temp_Combo.setListIndex(1);
@@ -101,6 +102,16 @@ void SoundPanel::ComboPatch_click() {
     midi_.setInstruments(z.patch);
 }
 
+void SoundPanel::rememberInstrument() {
+    if (!klingt(zweig_)) return;
+    constexpr std::size_t most = 5;
+    auto& used = z.usedInstruments;
+    std::erase(used, ComboPatch.listIndex());
+    used.insert(used.begin(), ComboPatch.listIndex());
+    if (used.size() > most) used.pop_back();
+    ComboPatch.setOnTop(used);
+}
+
 void SoundPanel::HSliderVolume_change() {
     midi_.setVelocity(HSliderVolume.value());
     lb14(1).caption = " " + std::to_string(HSliderVolume.value());
@@ -112,6 +123,7 @@ void SoundPanel::klang_contr_click() {
     verklungen_ = false;
     klang_contr.enabled = false;
     onCheck(true);
+    rememberInstrument();
     midi_.MidiReset();
     TonHinweisZeigen();
     midi_.setInstruments(z.patch);

@@ -24,6 +24,8 @@ class SoundPanel {
     void silence();
     /// The device tells this form nothing more.
     void disconnect();
+    /// The chosen instrument is going to be heard: from now on it is offered first.
+    void rememberInstrument();
     void chooseTempo(int index);
     void openTempo();
     void lockTempo() { sperren(temp_Combo); }

@@ -131,8 +131,9 @@ const std::array<const char*, 128> instrumentNames{"Acoustic Grand Piano",
                                                    "Applause",
                                                    "Gunshot"};
 
-void Klangliste(form::Combo& combo) {
-    for (const char* name : instrumentNames) combo.add(name);
+void Klangliste(form::Combo& combo, core::Worte& worte) {
+    for (int i = 0; const char* name : instrumentNames)
+        combo.add({name, 0, worte.Wort(core::wort::instruments[i++])});
 }
 
 }  // namespace sound

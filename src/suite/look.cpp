@@ -1,15 +1,38 @@
 #include "suite/look.h"
 
 #include <QApplication>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QScreen>
-#include <QStyleFactory>
+#include <QStyleOption>
 
 #include <algorithm>
 
 namespace suite {
 
+namespace {
+
+/// The list of a combo opens below it and scrolls, as many rows high as the combo says; the line
+/// between its parts, which is a tool bar's to the toolkit, can be seen.
+class Look final : public QProxyStyle {
+  public:
+    Look() : QProxyStyle(QStringLiteral("Fusion")) {}
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_ComboBox_Popup) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        if (element == PE_IndicatorToolBarSeparator) return painter->fillRect(option->rect, muted);
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+};
+
+}  // namespace
+
 void apply() {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Look);
     QPalette palette;
     palette.setColor(QPalette::Window, page);
     palette.setColor(QPalette::WindowText, text);

@@ -242,7 +242,8 @@ std::string Worksheet::solution() const {
     if (z.skal_typ == tetrachords && z.ska_ausw != 0)
         return name + p.katalog.tetra_name[a.skala_nr][up ? 0 : 1];
     if (run_.lastAnswer().right && z.abfolge == 0 && z.richtung == 2)
-        return p.Wort(up ? wort::ascending : wort::descending) + " " + name;
+        return core::eingesetzt(p.Wort(wort::scaleWithDirection),
+                                p.Wort(up ? wort::ascending : wort::descending), name);
     return name;
 }
 

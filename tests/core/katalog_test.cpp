@@ -34,6 +34,18 @@ TEST_F(KatalogTest, EveryScaleHasANameOfItsOwnAndNothingElseHas) {
     }
 }
 
+TEST_F(KatalogTest, RecordsHaveLettersWhereANameShowsSigns) {
+    words.texts = {{"204s", "♭2 Dorian ♭2"}, {"378s", "Lydian ♯5"}};
+    Worte anew{&words};
+    anew.SprachenLaden();
+    anew.SpracheSetzen("Deutsch");
+    k.KatalogInit(anew);
+    EXPECT_EQ(k.skal_name[1][1], "♭2 Dorian ♭2");
+    EXPECT_EQ(k.keptName(1, 1), "b2 Dorian b2");
+    EXPECT_EQ(k.keptName(1, 2), "Lydian #5");
+    EXPECT_EQ(k.keptName(1, 3), k.skal_name[1][3]);
+}
+
 /// Rising it is the lower half of the modes that its name tells, falling their upper half.
 TEST_F(KatalogTest, ATetrachordIsNamedByAllModesThatItIsHalfOf) {
     const auto tone = [](int degree) {

@@ -110,7 +110,8 @@ TEST_F(WindowTest, AUsersTrainingsFollowWhatIsStoredAndStayWhileAModuleRuns) {
     tables[0]->selectRow(1);
     ASSERT_EQ(trainings->rowCount(), 1) << "nobody's training";
     const QString row = trainings->index(0, 0).data().toString();
-    EXPECT_EQ(row, words_.wort(core::wort::earTraining) + ": " + words_.wort(core::wort::identify));
+    EXPECT_EQ(
+        row, words_.wort(core::wort::earTraining) + ": " + words_.wort(core::wort::identifyScales));
 
     const Training training = host_.store().trainings.of(nobody).at(0);
     QStringList notices;

@@ -5,6 +5,7 @@
 #include "stage.h"
 #include "suite/application.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
@@ -14,6 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -120,8 +122,59 @@ TEST(Windows, WidgetsTellTheFormAndFollowIt) {
     EXPECT_FALSE(other.isChecked());
     stage.combo("CmbOktAnz").setListIndex(3);
     EXPECT_EQ(stage.widget<QComboBox>("einstellung1", "CmbOktBer").count(), 1);
+    stage.combo("skal_typ_cmb").setListIndex(1);
+    stage.option("ska_ausw", 1).click();
+    stage.list(0).click(2);
+    EXPECT_EQ(stage.list(1).item(0).text, "+ dorisch b2") << "for records and files";
+    EXPECT_EQ(stage.widget<QListWidget>("einstellung1", "lst_ska_1").item(0)->text(),
+              "+ dorisch ♭2");
     stage.window("einstellung1").close();
     EXPECT_TRUE(stage.window("grd_einst").isVisible()) << "the close box is the way back";
+}
+
+TEST(Windows, InstrumentsAreReadInTheLanguageAndThoseHeardLastStandOnTop) {
+    Stage stage("Français");
+    stage.openSetup();
+    auto& box = stage.widget<QComboBox>("einstellung1", "ComboPatch");
+    const auto pick = [&](int row) {
+        box.setCurrentIndex(row);
+        emit box.activated(row);
+    };
+    const auto onTop = [&] {
+        std::vector<int> items;
+        items.reserve(5);
+        for (int row = 0; row < box.count() - 129; ++row)
+            items.push_back(box.itemData(row).toInt());
+        return items;
+    };
+    EXPECT_EQ(box.count(), 128);
+    EXPECT_EQ(box.itemText(6), "Clavecin");
+    pick(6);
+    EXPECT_EQ(stage.combo("ComboPatch").text(), "Harpsichord");
+    EXPECT_EQ(box.count(), 128) << "not heard yet";
+    for (const int item : {6, 40, 71, 6, 73, 19, 0, 40}) {
+        stage.combo("ComboPatch").setListIndex(item);
+        stage.button("klang_contr").click();
+        stage.wait(20000);
+    }
+    EXPECT_EQ(onTop(), (std::vector{40, 0, 19, 73, 6}));
+    EXPECT_EQ(box.currentIndex(), 0) << "what was heard last is chosen where it stands on top";
+    EXPECT_EQ(box.itemData(5, Qt::AccessibleDescriptionRole), "separator");
+    pick(4);
+    EXPECT_EQ(stage.z.patch[0], 6);
+    Stage::press(box, Qt::Key_Down);
+    EXPECT_EQ(stage.z.patch[0], 0) << "over the line, to the first of all";
+    EXPECT_EQ(box.currentIndex(), 6);
+    QTest::keyClicks(&box, "vio");
+    EXPECT_EQ(stage.combo("ComboPatch").text(), "Violin");
+    box.showPopup();
+    QApplication::processEvents();
+    EXPECT_LE(box.view()->viewport()->height(), 15 * box.view()->sizeHintForRow(0) + 15);
+    box.hidePopup();
+    stage.window("einstellung1").close();
+    stage.openSetup();
+    auto& again = stage.widget<QComboBox>("einstellung1", "ComboPatch");
+    EXPECT_EQ(again.count(), 128 + 1 + 5) << "as long as the program runs";
 }
 
 TEST(Windows, TheWaitingNoticeLiesInTheMiddleAndMovesNothing) {

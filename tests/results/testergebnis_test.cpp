@@ -62,11 +62,17 @@ TEST(Testergebnis, EachRowReadsItsOwnSlotAndTheTotalIsTheMeanOfThoseThatCount) {
     EXPECT_EQ(largest.opened().gesamtText(), "50.0%");
 }
 
-TEST(Testergebnis, NamesWhoWasLoggedIn) {
+TEST(Testergebnis, ReadsTheSettingsInItsLanguageAndNamesWhoWasLoggedIn) {
     for (const bool known : {true, false}) {
         ResultForm result;
         result.z.angemeldet = known;
+        result.z.einst_liste = {"4", "Übungsmodus", "W564", "gewähltes Iv Nr.2", "+ Nr.:"};
+        result.words.texts = {{"1005s", "no. %1"}};
         result.opened();
+        EXPECT_EQ(result.part("einst_lab", 0).caption(), "W587");
+        EXPECT_EQ(result.part("einst_lab", 1).caption(), "no. 2");
+        EXPECT_EQ(result.part("einst_Inh", 1).caption(), "+ Nr.:");
+        EXPECT_EQ(result.part("g_einst_inh", 1).caption(), "W492");
         EXPECT_EQ(result.part("g_einst_inh", 5).visible(), known);
         EXPECT_EQ(result.part("g_einst_inh", 5).caption(), known ? "4711" : "");
     }

@@ -112,7 +112,7 @@ TEST(Solution, IsNamedByDirectionAndTetrachord) {
         std::string before, after;
     };
     for (const Row& row : {Row{"one direction", 0, 0, 0, {1, 2}, true, "", ""},
-                           {"both, descending", 0, 2, 0, {-1, -2}, true, "W83 ", ""},
+                           {"both, descending", 0, 2, 0, {-1, -2}, true, "", ", W83"},
                            {"a melody has no direction", 0, 2, 1, {1, 2}, true, "", ""},
                            {"a lost task", 0, 2, 0, {1, 2}, false, "", ""},
                            {"tetrachord down, lost", 6, 1, 0, {-7, -5}, false, "", "W700W375 "},
@@ -120,6 +120,7 @@ TEST(Solution, IsNamedByDirectionAndTetrachord) {
         SCOPED_TRACE(row.name);
         Practice desk;
         desk.category(row.category);
+        desk.words.texts = {{"1007s", "%2, %1"}};
         desk.choose({row.chosen[0], row.chosen[1]});
         desk.z.richtung = row.richtung;
         desk.z.abfolge = row.abfolge;
