@@ -48,9 +48,11 @@ void AnswerCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::white);
-    painter.setPen(QPen(colour_, 3));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), suite::radius,
-                            suite::radius);
+    const QRectF frame = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
+    for (const auto& pen : {QPen(suite::edge(colour_), 5), QPen(colour_, 3)}) {
+        painter.setPen(pen);
+        painter.drawRoundedRect(frame, suite::radius, suite::radius);
+    }
 }
 
 }  // namespace qt

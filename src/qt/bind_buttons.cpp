@@ -40,7 +40,10 @@ QPushButton* Binder::pushButton(C& control) {
             button->setMinimumWidth(button->sizeHint().width() + air);
         }
         if (aspect == Aspect::Colour)
-            suite::colours(*button, colour(control.foreColour()), colour(control.backColour()));
+            suite::colours(
+                *button,
+                suite::readable(colour(control.foreColour()), colour(control.backColour())),
+                colour(control.backColour()));
     };
     show(Aspect::Caption);
     if (control.coloured()) show(Aspect::Colour);

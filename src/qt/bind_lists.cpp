@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QStylePainter>
 
 #include <algorithm>
 
@@ -45,7 +46,31 @@ class ChoiceBox final : public QComboBox {
         if (!isShown()) setCurrentIndex(findData(control_.listIndex()));
     }
 
+    /// Paints the closed list flat on this ground, as dark as it is said to be.
+    void setGround(const QColor& ground) {
+        ground_ = ground;
+        update();
+    }
+
   protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (!ground_.isValid()) return QComboBox::paintEvent(event);
+        QStylePainter painter(this);
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const QColor letters = palette().color(QPalette::ButtonText);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(hasFocus() ? suite::text : suite::edge(ground_), hasFocus() ? 2 : 1));
+        painter.setBrush(ground_);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
+        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+        const QRectF arrow =
+            style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(letters);
+        painter.translate(arrow.center());
+        painter.drawPolygon(QPolygonF({{-4, -2}, {4, -2}, {0, 3}}));
+    }
     /// Letters move to what begins with them without telling that it is chosen.
     void keyPressEvent(QKeyEvent* event) override {
         QComboBox::keyPressEvent(event);
@@ -61,6 +86,7 @@ class ChoiceBox final : public QComboBox {
     }
 
     form::Combo& control_;
+    QColor ground_;
 };
 
 }  // namespace
@@ -74,6 +100,7 @@ QWidget* Binder::combo(form::Combo& control) {
         if (aspect == Aspect::Value) box->showChosen();
         if (aspect == Aspect::Colour) {
             suite::colours(*box, colour(control.foreColour()), colour(control.backColour()));
+            box->setGround(colour(control.backColour()));
             box->view()->setPalette(QApplication::palette());
         }
     };

@@ -20,7 +20,11 @@ QWidget* Binder::label(form::Label& control) {
         if (aspect == Aspect::Caption)
             label->setText(QString::fromStdString(control.caption()).trimmed());
         if (aspect == Aspect::Colour) {
-            suite::colours(*label, colour(control.foreColour()), colour(control.backColour()));
+            const bool inArea = control.container() && control.container()->coloured();
+            const QColor ground =
+                colour(inArea ? control.container()->backColour() : control.backColour());
+            suite::colours(*label, suite::readable(colour(control.foreColour()), ground),
+                           colour(control.backColour()));
             label->setAutoFillBackground(control.backColour() != base::colours::white);
         }
     };

@@ -28,7 +28,7 @@ void GroupFrame::paintEvent(QPaintEvent*) {
     if (!colour_.isValid()) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(suite::line);
+    painter.setPen(suite::edge(colour_));
     painter.setBrush(colour_);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), suite::radius,
                             suite::radius);

@@ -159,6 +159,14 @@ QWidget* sidePanel(Binder& bind, QWidget*& nextTask) {
     next->setMinimumHeight(40);
     suite::font(*next, 1, QFont::Bold);
     suite::colours(*next, suite::accent);
+    // Where the next task comes by itself its word comes and goes, and moves nothing.
+    auto& byHand = bind.control<form::Button>("CmdNextAufg");
+    const auto reserve = [next, &byHand](form::Aspect) {
+        QSizePolicy keeps = next->sizePolicy();
+        keeps.setRetainSizeWhenHidden(!byHand.visible());
+        next->setSizePolicy(keeps);
+    };
+    bind.follow(byHand, reserve);
     column->addWidget(next);
     for (const char* more : {"wieder", "wieder2", "eigene", "schrittmarken"})
         if (bind.has(more)) tall(more);
@@ -168,16 +176,16 @@ QWidget* sidePanel(Binder& bind, QWidget*& nextTask) {
     QWidget* training = bind("PicUetyp", 0);
     auto* bar = new QVBoxLayout(training);
     bar->setContentsMargins(0, 0, 0, 0);
-    QWidget* flood = bind("matboxanz");
-    flood->setMinimumHeight(18);
-    bar->addWidget(flood);
-    barInWords(bind, bar);
     for (const int i : {0, 1, 2}) {
         QLabel* caption = labelOf(bind, "ergebnis_anz", i);
         suite::font(*caption, 1, QFont::Bold);
         caption->setWordWrap(true);
         bar->addWidget(caption);
     }
+    QWidget* flood = bind("matboxanz");
+    flood->setMinimumHeight(18);
+    bar->addWidget(flood);
+    barInWords(bind, bar);
     column->addWidget(training);
     QWidget* exam = bind("PicUetyp", 1);
     auto* clock = new QVBoxLayout(exam);

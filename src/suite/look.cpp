@@ -7,6 +7,7 @@
 #include <QStyleOption>
 
 #include <algorithm>
+#include <cmath>
 
 namespace suite {
 
@@ -43,12 +44,40 @@ void apply() {
     palette.setColor(QPalette::Highlight, accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(0x93, 0x95, 0x99));
+        palette.setColor(QPalette::Disabled, role, QColor(0x66, 0x69, 0x6E));
     QApplication::setPalette(palette);
     QFont font = QApplication::font();
     font.setPointSizeF(std::max(10.0, font.pointSizeF()) * scale());
     QApplication::setFont(font);
 }
+
+namespace {
+
+double luminance(const QColor& colour) {
+    const auto linear = [](double c) {
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+QColor darkened(QColor colour, const QColor& ground, double wanted) {
+    for (int i = 0; i < 40 && contrast(colour, ground) < wanted; ++i) colour = colour.darker(106);
+    return colour;
+}
+
+}  // namespace
+
+double contrast(const QColor& one, const QColor& other) {
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+QColor readable(QColor letters, const QColor& ground) {
+    return luminance(ground) < 0.3 ? letters : darkened(letters, ground, 4.5);
+}
+
+QColor edge(QColor area) { return darkened(area, page, 3); }
 
 double scale() {
     const double height = QGuiApplication::primaryScreen()->availableGeometry().height();

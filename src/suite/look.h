@@ -27,6 +27,13 @@ double scale();
 void font(QWidget& widget, double factor, QFont::Weight weight = QFont::Normal);
 /// Text colour, and background where valid.
 void colours(QWidget& widget, const QColor& letters, const QColor& background = {});
+/// Contrast of two colours, 1 to 21.
+double contrast(const QColor& one, const QColor& other);
+/// The letters, as much darker as it takes to be read on a light ground: at least 4.5 to 1. On a
+/// dark ground as they are.
+QColor readable(QColor letters, const QColor& ground);
+/// The colour of a line around an area of that colour that is seen on the page: at least 3 to 1.
+QColor edge(QColor area);
 /// Marks the button that leads on: bold, and never narrow.
 void leadingButton(QWidget& button);
 /// A line that stands aside: small and muted.
