@@ -484,5 +484,10 @@
 <message id="1312s"><translation>beherrscht</translation></message>
 <message id="1313s"><translation>Alles auf Anhieb richtig; Abzüge gab es für Antwortzeit oder Wiederholungen.</translation></message>
 <message id="1314s"><translation>noch %1</translation></message>
+<message id="1320s"><translation>Wie zuletzt</translation></message>
+<message id="1321s"><translation>Für den Anfang</translation></message>
+<message id="1322s"><translation>Wählt, was im letzten Durchgang dieser Übung gewählt war.</translation></message>
+<message id="1323s"><translation>Wählt drei Kirchentonarten, aufwärts und von derselben Finalis aus.</translation></message>
+<message id="1324s"><translation>Die Verbindung zu Melvora ist abgebrochen; Ergebnisse werden nicht übernommen. Starten Sie Melvora neu.</translation></message>
 </context>
 </TS>

@@ -484,5 +484,10 @@
 <message id="1312s"><translation>mastered</translation></message>
 <message id="1313s"><translation>All right at first; points were lost for answer time or repeats.</translation></message>
 <message id="1314s"><translation>%1 to go</translation></message>
+<message id="1320s"><translation>As last time</translation></message>
+<message id="1321s"><translation>For a start</translation></message>
+<message id="1322s"><translation>Chooses what was chosen in the last run of this exercise.</translation></message>
+<message id="1323s"><translation>Chooses three church modes, upward and from the same final.</translation></message>
+<message id="1324s"><translation>The connection to Melvora is lost; results will not be taken in. Start Melvora again.</translation></message>
 </context>
 </TS>

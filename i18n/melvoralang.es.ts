@@ -484,5 +484,10 @@
 <message id="1312s"><translation>dominada</translation></message>
 <message id="1313s"><translation>Todo correcto a la primera; se perdieron puntos por el tiempo de respuesta o las repeticiones.</translation></message>
 <message id="1314s"><translation>faltan %1</translation></message>
+<message id="1320s"><translation>Como la última vez</translation></message>
+<message id="1321s"><translation>Para empezar</translation></message>
+<message id="1322s"><translation>Elige lo que estaba elegido en la última pasada de este ejercicio.</translation></message>
+<message id="1323s"><translation>Elige tres modos eclesiásticos, ascendentes y desde la misma finalis.</translation></message>
+<message id="1324s"><translation>Se ha perdido la conexión con Melvora; los resultados no se guardarán. Inicie Melvora de nuevo.</translation></message>
 </context>
 </TS>

@@ -484,5 +484,10 @@
 <message id="1312s"><translation>maîtrisée</translation></message>
 <message id="1313s"><translation>Tout juste du premier coup ; des points ont été perdus pour le temps de réponse ou les répétitions.</translation></message>
 <message id="1314s"><translation>encore %1</translation></message>
+<message id="1320s"><translation>Comme la dernière fois</translation></message>
+<message id="1321s"><translation>Pour débuter</translation></message>
+<message id="1322s"><translation>Choisit ce qui était choisi lors du dernier passage de cet exercice.</translation></message>
+<message id="1323s"><translation>Choisit trois modes ecclésiastiques, ascendants et sur la même finale.</translation></message>
+<message id="1324s"><translation>La connexion avec Melvora est interrompue ; les résultats ne seront pas enregistrés. Redémarrez Melvora.</translation></message>
 </context>
 </TS>

@@ -72,19 +72,28 @@ void Host::HostUebergabe(form::Forms& forms, const std::string& key) {
     hostObjekt_.reset();
 }
 
-bool Host::HostSichern(const std::string& key, const Value& wert) {
-    Verlust was{.hostFort = !hostObjekt_};
+std::optional<Host::Verlust> Host::store(const std::string& key, const Value& wert) {
+    if (!hostObjekt_) return Verlust{.hostFort = true};
     try {
         Value ergebnis;
-        if (hostObjekt_ &&
-            hostObjekt_->request("STORE", Value::Array{programm, key, wert}, ergebnis))
-            return true;
-        was.grund = ergebnis.text();
+        if (hostObjekt_->request("STORE", Value::Array{programm, key, wert}, ergebnis)) return {};
+        return Verlust{.grund = ergebnis.text()};
     } catch (const HostGone&) {
-        was.hostFort = true;
+        return Verlust{.hostFort = true};
     }
-    if (verlust) verlust(was);
-    return false;
+}
+
+bool Host::HostSichern(const std::string& key, const Value& wert) {
+    const auto lost = store(key, wert);
+    if (lost && verlust) verlust(*lost);
+    return !lost;
+}
+
+void Host::HostMerken(const std::string& key, const Value& wert) {
+    auto lost = store(key, wert);
+    if (!lost || !lost->hostFort || !verlust) return;
+    lost->training = false;
+    verlust(*lost);
 }
 
 Value Host::HostBenutzer() {

@@ -37,6 +37,8 @@ class Host {
     void HostUebergabe(form::Forms& forms, const std::string& key);
     /// Stores a record; when that fails `verlust` is raised. @return whether it is stored.
     bool HostSichern(const std::string& key, const Value& wert);
+    /// The same for what is no harm to lose: only that the host is gone raises `verlust`.
+    void HostMerken(const std::string& key, const Value& wert);
     /// Element 0 the user key or "unbekannt", then the user's data.
     Value HostBenutzer();
     std::string HostSprache();
@@ -47,19 +49,23 @@ class Host {
     bool LeseAbbruch(const std::string& key);
     /// Reads a record into `gelesen_e`, likewise.
     bool LeseEinstellung(const std::string& key);
+    /// A record, nothing when there is none.
+    std::optional<Value> HostLesen(const std::string& key);
 
     /// MIDI device number given by the host, `keinGeraet` when it gave none.
     int midiGeraet() const { return midiGeraet_; }
 
     /// A record that was not stored.
     struct Verlust {
+        bool training = true;    ///< it was one of a saved training
         bool hostFort = false;   ///< the host is gone; else it refused
         std::string grund = {};  ///< why it refused, "" when it does not say
     };
     std::function<void(const Verlust&)> verlust;
 
   private:
-    std::optional<Value> HostLesen(const std::string& key);
+    /// @return what became of a record that was not stored, nothing when it was.
+    std::optional<Verlust> store(const std::string& key, const Value& wert);
     void GeraetMerken(const std::string& nummer);
     /// A request whose failure as a call counts as the answer false.
     bool frage(const std::string& key, const Value& argument, Value& ergebnis);

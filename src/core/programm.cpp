@@ -12,7 +12,8 @@ Programm::Programm(Ports p, Aufruf a)
       host(ports.host, ports.dialogs, zustand),
       forms(ports.loop) {
     host.verlust = [this](const Host::Verlust& was) {
-        const wort::Id wort = was.hostFort        ? wort::connectionLost
+        const wort::Id wort = !was.training       ? wort::hostGone
+                              : was.hostFort      ? wort::connectionLost
                               : was.grund.empty() ? wort::trainingRefused
                                                   : wort::trainingRefusedBecause;
         Melden("Melvora 2000", eingesetzt(Wort(wort), was.grund));

@@ -347,6 +347,13 @@ enum class Id : int {
     mastered = 1312,     // beherrscht
     weightToGo = 1314,   // noch %1
     lostForTime = 1313,  // Alles auf Anhieb richtig; Abzüge gab es für …
+
+    // Set-up form: one press
+    asLastTime = 1320,         // Wie zuletzt
+    forBeginners = 1321,       // Für den Anfang
+    asLastTimeAbout = 1322,    // Wählt, was im letzten Durchgang dieser …
+    hostGone = 1324,           // Die Verbindung zu Melvora ist abgebrochen; …
+    forBeginnersAbout = 1323,  // Wählt drei Kirchentonarten, aufwärts und …
 };
 using enum Id;
 

@@ -181,6 +181,7 @@ void layoutEinstellung(FormWindow& window) {
     auto* actions = new QHBoxLayout(box);
     actions->setContentsMargins(0, 0, 0, 0);
     actions->addWidget(bind("cmdHilfe"));
+    for (const char* preset : {"asLastTime", "forBeginners"}) actions->addWidget(bind(preset));
     actions->addWidget(bind("cmdOptionRead"));
     actions->addWidget(bind("cmdOptionSave"));
     actions->addStretch();

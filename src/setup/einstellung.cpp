@@ -90,6 +90,7 @@ void Einstellung::start_timer() {
     sound_.KlangEinrichten();
     CombosFuellen();
     scales_.writeHint(0);
+    presets_.offer();
     forms().show(name());
     files_.StartdateiAnwenden();
 }
@@ -176,6 +177,7 @@ void Einstellung::cmdOK_click() {
     xml_.SkalaXmlNeu();
     scales_.AuswahlUebernehmen();
     guard("EinstDatSave", [this] { EinstDatSave(); });
+    presets_.keep();
     sound_.rememberInstrument();
     mode_.ModusSchritt();
     setPointer(form::Pointer::Hourglass);

@@ -4,6 +4,7 @@
 #include "results/wertung.h"
 #include "setup/groups.h"
 #include "setup/mode_choice.h"
+#include "setup/presets.h"
 #include "setup/regeln.h"
 #include "setup/saved_choice.h"
 #include "setup/scale_choice.h"
@@ -69,6 +70,7 @@ class Einstellung final : public core::Formular {
     SoundPanel sound_;
     SavedChoice saved_{*this, p, scales_, zweig_};
     ModeChoice mode_{*this, p, zweig_, groups_, sound_, saved_};
+    Presets presets_{*this, p, scales_, saved_, aktionsbox, zweig_};
     SettingsFiles files_{*this, p, groups_, aktionsbox, zweig_};
 
     form::Combo skal_typ_cmb{*this, {"skal_typ_cmb", &groups_(group::category)}};

@@ -112,6 +112,12 @@ void ScaleChoice::choose(const std::string& text) {
     if (skala != liste.end()) lst_ska0.click(static_cast<int>(skala - liste.begin()));
 }
 
+void ScaleChoice::choose(int code) {
+    const auto& liste = lst_ska0.items();
+    const auto skala = std::ranges::find(liste, code, &form::ItemList::Item::data);
+    if (skala != liste.end()) lst_ska0.click(static_cast<int>(skala - liste.begin()));
+}
+
 void ScaleChoice::AuswahlUebernehmen() const {
     for (int i = 0; i < lst_ska1.count(); ++i) z.einzel_wahl[i] = lst_ska1.item(i).data;
 }

@@ -27,6 +27,8 @@ class ScaleChoice {
     std::vector<std::string> chosen() const;
     /// Chooses the scale of this text, unless it is not on offer.
     void choose(const std::string& text);
+    /// The same for a signed scale code.
+    void choose(int code);
     /// Keeps the codes of those chosen for the run.
     /// @throws run-time error 9 when they are more than `wahlPlaetze`.
     void AuswahlUebernehmen() const;

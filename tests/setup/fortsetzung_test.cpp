@@ -72,7 +72,44 @@ TEST_F(Fortsetzung, NothingIsAskedOrKeptWithoutReason) {
         drill.leave(tasks == 0);
     }
     EXPECT_EQ(drill.dialogs.questions.size(), 1U);
-    EXPECT_TRUE(host.records.empty());
+    EXPECT_FALSE(host.records.contains("zepha9/A1") || host.records.contains("zepha9/E1"));
+}
+
+/// The choices of a run are one press away in the next; an exam's own choices are not overwritten.
+TEST_F(Fortsetzung, TheLastChoicesAreTakenUpByOnePress) {
+    {
+        Practice first(host);
+        EXPECT_FALSE(first.button("asLastTime").visible()) << "there was no run";
+        first.option("abfolge", 1).click();
+        first.combo("skal_typ_cmb").setListIndex(1);
+        first.combo("ComboPatch").setListIndex(40);
+        first.option("stimm_g", 2).click();
+        first.pick({1, 2, 4});
+        first.mode(1);
+        first.begin();
+        first.leave();
+    }
+    Practice next(host);
+    next.combo("skal_typ_cmb").setListIndex(5);
+    next.button("asLastTime").click();
+    const core::Zustand& z = next.z;
+    EXPECT_EQ((std::array<int, 6>{z.uebungsmodus, z.skal_typ, z.abfolge, z.richtung, z.stimmung,
+                                  z.patch[8]}),
+              (std::array<int, 6>{1, 1, 1, 0, 2, 40}));
+    EXPECT_EQ(next.list(1).count(), 3);
+    EXPECT_TRUE(next.usable("cmdOK"));
+    next.mode(4);
+    next.combo("prfnr_Comb").setListIndex(4);
+    next.begin();
+    next.leave();
+    next.mode(0);
+    next.button("forBeginners").click();
+    EXPECT_TRUE(next.usable("cmdOK"));
+    EXPECT_EQ(next.list(1).count(), 3);
+    EXPECT_EQ(z.final, 1);
+    next.button("asLastTime").click();
+    EXPECT_EQ((std::array<int, 4>{z.uebungsmodus, z.prfNr, z.tempoIdx, z.ska_ausw}),
+              (std::array<int, 4>{4, 5, 7, 0}));
 }
 
 /// A host that goes in the middle of saving, or refuses, leaves no half training behind.
