@@ -333,5 +333,10 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Unerwarteter Fehler: %1</translation></message>
 <message id="974s"><translation>Ergebnisse können nicht angenommen werden. %1</translation></message>
+<message id="1200s"><translation>Die Datei „%1“ gibt es nicht.</translation></message>
+<message id="1201s"><translation>„%1“ ist keine gewöhnliche Datei.</translation></message>
+<message id="1202s"><translation>Die Datei „%1“ ist zu groß für Einstellungen (höchstens 512 KB).</translation></message>
+<message id="1203s"><translation>Die Datei „%1“ ist beschädigt: Zeile %2 ist kein wohlgeformtes XML.</translation></message>
+<message id="1204s"><translation>Die Datei „%1“ enthält keine Einstellungen.</translation></message>
 </context>
 </TS>

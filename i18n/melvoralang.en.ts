@@ -333,5 +333,10 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Unexpected fault: %1</translation></message>
 <message id="974s"><translation>Results cannot be taken in. %1</translation></message>
+<message id="1200s"><translation>There is no file “%1”.</translation></message>
+<message id="1201s"><translation>“%1” is not an ordinary file.</translation></message>
+<message id="1202s"><translation>The file “%1” is too big for settings (512 KB at most).</translation></message>
+<message id="1203s"><translation>The file “%1” is damaged: line %2 is not well-formed XML.</translation></message>
+<message id="1204s"><translation>The file “%1” holds no settings.</translation></message>
 </context>
 </TS>

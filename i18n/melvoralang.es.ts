@@ -333,5 +333,10 @@
 <message id="972s"><translation>%1: %2</translation></message>
 <message id="973s"><translation>Error inesperado: %1</translation></message>
 <message id="974s"><translation>No se pueden recoger los resultados. %1</translation></message>
+<message id="1200s"><translation>El archivo «%1» no existe.</translation></message>
+<message id="1201s"><translation>«%1» no es un archivo normal.</translation></message>
+<message id="1202s"><translation>El archivo «%1» es demasiado grande para contener ajustes (512 KB como máximo).</translation></message>
+<message id="1203s"><translation>El archivo «%1» está dañado: la línea %2 no es XML bien formado.</translation></message>
+<message id="1204s"><translation>El archivo «%1» no contiene ajustes.</translation></message>
 </context>
 </TS>

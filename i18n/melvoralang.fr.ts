@@ -333,5 +333,10 @@
 <message id="972s"><translation>%1 : %2</translation></message>
 <message id="973s"><translation>Erreur inattendue : %1</translation></message>
 <message id="974s"><translation>Les résultats ne peuvent pas être reçus. %1</translation></message>
+<message id="1200s"><translation>Le fichier « %1 » n’existe pas.</translation></message>
+<message id="1201s"><translation>« %1 » n’est pas un fichier ordinaire.</translation></message>
+<message id="1202s"><translation>Le fichier « %1 » est trop gros pour des réglages (512 Ko au plus).</translation></message>
+<message id="1203s"><translation>Le fichier « %1 » est endommagé : la ligne %2 n’est pas du XML bien formé.</translation></message>
+<message id="1204s"><translation>Le fichier « %1 » ne contient aucun réglage.</translation></message>
 </context>
 </TS>

@@ -318,6 +318,13 @@ enum class Id : int {
     settingsMustWait = 971,    // Das Übungsprogramm „%1“ läuft gerade. Verlassen …
     unexpectedFault = 973,     // Unerwarteter Fehler: %1
     resultsNotTaken = 974,     // Ergebnisse können nicht angenommen werden. %1
+
+    // Host: what is wrong with a file of settings
+    settingsMissing = 1200,      // Die Datei „%1“ gibt es nicht.
+    settingsNoPlainFile = 1201,  // „%1“ ist keine gewöhnliche Datei.
+    settingsTooBig = 1202,       // Die Datei „%1“ ist zu groß für Einstellungen …
+    settingsDamaged = 1203,      // Die Datei „%1“ ist beschädigt: Zeile %2 ist kein …
+    settingsNone = 1204,         // Die Datei „%1“ enthält keine Einstellungen.
 };
 using enum Id;
 

@@ -112,8 +112,8 @@ int Host::midiNumber() const {
 bool Host::startModule(const QString& module, const QString& settingsFile) {
     QStringList arguments = place_.moduleArguments;
     if (!settingsFile.isEmpty()) {
-        if (const QString cause = whyUnreadable(settingsFile); !cause.isEmpty()) {
-            notice(words_.wort(wort::settingsUnreadable).arg(cause));
+        if (const QString cause = whyUnusable(words_, settingsFile); !cause.isEmpty()) {
+            notice(cause);
             return false;
         }
         arguments << "--settings" << settingsFile;

@@ -53,7 +53,7 @@ class Host : public QObject {
 
     /// Starts the module, with an absolute path of a file of settings when one is given. While one
     /// runs, it stays the only one, and a file is answered by a notice.
-    /// @return false, after telling, when the file cannot be read.
+    /// @return false, after telling, when the file cannot be used.
     bool startModule(const QString& module, const QString& settingsFile = {});
     const ModuleProcess& module() const { return module_; }
     /// The module hands over: results are taken in, the menu is wanted.

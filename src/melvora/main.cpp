@@ -1,4 +1,3 @@
-#include "core/wort.h"
 #include "hostlink/dbus_host.h"
 #include "hostlink/host_address.h"
 #include "melvora/main_window.h"
@@ -6,11 +5,13 @@
 #include "melvora/server.h"
 #include "melvora/settings_file.h"
 #include "melvora/socket_lock.h"
+#include "settingsfile/settings_file.h"
 #include "suite/application.h"
 #include "suite/fonts_ahead.h"
 #include "suite/look.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QThread>
@@ -34,20 +35,6 @@ QString dataFolder(const Options& options) {
     if (options.data) return *options.data;
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/melvora";
 }
-
-/// The file of settings cannot be read.
-class UnreadableFile : public base::UsageError {
-  public:
-    /// @param cause names the file's path
-    explicit UnreadableFile(const QString& cause)
-        : base::UsageError("the settings file cannot be read: " + cause.toStdString()),
-          text_(Words(suite::languageFolder()).wort(core::wort::settingsUnreadable).arg(cause)) {}
-    /// In the system's language.
-    const QString& text() const { return text_; }
-
-  private:
-    QString text_;
-};
 
 /// Asks the host that runs already to come forward. It may still be starting, or ending: then its
 /// place is this program's. Ten seconds for that.
@@ -114,10 +101,16 @@ int serve(const std::string& socket, const Options& options, suite::Application&
     return status;
 }
 
+/// @throws base::UsageError in the system's language when the file of settings cannot be used
+void lookAt(const QString& settingsFile) {
+    if (settingsfile::look(QFile::encodeName(settingsFile).toStdString()).trouble ==
+        settingsfile::Trouble::None)
+        return;
+    throw base::UsageError(whyUnusable(Words(suite::languageFolder()), settingsFile).toStdString());
+}
+
 int run(const Options& options, suite::Application& application) {
-    if (options.settingsFile)
-        if (const QString cause = whyUnreadable(*options.settingsFile); !cause.isEmpty())
-            throw UnreadableFile(cause);
+    if (options.settingsFile) lookAt(*options.settingsFile);
     const std::string address = hostlink::hostAddress();
     const auto socket = hostlink::socketPath(address);
     if (!socket) throw base::UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
@@ -139,9 +132,10 @@ bool startedFromDesktop() {
            std::ranges::none_of(streams, [](int stream) { return isatty(stream) != 0; });
 }
 
-void complain(const std::exception& error, const QString& text) {
+void complain(const std::exception& error) {
     std::fprintf(stderr, "melvora: %s\n", error.what());
-    if (startedFromDesktop()) QMessageBox::critical(nullptr, "Melvora", text);
+    if (startedFromDesktop())
+        QMessageBox::critical(nullptr, "Melvora", QString::fromUtf8(error.what()));
 }
 
 /// True when --help or --version was given; both need no screen.
@@ -172,10 +166,8 @@ int main(int argc, char** argv) {
     suite::apply();
     try {
         return run(parseOptions(QApplication::arguments()), application);
-    } catch (const UnreadableFile& error) {
-        complain(error, error.text());
     } catch (const std::exception& error) {
-        complain(error, QString::fromUtf8(error.what()));
+        complain(error);
     }
     return failure;
 }
