@@ -39,7 +39,7 @@ QString shareText(const Words& words, int right, int answered) {
 
 QString recordHtml(const Words& words, const ResultRecord& record) {
     QString html = "<table>" + pair(words.wort(wort::exercise), record.exercise) +
-                   pair(words.wort(wort::recordDate), record.timestamp) +
+                   pair(words.wort(wort::recordDate), words.moment(record.ended)) +
                    pair(words.wort(wort::userHeading), shownKey(record.user)) +
                    pair(words.wort(wort::rightAtFirst),
                         shareText(words, record.rightFirst(), record.answered())) +

@@ -44,7 +44,7 @@ void ResultsPage::fill() {
         results_ = host_.store().results.all();
         QList<QStringList> rows;
         for (const Result& result : results_)
-            rows.append({words.moment(result.started), shownKey(result.user), result.exercise,
+            rows.append({words.moment(result.started), shownKey(result.user), result.exercise.name,
                          shareText(words, result.rightFirst, result.answered)});
         table_->setRows(rows);
         record_->setVisible(!rows.isEmpty());
