@@ -1,5 +1,6 @@
 #include "hostlink/dbus_host.h"
 #include "hostlink/host_address.h"
+#include "melvora/look.h"
 #include "melvora/main_window.h"
 #include "melvora/options.h"
 #include "melvora/server.h"
@@ -8,7 +9,7 @@
 #include "settingsfile/settings_file.h"
 #include "suite/application.h"
 #include "suite/fonts_ahead.h"
-#include "suite/look.h"
+#include "suite/icon.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -95,7 +96,10 @@ int serve(const std::string& socket, const Options& options, suite::Application&
     if (!options.module ||
         !host.startModule(*options.module, options.settingsFile.value_or(QString())))
         window.show();
-    QTimer::singleShot(0, &host, &Host::begin);
+    QTimer::singleShot(0, &host, [&host] {
+        host.begin();
+        QApplication::setWindowIcon(suite::icon());
+    });
     const int status = QApplication::exec();
     application.uncaught = nullptr;
     return status;
@@ -163,7 +167,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setDesktopFileName("melvora");
     QApplication::setQuitOnLastWindowClosed(false);
-    suite::apply();
+    applyLook();
     try {
         return run(parseOptions(QApplication::arguments()), application);
     } catch (const std::exception& error) {

@@ -5,7 +5,17 @@
 #include <QHeaderView>
 #include <QShortcut>
 
+#include <algorithm>
+
 namespace melvora {
+
+namespace {
+
+/// Of all columns but the last, in average characters; a longer text is cut, and told by a tool
+/// tip.
+constexpr int widestColumn = 26;
+
+}  // namespace
 
 void TextModel::setHeadings(const QStringList& headings) {
     beginResetModel();
@@ -13,9 +23,10 @@ void TextModel::setHeadings(const QStringList& headings) {
     endResetModel();
 }
 
-void TextModel::setRows(const QList<QStringList>& rows) {
+void TextModel::setRows(const QList<QStringList>& rows, const QList<QVariantList>& keys) {
     beginResetModel();
     rows_ = rows;
+    keys_ = keys;
     endResetModel();
 }
 
@@ -30,6 +41,10 @@ int TextModel::columnCount(const QModelIndex& parent) const {
 QVariant TextModel::data(const QModelIndex& index, int role) const {
     const QString text = rows_.value(index.row()).value(index.column());
     if (role == Qt::DisplayRole) return text;
+    if (role == sortRole) {
+        const QVariant key = keys_.value(index.row()).value(index.column());
+        return key.isValid() ? key : text;
+    }
     // What came from elsewhere is shown as it is, never as a page with pictures.
     if (role == Qt::ToolTipRole) return "<span>" + text.toHtmlEscaped() + "</span>";
     return {};
@@ -41,16 +56,39 @@ QVariant TextModel::headerData(int section, Qt::Orientation orientation, int rol
     return role == Qt::DisplayRole ? headings_.value(section) : QVariant();
 }
 
+void RowFilter::setText(const QString& text) {
+    words_ = text.split(' ', Qt::SkipEmptyParts);
+    invalidateFilter();
+}
+
+bool RowFilter::filterAcceptsRow(int row, const QModelIndex& parent) const {
+    return std::ranges::all_of(words_, [&](const QString& word) {
+        for (int column = 0; column < sourceModel()->columnCount(parent); ++column)
+            if (sourceModel()
+                    ->index(row, column, parent)
+                    .data()
+                    .toString()
+                    .contains(word, Qt::CaseInsensitive))
+                return true;
+        return false;
+    });
+}
+
 TextTable::TextTable(QWidget* parent)
     : QWidget(parent),
       model_(new TextModel(this)),
+      shown_(new RowFilter(this)),
       view_(new QTableView(this)),
       empty_(new QLabel(this)),
       stack_(new QStackedLayout(this)) {
     empty_->setAlignment(Qt::AlignCenter);
     empty_->setWordWrap(true);
     empty_->setForegroundRole(QPalette::PlaceholderText);
-    view_->setModel(model_);
+    shown_->setSourceModel(model_);
+    shown_->setSortRole(TextModel::sortRole);
+    shown_->setSortCaseSensitivity(Qt::CaseInsensitive);
+    shown_->setSortLocaleAware(true);
+    view_->setModel(shown_);
     view_->setSelectionBehavior(QAbstractItemView::SelectRows);
     view_->setSelectionMode(QAbstractItemView::SingleSelection);
     view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -68,27 +106,45 @@ TextTable::TextTable(QWidget* parent)
     stack_->addWidget(view_);
     connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { emit chosen(row()); });
-    connect(view_, &QTableView::activated, this,
-            [this](const QModelIndex& index) { emit opened(index.row()); });
+    connect(view_, &QTableView::activated, this, [this] { emit opened(row()); });
     auto* deletion = new QShortcut(QKeySequence::Delete, view_);
     deletion->setContext(Qt::WidgetShortcut);
     connect(deletion, &QShortcut::activated, this, &TextTable::deletionWanted);
 }
 
-void TextTable::setRows(const QList<QStringList>& rows) {
+void TextTable::setRows(const QList<QStringList>& rows, const QList<QVariantList>& keys) {
     const int before = row();
-    model_->setRows(rows);
-    stack_->setCurrentWidget(rows.isEmpty() ? static_cast<QWidget*>(empty_) : view_);
+    model_->setRows(rows, keys);
     view_->resizeColumnsToContents();
     auto* header = view_->horizontalHeader();
+    const int widest = widestColumn * fontMetrics().averageCharWidth();
     for (int column = 0; column < header->count() - 1; ++column)
-        header->resizeSection(column, header->sectionSize(column) + fontMetrics().height());
+        header->resizeSection(
+            column, std::min(header->sectionSize(column) + fontMetrics().height(), widest));
+    showRows();
     chooseRow(before);
+}
+
+void TextTable::setFilter(const QString& text) {
+    shown_->setText(text);
+    showRows();
+    if (row() < 0) emit chosen(-1);
+}
+
+void TextTable::makeSortable() {
+    auto* header = view_->horizontalHeader();
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    header->setSortIndicatorClearable(true);
+    view_->setSortingEnabled(true);
+}
+
+void TextTable::showRows() {
+    stack_->setCurrentWidget(shown_->rowCount() == 0 ? static_cast<QWidget*>(empty_) : view_);
 }
 
 int TextTable::row() const {
     const auto rows = view_->selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : rows.first().row();
+    return rows.isEmpty() ? -1 : shown_->mapToSource(rows.first()).row();
 }
 
 bool TextTable::eventFilter(QObject* watched, QEvent* event) {
@@ -114,8 +170,9 @@ void TextTable::setHeightInRows(int rows) {
 }
 
 void TextTable::chooseRow(int row) {
-    if (row >= 0 && row < model_->rowCount())
-        view_->selectRow(row);
+    const QModelIndex index = shown_->mapFromSource(model_->index(row, 0));
+    if (index.isValid())
+        view_->selectRow(index.row());
     else
         emit chosen(-1);
 }
