@@ -333,23 +333,23 @@ enum class Id : int {
     showResults = 1210,  // Ergebnis &zeigen
 
     // Host: log-in
-    loggedIn = 1211,            // Angemeldet: %1
-    loggedInHeading = 1212,     // Angemeldet
-    lockedNow = 1213,           // Solange eine Übung läuft, bleiben Benutzer und …
+    loggedIn = 1211,          // Angemeldet: %1
+    loggedInHeading = 1212,   // Angemeldet
+    lockedNow = 1213,         // Solange eine Übung läuft, bleiben Benutzer und …
     askSurname = 1214,        // &Name:
     askFirstName = 1215,      // &Vorname:
     askMatriculation = 1216,  // &Matrikel-Nr.:
     askUserKey = 1217,        // &Kennung:
 
     // Host: list of results
-    allUsers = 1218,     // &Alle Benutzer
-    emptyRuns = 1219,    // Auch &leere Übungen
-    noneShown = 1220,    // Nichts gefunden
-    begun = 1221,        // Beginn
-    ended = 1222,        // Ende
-    answerSeconds = 1223,      // %1 s
-    resultTaken = 1224,  // Neues Ergebnis: %1, auf Anhieb richtig %2
-    kindLabel = 1225,    // &Art:
+    allUsers = 1218,       // &Alle Benutzer
+    emptyRuns = 1219,      // Auch &leere Übungen
+    noneShown = 1220,      // Nichts gefunden
+    begun = 1221,          // Beginn
+    ended = 1222,          // Ende
+    answerSeconds = 1223,  // %1 s
+    resultTaken = 1224,    // Neues Ergebnis: %1, auf Anhieb richtig %2
+    kindLabel = 1225,      // &Art:
 
     // Host: help
     helpIndex = 1226,     // &Inhalt

@@ -6,14 +6,15 @@
 #include <QShortcut>
 
 #include <algorithm>
+#include <numeric>
 
 namespace melvora {
 
 namespace {
 
-/// Of all columns but the last, in average characters; a longer text is cut, and told by a tool
-/// tip.
-constexpr int widestColumn = 26;
+/// Of a column, in average characters: where there is no room it is cut to no less, and never
+/// wider.
+constexpr int narrowest = 12, widest = 40;
 
 }  // namespace
 
@@ -53,7 +54,8 @@ QVariant TextModel::data(const QModelIndex& index, int role) const {
 QVariant TextModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);
-    return role == Qt::DisplayRole ? headings_.value(section) : QVariant();
+    const bool isText = role == Qt::DisplayRole || role == Qt::ToolTipRole;
+    return isText ? headings_.value(section) : QVariant();
 }
 
 void RowFilter::setText(const QString& text) {
@@ -101,6 +103,7 @@ TextTable::TextTable(QWidget* parent)
     view_->horizontalHeader()->setStretchLastSection(true);
     view_->horizontalHeader()->setHighlightSections(false);
     view_->installEventFilter(this);
+    view_->viewport()->installEventFilter(this);
     showFocus(false);
     stack_->addWidget(empty_);
     stack_->addWidget(view_);
@@ -115,14 +118,29 @@ TextTable::TextTable(QWidget* parent)
 void TextTable::setRows(const QList<QStringList>& rows, const QList<QVariantList>& keys) {
     const int before = row();
     model_->setRows(rows, keys);
-    view_->resizeColumnsToContents();
-    auto* header = view_->horizontalHeader();
-    const int widest = widestColumn * fontMetrics().averageCharWidth();
-    for (int column = 0; column < header->count() - 1; ++column)
-        header->resizeSection(
-            column, std::min(header->sectionSize(column) + fontMetrics().height(), widest));
+    fitColumns();
     showRows();
     chooseRow(before);
+}
+
+void TextTable::fitColumns() {
+    const QAbstractItemView* view = view_;
+    auto* header = view_->horizontalHeader();
+    const int character = fontMetrics().averageCharWidth();
+    QList<int> wanted;
+    for (int column = 0; column < header->count(); ++column)
+        wanted.append(std::max(view->sizeHintForColumn(column), header->sectionSizeHint(column)) +
+                      fontMetrics().height());
+    const auto sum = [&](int limit) {
+        return std::accumulate(wanted.begin(), wanted.end(), 0, [limit](int all, int width) {
+            return all + std::min(width, limit);
+        });
+    };
+    int limit = widest * character;
+    while (limit > narrowest * character && sum(limit) > view_->viewport()->width())
+        limit -= character;
+    for (int column = 0; column < header->count() - 1; ++column)
+        header->resizeSection(column, std::min(wanted[column], limit));
 }
 
 void TextTable::setFilter(const QString& text) {
@@ -150,6 +168,7 @@ int TextTable::row() const {
 bool TextTable::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) showFocus(true);
     if (event->type() == QEvent::FocusOut) showFocus(false);
+    if (event->type() == QEvent::Resize && watched == view_->viewport()) fitColumns();
     return QWidget::eventFilter(watched, event);
 }
 

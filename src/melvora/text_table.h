@@ -77,6 +77,9 @@ class TextTable final : public QWidget {
     void showFocus(bool focused);
 
     void showRows();
+    /// Gives each column the width of its texts; where they do not fit side by side, the widest are
+    /// cut.
+    void fitColumns();
 
     TextModel* model_;
     RowFilter* shown_;
