@@ -31,6 +31,8 @@ namespace {
 using namespace melvora;
 
 constexpr int failure = 2;
+/// The window is painted first.
+constexpr std::chrono::milliseconds untilIcon{300};
 
 QString dataFolder(const Options& options) {
     if (options.data) return *options.data;
@@ -96,10 +98,8 @@ int serve(const std::string& socket, const Options& options, suite::Application&
     if (!options.module ||
         !host.startModule(*options.module, options.settingsFile.value_or(QString())))
         window.show();
-    QTimer::singleShot(0, &host, [&host] {
-        host.begin();
-        QApplication::setWindowIcon(suite::icon());
-    });
+    QTimer::singleShot(0, &host, &Host::begin);
+    QTimer::singleShot(untilIcon, &host, [] { QApplication::setWindowIcon(suite::icon()); });
     const int status = QApplication::exec();
     application.uncaught = nullptr;
     return status;
