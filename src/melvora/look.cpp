@@ -4,7 +4,13 @@
 #include "suite/look.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPalette>
+#include <QPushButton>
+#include <QTableView>
+#include <QTextBrowser>
 
 namespace melvora {
 
@@ -14,11 +20,20 @@ void applyLook() {
     QPalette palette = QApplication::palette();
     palette.setColor(QPalette::PlaceholderText, suite::muted);
     QApplication::setPalette(palette);
-    // The style draws a frame somewhat darker than the window that it takes to be around it.
-    palette.setColor(QPalette::Window, QColor(0xB0, 0xAE, 0xA8));
-    for (const char* framed :
-         {"QComboBox", "QLineEdit", "QPushButton", "QCheckBox", "QTableView", "QTextBrowser"})
-        QApplication::setPalette(palette, framed);
+}
+
+void darkenFrames(QWidget& window) {
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const bool framed = qobject_cast<QComboBox*>(widget) || qobject_cast<QLineEdit*>(widget) ||
+                            qobject_cast<QPushButton*>(widget) ||
+                            qobject_cast<QCheckBox*>(widget) || qobject_cast<QTableView*>(widget) ||
+                            qobject_cast<QTextBrowser*>(widget);
+        if (!framed) continue;
+        // The style draws a frame somewhat darker than the window that it takes to be around it.
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::Window, QColor(0xB0, 0xAE, 0xA8));
+        widget->setPalette(palette);
+    }
 }
 
 }  // namespace melvora

@@ -174,6 +174,7 @@ bool TextTable::eventFilter(QObject* watched, QEvent* event) {
 
 void TextTable::showFocus(bool focused) {
     QPalette palette = QApplication::palette(view_);
+    palette.setColor(QPalette::Window, view_->palette().color(QPalette::Window));
     if (!focused) {
         QColor pale = palette.color(QPalette::Highlight);
         pale.setHslF(pale.hslHueF(), pale.hslSaturationF() * 0.5F, 0.85F);

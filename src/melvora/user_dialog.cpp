@@ -1,6 +1,7 @@
 #include "melvora/user_dialog.h"
 
 #include "core/wort.h"
+#include "melvora/look.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -65,6 +66,7 @@ void UserDialog::layOut() {
     form->addRow(words.wort(wort::askUserKey), key_);
     form->addRow(complaint_);
     form->addRow(buttons);
+    darkenFrames(*this);
 }
 
 User UserDialog::user() const {
