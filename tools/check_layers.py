@@ -24,7 +24,7 @@ LIBRARIES = [
     (re.compile(r"dbus/dbus\.h"), {"melvora"}),
     (re.compile(r"fontconfig(/.*)?\.h"), {"suite"}),
     (re.compile(r"pugi\w*\.hpp"), {"results", "setup", "sim", "melvora"}),
-    (re.compile(r"expat\.h"), {"setup"}),
+    (re.compile(r"expat\.h"), {"settingsfile"}),
     (re.compile(r"unistd\.h"), {"base", "ports", "synth", "hostlink", "qt", "sim", "melvora",
                                 "zepha9"}),
     # The operating system: headers of C that the standard library has under another name are

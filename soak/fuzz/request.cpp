@@ -4,7 +4,7 @@
 #include "hostlink/variant.h"
 #include "melvora/json_text.h"
 #include "melvora/server.h"
-#include "melvora/settings_file.h"
+#include "settingsfile/settings_file.h"
 #include "soak/fuzz/law.h"
 #include "soak/fuzz/lines.h"
 
@@ -77,7 +77,8 @@ bool startsModule(const QString& key, const Value& argument) {
     const std::string module = argument.isArray() ? argument.at(0).text() : argument.text();
     const QString file = QString::fromStdString(argument.at(1).text());
     return key == "RAISE" && melvora::ModuleProcess::known().contains(QString(module.c_str())) &&
-           (file.isEmpty() || melvora::whyUnreadable(file).isEmpty());
+           (file.isEmpty() || settingsfile::look(file.toStdString()).trouble ==
+                                settingsfile::Trouble::None);
 }
 
 /// Whether the host leaves the result alone.

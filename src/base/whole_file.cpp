@@ -34,7 +34,9 @@ std::string readWhole(const std::string& path, std::size_t most) {
     if (!std::filesystem::is_regular_file(path)) fail(ENOENT);
     const auto size = std::filesystem::file_size(path);
     if (size > most) fail(EFBIG);
+    errno = 0;
     std::ifstream in(path, std::ios::binary);
+    if (!in) fail(errno != 0 ? errno : EIO);
     std::string bytes(static_cast<std::size_t>(size), '\0');
     if (!in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) fail(EIO);
     return bytes;

@@ -261,7 +261,7 @@ enum class Id : int {
 
     // Host: users
     logIn = 913,               // &Anmelden
-    logOut = 914,              // &Abmelden
+    logOut = 914,              // Abm&elden
     addUser = 915,             // &Neu …
     editUser = 916,            // &Bearbeiten …
     deleteUser = 917,          // &Löschen …
@@ -272,8 +272,8 @@ enum class Id : int {
     newUserTitle = 924,        // Neuer Benutzer
     editUserTitle = 925,       // Benutzer bearbeiten
     save = 922,                // &Speichern
-    cancel = 923,              // Abbrechen
-    confirmDelete = 957,       // Löschen
+    cancel = 923,              // &Abbrechen
+    confirmDelete = 957,       // &Löschen
     keyTaken = 926,            // Die Kennung „%1“ ist schon vergeben.
     keyNotAllowed = 955,       // Diese Kennung ist nicht erlaubt.
     enterName = 927,           // Bitte geben Sie einen Namen ein.
@@ -283,7 +283,6 @@ enum class Id : int {
     withoutLogin = 969,        // ohne Anmeldung
 
     // Host: results
-    recordDate = 929,       // Datum
     exercise = 930,         // Übung
     rightAtFirst = 931,     // Auf Anhieb richtig
     rightOfAnswered = 932,  // %1 von %2 (%3 %)
@@ -295,7 +294,6 @@ enum class Id : int {
     taskAnswers = 948,      // Antworten
     taskDuration = 953,     // Dauer
     answerRight = 950,      // richtig
-    answerWrong = 951,      // falsch
 
     // Host: log
     filterLabel = 934,  // &Filter:
@@ -329,6 +327,46 @@ enum class Id : int {
     unexpectedFault = 973,     // Unerwarteter Fehler: %1
     resultsNotTaken = 974,     // Ergebnisse können nicht angenommen werden. %1
 
+    // Host: what is wrong with a file of settings
+    settingsMissing = 1200,      // Die Datei „%1“ gibt es nicht.
+    settingsNoPlainFile = 1201,  // „%1“ ist keine gewöhnliche Datei.
+    settingsTooBig = 1202,       // Die Datei „%1“ ist zu groß für Einstellungen …
+    settingsDamaged = 1203,      // Die Datei „%1“ ist beschädigt: Zeile %2 ist kein …
+    settingsNone = 1204,         // Die Datei „%1“ enthält keine Einstellungen.
+
+    // Host: what every page has
+    helpButton = 1205,   // &Hilfe
+    moreButton = 1206,   // Meh&r
+    logEntry = 1207,     // &Protokoll …
+    quitEntry = 1208,    // &Melvora beenden
+    showLog = 1209,      // Protokoll &zeigen
+    showResults = 1210,  // Ergebnis &zeigen
+
+    // Host: log-in
+    loggedIn = 1211,          // Angemeldet: %1
+    loggedInHeading = 1212,   // Angemeldet
+    lockedNow = 1213,         // Solange eine Übung läuft, bleiben Benutzer und …
+    askSurname = 1214,        // &Name:
+    askFirstName = 1215,      // &Vorname:
+    askMatriculation = 1216,  // &Matrikel-Nr.:
+    askUserKey = 1217,        // &Kennung:
+
+    // Host: list of results
+    allUsers = 1218,       // &Alle Benutzer
+    emptyRuns = 1219,      // Auch &leere Übungen
+    noneShown = 1220,      // Nichts gefunden
+    begun = 1221,          // Beginn
+    ended = 1222,          // Ende
+    answerSeconds = 1223,  // %1 s
+    resultTaken = 1224,    // Neues Ergebnis: %1, auf Anhieb richtig %2
+    kindLabel = 1225,      // &Art:
+
+    // Host: help
+    helpIndex = 1226,     // &Inhalt
+    helpBack = 1227,      // &Zurück
+    helpFind = 1228,      // &Suchen:
+    helpFindNext = 1229,  // &Weitersuchen
+    helpNotFound = 1230,  // Das steht auf keiner Seite.
     // Worksheet: what to do, and what became of it
     breakOffQuestion = 1300,  // Wirklich abbrechen? Ein Ergebnis wird dann …
     hearFirstTask = 1301,     // Eingabetaste: Aufgabe 1 hören

@@ -94,12 +94,8 @@ bool Collector::take(const QString& path) {
     const auto record = parseResultRecord(*xml);
     if (!record) return false;
     const QFileInfo info(path);
-    const Result result{0,
-                        startOf(info),
-                        record->user,
-                        record->exercise.isEmpty() ? record->description : record->exercise,
-                        record->rightFirst(),
-                        record->answered()};
+    const Result result{
+        0, startOf(info), record->user, record->about(), record->rightFirst(), record->answered()};
     if (results_.add(result, info.fileName(), QString::fromUtf8(*xml))) ++taken_;
     if (!QFile::remove(path)) left_ = true;
     return true;

@@ -24,7 +24,9 @@ constexpr const char* tables[] = {
     "CREATE TABLE IF NOT EXISTS results (id INTEGER PRIMARY KEY, started_at TEXT NOT NULL,"
     " user_key TEXT NOT NULL, exercise TEXT NOT NULL, right_first INTEGER NOT NULL,"
     " answered INTEGER NOT NULL, file_name TEXT NOT NULL, digest TEXT NOT NULL,"
-    " content TEXT NOT NULL, UNIQUE (file_name, digest))",
+    " content TEXT NOT NULL, branch TEXT NOT NULL DEFAULT '', kind TEXT NOT NULL DEFAULT '',"
+    " mode TEXT NOT NULL DEFAULT '', scale_type TEXT NOT NULL DEFAULT '',"
+    " UNIQUE (file_name, digest))",
 };
 
 /// What a database must answer to be usable.
@@ -34,7 +36,7 @@ constexpr const char* uses[] = {
     "SELECT user_key, executable, record_key, content, stored_at FROM records LIMIT 0",
     "SELECT id, logged_at, user_key, kind, content FROM log LIMIT 0",
     "SELECT id, started_at, user_key, exercise, right_first, answered FROM results LIMIT 0",
-    "SELECT file_name, digest, content FROM results LIMIT 0",
+    "SELECT file_name, digest, content, branch, kind, mode, scale_type FROM results LIMIT 0",
 };
 /// Grows when a program of this version could not use the tables of the next.
 constexpr int schema = 1;
@@ -48,6 +50,10 @@ struct Column {
 /// What tables made by older versions lack.
 constexpr Column addedColumns[] = {
     {"records", "stored_at", "TEXT NOT NULL DEFAULT ''"},
+    {"results", "branch", "TEXT NOT NULL DEFAULT ''"},
+    {"results", "kind", "TEXT NOT NULL DEFAULT ''"},
+    {"results", "mode", "TEXT NOT NULL DEFAULT ''"},
+    {"results", "scale_type", "TEXT NOT NULL DEFAULT ''"},
 };
 
 /// A null text means an empty one here; the database would take it for NULL.

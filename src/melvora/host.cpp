@@ -2,6 +2,7 @@
 
 #include "core/wort.h"
 #include "melvora/midi_ports.h"
+#include "melvora/record_html.h"
 #include "melvora/settings_file.h"
 
 #include <QDir>
@@ -32,7 +33,7 @@ Host::Host(Place place, Words& words)
     connect(&module_, &ModuleProcess::started, this, &Host::moduleStarted);
     connect(&module_, &ModuleProcess::ended, this, &Host::onModuleEnded);
     connect(&module_, &ModuleProcess::failed, this, [this](const QString& cause) {
-        notice(words_.wort(wort::moduleNotStarted).arg(module_.name(), cause));
+        notice(words_.wort(wort::moduleNotStarted).arg(moduleTitle(), cause));
         emit moduleEnded();
         emit menuWanted();
     });
@@ -54,6 +55,8 @@ void Host::begin() {
     collect();
 }
 
+QString Host::moduleTitle() const { return words_.wort(wort::scales); }
+
 QString Host::userKey() const { return user_ ? user_->key : QString(nobody); }
 
 bool Host::logIn(const QString& key) {
@@ -61,7 +64,10 @@ bool Host::logIn(const QString& key) {
     std::optional<User> user;
     if (!out) guarded([&] { user = store_.users.find(key); });
     if (!out && !user) return false;
-    if (user != user_)
+    if (user == user_) return true;
+    if (isLocked())
+        emit noticed(words_.wort(wort::lockedNow));
+    else
         changeUsers([this, user] {
             store_.settings.set("user", user ? user->key : QString());
             user_ = user;
@@ -77,6 +83,7 @@ void Host::putUser(const User& user) {
 }
 
 void Host::removeUser(const QString& key) {
+    if (isLocked() && key == userKey()) return emit noticed(words_.wort(wort::lockedNow));
     changeUsers([this, key] {
         store_.users.remove(key);
         if (userKey() == key) user_.reset();
@@ -93,6 +100,10 @@ void Host::changeUsers(const Turns::Operation& change) {
 
 bool Host::chooseLanguage(const QString& language) {
     if (!words_.languages().contains(language)) return false;
+    if (isLocked()) {
+        emit noticed(words_.wort(wort::lockedNow));
+        return true;
+    }
     inTurn([this, language] { store_.settings.set("language", language); });
     words_.choose(language);
     emit languageChanged();
@@ -112,18 +123,20 @@ int Host::midiNumber() const {
 bool Host::startModule(const QString& module, const QString& settingsFile) {
     QStringList arguments = place_.moduleArguments;
     if (!settingsFile.isEmpty()) {
-        if (const QString cause = whyUnreadable(settingsFile); !cause.isEmpty()) {
-            notice(words_.wort(wort::settingsUnreadable).arg(cause));
+        if (const QString cause = whyUnusable(words_, settingsFile); !cause.isEmpty()) {
+            notice(cause, Details::Here);
             return false;
         }
         arguments << "--settings" << settingsFile;
     }
     if (module_.runs()) {
         if (!settingsFile.isEmpty())
-            notice(words_.wort(wort::settingsMustWait).arg(module_.name(), settingsFile));
+            notice(words_.wort(wort::settingsMustWait).arg(moduleTitle(), settingsFile),
+                   Details::Here);
         return true;
     }
     handedOver_ = false;
+    guarded([this] { resultBefore_ = store_.results.newest(); });
     prepareSpool();
     module_.start(module, arguments, {place_.address, collector_.folder()});
     return true;
@@ -141,6 +154,7 @@ void Host::takeOver() {
     handedOver_ = true;
     module_.endSoon();
     collect();
+    tellResult();
     emit menuWanted();
 }
 
@@ -157,9 +171,10 @@ void Host::removeTraining(const Training& training) {
 
 void Host::onModuleEnded(int status) {
     collect();
+    if (!handedOver_) tellResult();
     // How a module ends that has handed over is nobody's concern.
     if (status != 0 && !handedOver_)
-        notice(words_.wort(wort::moduleEnded).arg(module_.name()).arg(status));
+        notice(words_.wort(wort::moduleEnded).arg(moduleTitle()).arg(status));
     emit moduleEnded();
     if (!handedOver_) emit menuWanted();
 }
@@ -173,7 +188,7 @@ void Host::collect() {
                 const QString text = words_.wort(wort::recordUnreadable).arg(path);
                 store_.log.write(LogKind::Error, userKey(), text);
                 emit logChanged();
-                emit noticed(text);
+                emit noticed(text, Details::Log);
             });
         if (harvest.taken > 0) emit resultsChanged();
         // A folder that was away, or closed, tells nothing when it is as it should be again.
@@ -187,6 +202,21 @@ void Host::collect() {
         if (fault && trouble != collectTrouble_) tell(*fault);
         if (fault) again_.start();
         collectTrouble_ = trouble;
+    });
+}
+
+void Host::tellResult() {
+    guarded([this] {
+        QList<Result> fresh;
+        for (Result& result : store_.results.since(resultBefore_))
+            if (result.answered > 0) fresh.append(std::move(result));
+        if (fresh.isEmpty()) return;
+        resultBefore_ = fresh.last().id;
+        const Result& last = fresh.last();
+        emit noticed(words_.wort(wort::resultTaken)
+                         .arg(exerciseText(words_, last.exercise),
+                              shareText(words_, last.rightFirst, last.answered)),
+                     Details::Results);
     });
 }
 
@@ -223,9 +253,9 @@ void Host::tell(const std::exception& fault) {
     storeTrouble_ = cause;
 }
 
-void Host::notice(const QString& text) {
+void Host::notice(const QString& text, Details where) {
     log(LogKind::Error, text);
-    emit noticed(text);
+    emit noticed(text, where);
 }
 
 }  // namespace melvora

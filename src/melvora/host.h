@@ -37,11 +37,16 @@ class Host : public QObject {
     const std::optional<User>& user() const { return user_; }
     /// Key of who is logged in, or "unbekannt".
     QString userKey() const;
-    /// "" or "unbekannt" logs out. @return false when there is no such user.
+    /// While a module runs, user and language stay as they are: it has asked for them already.
+    bool isLocked() const { return module_.runs(); }
+    /// "" or "unbekannt" logs out. Does nothing, after telling, while it is locked.
+    /// @return false when there is no such user.
     bool logIn(const QString& key);
     void putUser(const User& user);
+    /// Refused, with a notice, for who is logged in while it is locked.
     void removeUser(const QString& key);
 
+    /// Does nothing, after telling, while it is locked.
     /// @return false when the language is not installed.
     bool chooseLanguage(const QString& language);
 
@@ -53,9 +58,11 @@ class Host : public QObject {
 
     /// Starts the module, with an absolute path of a file of settings when one is given. While one
     /// runs, it stays the only one, and a file is answered by a notice.
-    /// @return false, after telling, when the file cannot be read.
+    /// @return false, after telling, when the file cannot be used.
     bool startModule(const QString& module, const QString& settingsFile = {});
     const ModuleProcess& module() const { return module_; }
+    /// How the user calls the module that was started last.
+    QString moduleTitle() const;
     /// The module hands over: results are taken in, the menu is wanted.
     void takeOver();
     /// Refused, with a notice, while a module runs: it may be continuing that training.
@@ -71,6 +78,9 @@ class Host : public QObject {
     /// Runs an operation on the store in its turn (see Turns). What fails is told, unless `end` is
     /// given and sees to it.
     void inTurn(Turns::Operation operation, Turns::End end = {});
+    /// Where the details of a notice are to be found.
+    enum class Details { Here, Log, Results };
+
     /// Logs and tells a fault; one of the store cannot be logged there.
     void tell(const std::exception& fault);
 
@@ -85,11 +95,15 @@ class Host : public QObject {
     void moduleEnded();
     void menuWanted();
     void raiseWanted();
-    void noticed(const QString& text);
+    void noticed(const QString& text, Details where = Details::Here);
+    /// @param page of the help
+    void helpWanted(const QString& page);
 
   private:
     /// Logs what went wrong, and tells it.
-    void notice(const QString& text);
+    void notice(const QString& text, Details where = Details::Log);
+    /// Tells once of the run whose answers came into the store since the module was started.
+    void tellResult();
     void onModuleEnded(int status);
     void changeUsers(const Turns::Operation& change);
 
@@ -108,6 +122,7 @@ class Host : public QObject {
     std::optional<User> user_;
     QString midiDevice_;
     bool handedOver_ = false;
+    int resultBefore_ = 0;  ///< number of the newest result when the module was started, or told
 };
 
 }  // namespace melvora

@@ -14,20 +14,28 @@ LogPage::LogPage(Host& host, QWidget* parent)
       host_(host),
       label_(new QLabel(this)),
       text_(new QLineEdit(this)),
-      kind_(new QComboBox(this)),
+      kindLabel_(new QLabel(this)),
+      kind_(new Combo(this)),
+      help_(new QPushButton(this)),
       table_(new TextTable(this)) {
     label_->setBuddy(text_);
+    kindLabel_->setBuddy(kind_);
     text_->setClearButtonEnabled(true);
-    kind_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    kind_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     for (int i = 0; i < 3; ++i) kind_->addItem({});
     auto* filter = new QHBoxLayout;
     filter->addWidget(label_);
     filter->addWidget(text_, 1);
+    filter->addSpacing(suite::margin);
+    filter->addWidget(kindLabel_);
     filter->addWidget(kind_);
+    filter->addSpacing(suite::margin);
+    filter->addWidget(help_);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(suite::pageMargins);
     layout->addLayout(filter);
     layout->addWidget(table_);
+    connect(help_, &QPushButton::clicked, this, [this] { emit host_.helpWanted(helpPage()); });
     connect(text_, &QLineEdit::textChanged, this, [this] { refresh(); });
     connect(kind_, &QComboBox::currentIndexChanged, this, [this] { refresh(); });
     connect(&host_, &Host::logChanged, this, [this] { refresh(); });
@@ -40,7 +48,9 @@ void LogPage::retranslate() {
     text_->setPlaceholderText(words.wort(wort::searchText));
     const wort::Id kinds[] = {wort::allKinds, wort::logMessage, wort::logError};
     for (int i = 0; i < 3; ++i) kind_->setItemText(i, words.wort(kinds[i]));
-    kind_->setAccessibleName(words.wort(wort::logKind));
+    kindLabel_->setText(words.wort(wort::kindLabel));
+    help_->setText(words.wort(wort::helpButton));
+    setWindowTitle(words.wort(wort::logPage));
     table_->setHeadings({words.wort(wort::logTime), words.wort(wort::userHeading),
                          words.wort(wort::logKind), words.wort(wort::logText)});
     table_->setEmptyText(words.wort(wort::noEntries));
@@ -57,7 +67,7 @@ void LogPage::fill() {
         QList<QStringList> rows;
         for (const LogLine& line : host_.store().log.lines(filter))
             rows.append(
-                {line.time.toString("yyyy-MM-dd HH:mm:ss"), shownKey(line.user),
+                {words.moment(line.time, Words::Precision::Seconds), shownKey(line.user),
                  words.wort(line.kind == LogKind::Error ? wort::logError : wort::logMessage),
                  line.text});
         table_->setRows(rows);

@@ -1,11 +1,12 @@
 #pragma once
+#include "melvora/combo.h"
 #include "melvora/host.h"
 #include "melvora/page.h"
 #include "melvora/text_table.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace melvora {
 
@@ -15,6 +16,7 @@ class LogPage final : public Page {
   public:
     explicit LogPage(Host& host, QWidget* parent = nullptr);
     void retranslate() override;
+    QString helpPage() const override { return "melvora"; }
 
   private:
     void fill() override;
@@ -22,7 +24,9 @@ class LogPage final : public Page {
     Host& host_;
     QLabel* label_;
     QLineEdit* text_;
-    QComboBox* kind_;
+    QLabel* kindLabel_;
+    Combo* kind_;
+    QPushButton* help_;
     TextTable* table_;
 };
 

@@ -1,16 +1,18 @@
-#include "core/wort.h"
 #include "hostlink/dbus_host.h"
 #include "hostlink/host_address.h"
+#include "melvora/look.h"
 #include "melvora/main_window.h"
 #include "melvora/options.h"
 #include "melvora/server.h"
 #include "melvora/settings_file.h"
 #include "melvora/socket_lock.h"
+#include "settingsfile/settings_file.h"
 #include "suite/application.h"
 #include "suite/fonts_ahead.h"
-#include "suite/look.h"
+#include "suite/icon.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QThread>
@@ -29,25 +31,13 @@ namespace {
 using namespace melvora;
 
 constexpr int failure = 2;
+/// The window is painted first.
+constexpr std::chrono::milliseconds untilIcon{300};
 
 QString dataFolder(const Options& options) {
     if (options.data) return *options.data;
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/melvora";
 }
-
-/// The file of settings cannot be read.
-class UnreadableFile : public base::UsageError {
-  public:
-    /// @param cause names the file's path
-    explicit UnreadableFile(const QString& cause)
-        : base::UsageError("the settings file cannot be read: " + cause.toStdString()),
-          text_(Words(suite::languageFolder()).wort(core::wort::settingsUnreadable).arg(cause)) {}
-    /// In the system's language.
-    const QString& text() const { return text_; }
-
-  private:
-    QString text_;
-};
 
 /// Asks the host that runs already to come forward. It may still be starting, or ending: then its
 /// place is this program's. Ten seconds for that.
@@ -109,15 +99,22 @@ int serve(const std::string& socket, const Options& options, suite::Application&
         !host.startModule(*options.module, options.settingsFile.value_or(QString())))
         window.show();
     QTimer::singleShot(0, &host, &Host::begin);
+    QTimer::singleShot(untilIcon, &host, [] { QApplication::setWindowIcon(suite::icon()); });
     const int status = QApplication::exec();
     application.uncaught = nullptr;
     return status;
 }
 
+/// @throws base::UsageError in the system's language when the file of settings cannot be used
+void lookAt(const QString& settingsFile) {
+    if (settingsfile::look(QFile::encodeName(settingsFile).toStdString()).trouble ==
+        settingsfile::Trouble::None)
+        return;
+    throw base::UsageError(whyUnusable(Words(suite::languageFolder()), settingsFile).toStdString());
+}
+
 int run(const Options& options, suite::Application& application) {
-    if (options.settingsFile)
-        if (const QString cause = whyUnreadable(*options.settingsFile); !cause.isEmpty())
-            throw UnreadableFile(cause);
+    if (options.settingsFile) lookAt(*options.settingsFile);
     const std::string address = hostlink::hostAddress();
     const auto socket = hostlink::socketPath(address);
     if (!socket) throw base::UsageError("MELVORA_HOST_ADDRESS: not of the form unix:path=SOCKET");
@@ -139,9 +136,10 @@ bool startedFromDesktop() {
            std::ranges::none_of(streams, [](int stream) { return isatty(stream) != 0; });
 }
 
-void complain(const std::exception& error, const QString& text) {
+void complain(const std::exception& error) {
     std::fprintf(stderr, "melvora: %s\n", error.what());
-    if (startedFromDesktop()) QMessageBox::critical(nullptr, "Melvora", text);
+    if (startedFromDesktop())
+        QMessageBox::critical(nullptr, "Melvora", QString::fromUtf8(error.what()));
 }
 
 /// True when --help or --version was given; both need no screen.
@@ -169,13 +167,11 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setDesktopFileName("melvora");
     QApplication::setQuitOnLastWindowClosed(false);
-    suite::apply();
+    applyLook();
     try {
         return run(parseOptions(QApplication::arguments()), application);
-    } catch (const UnreadableFile& error) {
-        complain(error, error.text());
     } catch (const std::exception& error) {
-        complain(error, QString::fromUtf8(error.what()));
+        complain(error);
     }
     return failure;
 }

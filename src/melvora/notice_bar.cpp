@@ -10,7 +10,10 @@
 namespace melvora {
 
 NoticeBar::NoticeBar(QWidget* parent)
-    : QFrame(parent), text_(new QLabel(this)), close_(new QToolButton(this)) {
+    : QFrame(parent),
+      text_(new QLabel(this)),
+      way_(new QPushButton(this)),
+      close_(new QToolButton(this)) {
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
     text_->setForegroundRole(QPalette::ToolTipText);
@@ -22,13 +25,21 @@ NoticeBar::NoticeBar(QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(suite::margin, suite::gap, suite::gap, suite::gap);
     layout->addWidget(text_, 1);
+    layout->addWidget(way_);
     layout->addWidget(close_, 0, Qt::AlignTop);
     connect(close_, &QToolButton::clicked, this, &QWidget::hide);
+    connect(way_, &QPushButton::clicked, this, [this] {
+        hide();
+        go_();
+    });
     hide();
 }
 
-void NoticeBar::show(const QString& text) {
+void NoticeBar::show(const QString& text, const Way& way) {
     text_->setText(wrapped(text));
+    way_->setText(way.text);
+    way_->setVisible(!way.text.isEmpty());
+    go_ = way.go;
     QFrame::show();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

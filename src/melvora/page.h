@@ -12,6 +12,8 @@ class Page : public QWidget {
     using QWidget::QWidget;
     /// Shows its texts in the language in force.
     virtual void retranslate() = 0;
+    /// The page of the help that tells of this one.
+    virtual QString helpPage() const = 0;
 
   protected:
     /// Fills the page anew, at once when it is seen, else when it will be.

@@ -2,7 +2,6 @@
 
 #include "core/recap_label.h"
 #include "core/wort.h"
-#include "melvora/users.h"
 
 namespace melvora {
 
@@ -20,15 +19,22 @@ QString pair(const QString& name, const QString& text) {
 
 QString heading(const QString& text) { return "<h4>" + text.toHtmlEscaped() + "</h4>"; }
 
-QString answersOf(const Words& words, const ResultRecord::Lesson& lesson) {
-    QStringList texts;
+/// A row for each answer; the first of a task bears its number and scale.
+QString rowsOf(const Words& words, const ResultRecord::Lesson& lesson, int number) {
+    QString rows;
+    QString task = cell(QString::number(number)) + cell(lesson.scale.toHtmlEscaped());
     for (const auto& answer : lesson.answers) {
-        const QString judgement = words.wort(answer.right ? wort::answerRight : wort::answerWrong);
-        texts.append(answer.scale.isEmpty() ? judgement
-                                            : QString("%1 (%2)").arg(answer.scale, judgement));
+        const QString seconds = answer.seconds.isEmpty()
+                                    ? QString()
+                                    : words.wort(wort::answerSeconds).arg(answer.seconds);
+        rows += "<tr>" + task + cell(answer.right ? "✓" : "") + cell(answer.scale.toHtmlEscaped()) +
+                cell(seconds.toHtmlEscaped()) + "</tr>";
+        task = cell({}) + cell({});
     }
-    return texts.join(", ");
+    return rows.isEmpty() ? "<tr>" + task + "</tr>" : rows;
 }
+
+QString orDash(const QString& text) { return text.isEmpty() ? QString("–") : text; }
 
 }  // namespace
 
@@ -38,10 +44,54 @@ QString shareText(const Words& words, int right, int answered) {
     return words.wort(wort::rightOfAnswered).arg(right).arg(answered).arg(percent);
 }
 
-QString recordHtml(const Words& words, const ResultRecord& record) {
-    QString html = "<table>" + pair(words.wort(wort::exercise), record.exercise) +
-                   pair(words.wort(wort::recordDate), record.timestamp) +
-                   pair(words.wort(wort::userHeading), shownKey(record.user)) +
+QString branchText(const Words& words, const Exercise& exercise) {
+    switch (exercise.branch) {
+        case Branch::Unknown:
+            break;
+        case Branch::Ear:
+            return words.wort(wort::earTraining);
+        case Branch::Theory:
+            return words.wort(wort::musicTheory);
+    }
+    return orDash({});
+}
+
+QString kindText(const Words& words, const Exercise& exercise) {
+    switch (exercise.kind) {
+        case Kind::Unknown:
+            break;
+        case Kind::Identify:
+            return words.wort(wort::identifyScales);
+        case Kind::Write:
+            return words.wort(wort::writeScales);
+    }
+    return orDash(words.today(exercise.name, {wort::identify, wort::write}));
+}
+
+QString exerciseText(const Words& words, const Exercise& exercise) {
+    return words.wort(wort::branchAndType)
+        .arg(branchText(words, exercise), kindText(words, exercise));
+}
+
+QString modeText(const Words& words, const Exercise& exercise) {
+    return orDash(words.today(exercise.mode, {wort::tryOut, wort::training, wort::continueTraining,
+                                              wort::test, wort::exam}));
+}
+
+QString scaleTypeText(const Words& words, const Exercise& exercise) {
+    return orDash(words.today(
+        exercise.scaleType,
+        {wort::churchModes, wort::churchModeVariants, wort::minorVariants, wort::exoticScales,
+         wort::pentatonicScales, wort::wholeToneQuartalBlues, wort::tetrachords}));
+}
+
+QString recordHtml(const Words& words, const ResultRecord& record, const QDateTime& started,
+                   const QString& user) {
+    const Exercise about = record.about();
+    QString html = "<table>" + pair(words.wort(wort::exercise), exerciseText(words, about)) +
+                   pair(words.wort(wort::begun), words.moment(started)) +
+                   pair(words.wort(wort::ended), words.moment(record.ended)) +
+                   pair(words.wort(wort::userHeading), user) +
                    pair(words.wort(wort::rightAtFirst),
                         shareText(words, record.rightFirst(), record.answered())) +
                    "</table>";
@@ -55,15 +105,12 @@ QString recordHtml(const Words& words, const ResultRecord& record) {
     }
     if (record.lessons.isEmpty()) return html;
     html += heading(words.wort(wort::recordTasks)) + "<table><tr>";
-    for (const wort::Id column : {wort::taskScale, wort::taskAnswers, wort::taskDuration})
+    for (const wort::Id column :
+         {wort::number, wort::taskScale, wort::answerRight, wort::taskAnswers, wort::taskDuration})
         html += cell("<b>" + words.wort(column).toHtmlEscaped() + "</b>");
     html += "</tr>";
-    for (const auto& lesson : record.lessons) {
-        const QString seconds = lesson.answers.isEmpty() ? "" : lesson.answers.last().seconds;
-        html += "<tr>" + cell(lesson.scale.toHtmlEscaped()) +
-                cell(answersOf(words, lesson).toHtmlEscaped()) + cell(seconds.toHtmlEscaped()) +
-                "</tr>";
-    }
+    int number = 0;
+    for (const auto& lesson : record.lessons) html += rowsOf(words, lesson, ++number);
     return html + "</table>";
 }
 

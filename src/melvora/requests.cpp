@@ -142,7 +142,7 @@ void Requests::raise(const core::Value& argument, core::Value&) {
     if (file.size() >= PATH_MAX) throw Refusal("the file's path is too long");
     emit host_.raiseWanted();
     if (!module.isEmpty() && !host_.startModule(module, file))
-        throw Refusal("the file cannot be read");
+        throw Refusal("the file cannot be used");
 }
 
 }  // namespace melvora

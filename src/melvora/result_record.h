@@ -1,5 +1,6 @@
 #pragma once
 #include <QByteArray>
+#include <QDateTime>
 #include <QList>
 #include <QPair>
 #include <QString>
@@ -8,11 +9,23 @@
 
 namespace melvora {
 
+enum class Branch { Unknown, Ear, Theory };
+enum class Kind { Unknown, Identify, Write };
+
+/// What a run was about. Texts are in the language of its time.
+struct Exercise {
+    Branch branch = Branch::Unknown;
+    Kind kind = Kind::Unknown;
+    QString name;       ///< as the record calls it, for what it does not show otherwise
+    QString mode;       ///< "" when the record does not say
+    QString scaleType;  ///< the same
+};
+
 /// One run as the module records it.
 struct ResultRecord {
     struct Answer {
         bool right = false;
-        QString scale;
+        QString scale;    ///< that was named; "" when it was written
         QString seconds;  ///< "" when the record does not say
     };
     struct Lesson {
@@ -24,12 +37,14 @@ struct ResultRecord {
     QString user;
     QString exercise;
     QString description;
-    QString timestamp;
+    QDateTime ended;                          ///< local time; invalid when the record does not say
     QList<QPair<QString, QString>> settings;  ///< key and value
     QList<Lesson> lessons;
 
     int rightFirst() const;
     int answered() const;
+    /// Derived from settings and answers. A run without an answer does not show its kind.
+    Exercise about() const;
 };
 
 /// Reads the XML text of a record; nothing when it is not well formed or no record.

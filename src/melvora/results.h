@@ -1,5 +1,6 @@
 #pragma once
 #include "melvora/database.h"
+#include "melvora/result_record.h"
 
 #include <QDateTime>
 #include <QList>
@@ -12,7 +13,7 @@ struct Result {
     int id = 0;         ///< set by the store
     QDateTime started;  ///< local time
     QString user;       ///< user key, or "unbekannt"
-    QString exercise;
+    Exercise exercise;
     int rightFirst = 0;  ///< tasks whose first answer was right
     int answered = 0;    ///< tasks with an answer
 };
@@ -26,12 +27,20 @@ class Results {
     /// kept once.
     /// @return whether it was new
     bool add(const Result& result, const QString& fileName, const QString& text);
-    /// Newest first.
-    QList<Result> all() const;
+    /// Newest first. What older versions did not derive from a record is derived and kept.
+    QList<Result> all();
+    /// Those that came into the store after that one, oldest first.
+    QList<Result> since(int id);
+    /// Number of the one that came last; 0 when there is none.
+    int newest() const;
     /// Text of the file that the result was read from; "" when there is no such result.
     QString text(int id) const;
 
   private:
+    void derive();
+    /// @param order and conditions behind the name of the table
+    QList<Result> list(const QString& which, const QVariantList& values = {});
+
     Database& database_;
 };
 

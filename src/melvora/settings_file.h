@@ -1,4 +1,6 @@
 #pragma once
+#include "melvora/words.h"
+
 #include <QString>
 
 namespace melvora {
@@ -6,7 +8,7 @@ namespace melvora {
 /// Module that the files of settings (*.mvs) are for.
 inline constexpr char settingsModule[] = "zepha9";
 
-/// Why the file cannot be read, with its path in front; "" when it can be.
-QString whyUnreadable(const QString& path);
+/// What is wrong with a file of settings, in one sentence with its path; "" when it can be used.
+QString whyUnusable(const Words& words, const QString& path);
 
 }  // namespace melvora

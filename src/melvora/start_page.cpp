@@ -2,6 +2,7 @@
 
 #include "core/wort.h"
 #include "melvora/midi_ports.h"
+#include "melvora/wrapped.h"
 #include "suite/look.h"
 
 #include <QGridLayout>
@@ -15,20 +16,7 @@ namespace {
 
 /// Greatest width of the page's column in average characters.
 constexpr int columnWidth = 90;
-
-/// A combo that asks for its entries before it unfolds.
-class FreshCombo final : public QComboBox {
-  public:
-    FreshCombo(QWidget* parent, std::function<void()> refresh)
-        : QComboBox(parent), refresh_(std::move(refresh)) {}
-    void showPopup() override {
-        refresh_();
-        QComboBox::showPopup();
-    }
-
-  private:
-    std::function<void()> refresh_;
-};
+constexpr int longestName = 120;
 
 void select(QComboBox* combo, const QString& data) {
     combo->setCurrentIndex(std::max(0, combo->findData(data)));
@@ -42,12 +30,16 @@ StartPage::StartPage(Host& host, QWidget* parent)
       title_(new QLabel("Melvora", this)),
       subtitle_(new QLabel(this)),
       userLabel_(new QLabel(this)),
-      user_(new QComboBox(this)),
+      user_(new Combo(this)),
+      logIn_(new QPushButton(this)),
+      logOut_(new QPushButton(this)),
+      loggedIn_(new QLabel(this)),
       manage_(new QPushButton(this)),
       languageLabel_(new QLabel(this)),
-      language_(new QComboBox(this)),
+      language_(new Combo(this)),
       midiLabel_(new QLabel(this)),
-      midi_(new FreshCombo(this, [this] { showMidiDevices(); })),
+      midi_(new Combo(this, [this] { showMidiDevices(); })),
+      locked_(new QLabel(this)),
       start_(new QPushButton(this)),
       description_(new QLabel(this)) {
     layOut();
@@ -55,8 +47,10 @@ StartPage::StartPage(Host& host, QWidget* parent)
     select(language_, host_.words().language());
     retranslate();
 
-    connect(user_, &QComboBox::activated, this,
-            [this] { host_.logIn(user_->currentData().toString()); });
+    connect(user_, &QComboBox::currentIndexChanged, this, &StartPage::showChoice);
+    connect(logIn_, &QPushButton::clicked, this,
+            [this] { logIn(user_->currentData().toString()); });
+    connect(logOut_, &QPushButton::clicked, this, [this] { logIn({}); });
     connect(language_, &QComboBox::activated, this,
             [this] { host_.chooseLanguage(language_->currentData().toString()); });
     connect(midi_, &QComboBox::activated, this,
@@ -87,14 +81,13 @@ void StartPage::layOut() {
     description_->setWordWrap(true);
     description_->setAlignment(Qt::AlignHCenter);
     description_->setForegroundRole(QPalette::PlaceholderText);
-    for (QComboBox* combo : {user_, language_, midi_}) {
-        combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        combo->setMinimumContentsLength(16);
-    }
-    for (QWidget* control : {static_cast<QWidget*>(user_), static_cast<QWidget*>(language_),
-                             static_cast<QWidget*>(midi_), static_cast<QWidget*>(manage_)})
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{user_, logIn_, logOut_, manage_, language_, midi_})
         control->setMinimumHeight(2 * fontMetrics().height());
+    for (QLabel* line : {loggedIn_, locked_}) {
+        line->setWordWrap(true);
+        line->setTextFormat(Qt::PlainText);
+    }
     userLabel_->setBuddy(user_);
     languageLabel_->setBuddy(language_);
     midiLabel_->setBuddy(midi_);
@@ -105,11 +98,15 @@ void StartPage::layOut() {
     choices->setColumnStretch(1, 1);
     choices->addWidget(userLabel_, 0, 0);
     choices->addWidget(user_, 0, 1);
-    choices->addWidget(manage_, 0, 2);
-    choices->addWidget(languageLabel_, 1, 0);
-    choices->addWidget(language_, 1, 1);
-    choices->addWidget(midiLabel_, 2, 0);
-    choices->addWidget(midi_, 2, 1);
+    choices->addWidget(logIn_, 0, 2);
+    choices->addWidget(logOut_, 0, 3);
+    choices->addWidget(loggedIn_, 1, 1);
+    choices->addWidget(manage_, 1, 2, 1, 2);
+    choices->addWidget(languageLabel_, 2, 0);
+    choices->addWidget(language_, 2, 1);
+    choices->addWidget(midiLabel_, 3, 0);
+    choices->addWidget(midi_, 3, 1);
+    choices->addWidget(locked_, 4, 0, 1, 4);
 
     auto* column = new QVBoxLayout;
     column->setSpacing(0);
@@ -134,7 +131,7 @@ void StartPage::layOut() {
     page->addStretch(1);
     page->addWidget(middle, 100);
     page->addStretch(1);
-    QWidget* order[] = {start_, user_, manage_, language_, midi_};
+    QWidget* order[] = {start_, user_, logIn_, logOut_, manage_, language_, midi_};
     for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -142,8 +139,12 @@ void StartPage::retranslate() {
     const Words& words = host_.words();
     subtitle_->setText(words.wort(wort::subtitle));
     userLabel_->setText(words.wort(wort::userLabel));
+    logIn_->setText(words.wort(wort::logIn));
+    logOut_->setText(words.wort(wort::logOut));
     manage_->setText(words.wort(wort::manageUsers));
-    manage_->setMinimumWidth(manage_->sizeHint().width() + fontMetrics().height());
+    for (QPushButton* button : {logIn_, logOut_, manage_})
+        button->setMinimumWidth(button->sizeHint().width() + fontMetrics().height() / 2);
+    locked_->setText(words.wort(wort::lockedNow));
     languageLabel_->setText(words.wort(wort::languageLabel));
     midiLabel_->setText(words.wort(wort::midiDeviceLabel));
     start_->setText(words.wort(wort::practiseScales));
@@ -157,12 +158,30 @@ void StartPage::retranslate() {
 
 void StartPage::showUsers() {
     host_.guarded([this] {
+        const QSignalBlocker silence(user_);
         user_->clear();
         user_->addItem(host_.words().wort(wort::nobody), QString());
         for (const User& user : host_.store().users.all())
             user_->addItem(QString("%1 (%2)").arg(user.fullName(), user.key), user.key);
         select(user_, host_.user() ? host_.userKey() : QString());
     });
+    const QString name = host_.user() ? host_.user()->fullName() : host_.words().wort(wort::nobody);
+    loggedIn_->setText(wrapped(host_.words().wort(wort::loggedIn).arg(name), longestName));
+    loggedIn_->setToolTip("<span>" + name.toHtmlEscaped() + "</span>");
+    showChoice();
+}
+
+void StartPage::showChoice() {
+    const QString chosen = user_->currentData().toString();
+    const bool locked = host_.isLocked();
+    logIn_->setEnabled(!locked && !chosen.isEmpty() && chosen != host_.userKey());
+    logOut_->setEnabled(!locked && host_.user());
+}
+
+/// The button that was pressed can no longer be used: the focus goes where it does no harm.
+void StartPage::logIn(const QString& key) {
+    user_->setFocus();
+    host_.logIn(key);
 }
 
 void StartPage::showMidiDevices() {
@@ -178,6 +197,15 @@ void StartPage::showMidiDevices() {
     select(midi_, chosen);
 }
 
-void StartPage::showModule() { start_->setEnabled(!host_.module().runs()); }
+void StartPage::showModule() {
+    const bool locked = host_.isLocked();
+    start_->setEnabled(!host_.module().runs());
+    const QString why = locked ? host_.words().wort(wort::lockedNow) : QString();
+    for (QWidget* control : std::initializer_list<QWidget*>{user_, logIn_, logOut_, language_})
+        control->setToolTip(why);
+    for (QWidget* control : {user_, language_}) control->setEnabled(!locked);
+    locked_->setVisible(locked);
+    showChoice();
+}
 
 }  // namespace melvora

@@ -1,18 +1,21 @@
 #pragma once
 #include <QAbstractTableModel>
 #include <QLabel>
+#include <QSortFilterProxyModel>
 #include <QStackedLayout>
 #include <QTableView>
 
 namespace melvora {
 
-/// Rows of texts under headings.
+/// Rows of texts under headings. A row may have keys, which decide in place of its texts how a
+/// column is sorted.
 class TextModel final : public QAbstractTableModel {
     Q_OBJECT
   public:
     using QAbstractTableModel::QAbstractTableModel;
+    static constexpr int sortRole = Qt::UserRole;
     void setHeadings(const QStringList& headings);
-    void setRows(const QList<QStringList>& rows);
+    void setRows(const QList<QStringList>& rows, const QList<QVariantList>& keys);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -22,9 +25,25 @@ class TextModel final : public QAbstractTableModel {
   private:
     QStringList headings_;
     QList<QStringList> rows_;
+    QList<QVariantList> keys_;
 };
 
-/// A table of texts whose rows can be chosen, and a line in its place while it is empty.
+/// The rows that contain each word of a text, in any case and column.
+class RowFilter final : public QSortFilterProxyModel {
+    Q_OBJECT
+  public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+    void setText(const QString& text);
+
+  protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+
+  private:
+    QStringList words_;
+};
+
+/// A table of texts whose rows can be chosen, and a line in its place while it is empty. Rows are
+/// numbered as they were set, however they are shown.
 class TextTable final : public QWidget {
     Q_OBJECT
   public:
@@ -32,7 +51,11 @@ class TextTable final : public QWidget {
     void setHeadings(const QStringList& headings) { model_->setHeadings(headings); }
     void setEmptyText(const QString& text) { empty_->setText(text); }
     /// Keeps the chosen row's number where it still exists.
-    void setRows(const QList<QStringList>& rows);
+    void setRows(const QList<QStringList>& rows, const QList<QVariantList>& keys = {});
+    /// Shows only the rows that contain each word of the text.
+    void setFilter(const QString& text);
+    /// From here on a click on a heading sorts by it: rising, falling, as set.
+    void makeSortable();
     /// Number of the chosen row, -1 when there is none.
     int row() const;
     void chooseRow(int row);
@@ -53,7 +76,13 @@ class TextTable final : public QWidget {
     /// The chosen row is pale while the keyboard is elsewhere.
     void showFocus(bool focused);
 
+    void showRows();
+    /// Gives each column the width of its texts; where they do not fit side by side, the widest are
+    /// cut.
+    void fitColumns();
+
     TextModel* model_;
+    RowFilter* shown_;
     QTableView* view_;
     QLabel* empty_;
     QStackedLayout* stack_;

@@ -20,6 +20,14 @@ bool canBeContinued(const QString& content) {
 
 }  // namespace
 
+Exercise exerciseOf(const QString& exercise) {
+    return {exercise.endsWith('b') ? Branch::Theory : Branch::Ear,
+            exercise.startsWith('4') ? Kind::Write : Kind::Identify,
+            exercise,
+            {},
+            {}};
+}
+
 QList<Training> Trainings::of(const QString& user) const {
     QList<Training> trainings;
     for (const QString exercise : exercises)

@@ -1,5 +1,6 @@
 #pragma once
 #include "melvora/database.h"
+#include "melvora/result_record.h"
 
 #include <QDateTime>
 #include <QList>
@@ -13,6 +14,9 @@ struct Training {
     QString exercise;  ///< what its two record keys end in, one of Trainings::exercises
     QDateTime saved;   ///< UTC; invalid when the time was not kept
 };
+
+/// What a training is about. @param exercise one of Trainings::exercises
+Exercise exerciseOf(const QString& exercise);
 
 /// The trainings among the records of the module zepha9. Each is two records: "E" and the exercise
 /// are its settings, "A" and the exercise its state. All operations throw StoreError.

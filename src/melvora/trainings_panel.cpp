@@ -2,6 +2,7 @@
 
 #include "core/wort.h"
 #include "melvora/confirm.h"
+#include "melvora/record_html.h"
 #include "melvora/wrapped.h"
 #include "suite/look.h"
 
@@ -80,23 +81,7 @@ void TrainingsPanel::remove() {
 }
 
 QString TrainingsPanel::exerciseName(const Training& training) const {
-    struct Row {
-        const char* exercise;
-        wort::Id branch, kind;
-    };
-    static constexpr Row rows[] = {
-        {"1", wort::earTraining, wort::identifyScales},
-        {"4", wort::earTraining, wort::writeScales},
-        {"1b", wort::musicTheory, wort::identifyScales},
-        {"4b", wort::musicTheory, wort::writeScales},
-    };
-    static_assert(std::size(rows) == std::size(Trainings::exercises));
-    const Words& words = host_.words();
-    for (const Row& row : rows)
-        if (training.exercise == row.exercise)
-            return words.wort(wort::branchAndType)
-                .arg(words.wort(row.branch), words.wort(row.kind));
-    return training.exercise;
+    return exerciseText(host_.words(), exerciseOf(training.exercise));
 }
 
 }  // namespace melvora

@@ -1,9 +1,11 @@
 #include "melvora/user_dialog.h"
 
 #include "core/wort.h"
+#include "melvora/look.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QShortcut>
 
 namespace melvora {
 
@@ -48,18 +50,23 @@ void UserDialog::layOut() {
     auto* buttons = new QDialogButtonBox(this);
     buttons->addButton(save_, QDialogButtonBox::AcceptRole);
     buttons->addButton(words.wort(wort::cancel), QDialogButtonBox::RejectRole);
+    auto* help = buttons->addButton(words.wort(wort::helpButton), QDialogButtonBox::HelpRole);
+    const auto openHelp = [this] { emit host_.helpWanted("melvora_users"); };
+    connect(help, &QPushButton::clicked, this, openHelp);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, openHelp);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* form = new QFormLayout(this);
     form->setContentsMargins(20, 20, 20, 16);
     form->setSpacing(10);
-    form->addRow(words.wort(wort::surname), surname_);
-    form->addRow(words.wort(wort::firstName), firstName_);
-    form->addRow(words.wort(wort::matriculation), matriculation_);
-    form->addRow(words.wort(wort::userKey), key_);
+    form->addRow(words.wort(wort::askSurname), surname_);
+    form->addRow(words.wort(wort::askFirstName), firstName_);
+    form->addRow(words.wort(wort::askMatriculation), matriculation_);
+    form->addRow(words.wort(wort::askUserKey), key_);
     form->addRow(complaint_);
     form->addRow(buttons);
+    darkenFrames(*this);
 }
 
 User UserDialog::user() const {

@@ -10,8 +10,12 @@ User userOf(const QSqlQuery& row) {
 }
 
 QString lettersOf(const QString& name) {
+    static const std::pair<QString, QString> spelled[] = {
+        {"ä", "ae"}, {"ö", "oe"}, {"ü", "ue"}, {"ß", "ss"}, {"æ", "ae"}, {"œ", "oe"}, {"ø", "oe"}};
+    QString lower = name.normalized(QString::NormalizationForm_C).toLower();
+    for (const auto& [sign, letters] : spelled) lower.replace(sign, letters);
     QString letters;
-    for (const QChar c : name.toLower().normalized(QString::NormalizationForm_KD))
+    for (const QChar c : lower.normalized(QString::NormalizationForm_KD))
         if (c.isLetterOrNumber()) letters += c;
     return letters;
 }

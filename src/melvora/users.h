@@ -34,7 +34,8 @@ class Users {
     void put(const User& user);
     /// Removes the user and the records kept for them; results stay.
     void remove(const QString& key);
-    /// A key that is free: made of the name's letters and digits, numbered when it is taken.
+    /// A key that is free: made of the name's letters, "ue" for "ü" and the like, and digits;
+    /// numbered when it is taken.
     QString proposeKey(const QString& surname, const QString& firstName) const;
 
   private:

@@ -22,7 +22,10 @@ UsersPage::UsersPage(Host& host, QWidget* parent)
       remove_(new QPushButton(this)),
       logIn_(new QPushButton(this)),
       logOut_(new QPushButton(this)),
+      locked_(new QLabel(this)),
       trainings_(new TrainingsPanel(host, this)) {
+    table_->makeSortable();
+    locked_->setWordWrap(true);
     auto* buttons = new QVBoxLayout;
     for (QPushButton* button : {add_, edit_, remove_}) buttons->addWidget(button);
     buttons->addSpacing(16);
@@ -36,6 +39,7 @@ UsersPage::UsersPage(Host& host, QWidget* parent)
     layout->setContentsMargins(suite::pageMargins);
     layout->setSpacing(16);
     layout->addLayout(users, 1);
+    layout->addWidget(locked_);
     layout->addWidget(trainings_);
     connect(add_, &QPushButton::clicked, this, &UsersPage::add);
     connect(edit_, &QPushButton::clicked, this, &UsersPage::edit);
@@ -46,6 +50,8 @@ UsersPage::UsersPage(Host& host, QWidget* parent)
     connect(table_, &TextTable::opened, this, &UsersPage::logIn);
     connect(table_, &TextTable::deletionWanted, this, &UsersPage::remove);
     connect(&host_, &Host::usersChanged, this, &UsersPage::showUsers);
+    connect(&host_, &Host::moduleStarted, this, &UsersPage::showChosen);
+    connect(&host_, &Host::moduleEnded, this, &UsersPage::showChosen);
     // A module that stores is answered first.
     later_.setSingleShot(true);
     connect(&later_, &QTimer::timeout, this, &UsersPage::showUsers);
@@ -63,7 +69,8 @@ void UsersPage::showEvent(QShowEvent* event) {
 void UsersPage::retranslate() {
     const Words& words = host_.words();
     table_->setHeadings({words.wort(wort::surname), words.wort(wort::firstName),
-                         words.wort(wort::matriculation), words.wort(wort::userKey)});
+                         words.wort(wort::matriculation), words.wort(wort::userKey),
+                         words.wort(wort::loggedInHeading)});
     table_->setEmptyText(words.wort(wort::noUsers));
     table_->view()->setAccessibleName(words.wort(wort::usersPage));
     add_->setText(words.wort(wort::addUser));
@@ -71,6 +78,7 @@ void UsersPage::retranslate() {
     remove_->setText(words.wort(wort::deleteUser));
     logIn_->setText(words.wort(wort::logIn));
     logOut_->setText(words.wort(wort::logOut));
+    locked_->setText(words.wort(wort::lockedNow));
     trainings_->retranslate();
     QPushButton* const column[] = {add_, edit_, remove_, logIn_, logOut_, trainings_->button()};
     int width = 0;
@@ -87,9 +95,9 @@ void UsersPage::showUsers() {
         QList<QStringList> rows;
         for (const User& user : users_)
             rows.append(user.key == nobody
-                            ? QStringList{nameOf(user), {}, {}, shownKey(user.key)}
+                            ? QStringList{nameOf(user), {}, {}, shownKey(user.key), {}}
                             : QStringList{user.surname, user.firstName, user.matriculation,
-                                          user.key + (user.key == host_.userKey() ? "  ✓" : "")});
+                                          user.key, user.key == host_.userKey() ? "✓" : ""});
         table_->setRows(rows);
         choose(before);
     });
@@ -100,9 +108,13 @@ void UsersPage::showChosen() {
     const User* user = chosen();
     const bool isPerson = user && user->key != nobody;
     edit_->setEnabled(isPerson);
-    remove_->setEnabled(isPerson);
-    logIn_->setEnabled(isPerson && user->key != host_.userKey());
-    logOut_->setEnabled(host_.user().has_value());
+    const bool locked = host_.isLocked(), isLoggedIn = isPerson && user->key == host_.userKey();
+    remove_->setEnabled(isPerson && !(locked && isLoggedIn));
+    logIn_->setEnabled(isPerson && !isLoggedIn && !locked);
+    logOut_->setEnabled(host_.user() && !locked);
+    const QString why = locked ? host_.words().wort(wort::lockedNow) : QString();
+    for (QPushButton* button : {remove_, logIn_, logOut_}) button->setToolTip(why);
+    locked_->setVisible(locked);
     trainings_->setVisible(user);
     if (user) trainings_->showUser(user->key, nameOf(*user));
 }
@@ -128,7 +140,7 @@ void UsersPage::add() {
     const User user = dialog.user();
     host_.putUser(user);
     host_.inTurn([this, key = user.key] {
-        if (!host_.user()) host_.logIn(key);
+        if (!host_.user() && !host_.isLocked()) host_.logIn(key);
     });
     choose(user.key);
 }
@@ -149,7 +161,7 @@ void UsersPage::remove() {
 }
 
 void UsersPage::logIn() {
-    if (const User* user = chosen()) host_.logIn(user->key);
+    if (const User* user = chosen(); user && user->key != nobody) host_.logIn(user->key);
 }
 
 }  // namespace melvora

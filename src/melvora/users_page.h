@@ -16,6 +16,7 @@ class UsersPage final : public Page {
   public:
     explicit UsersPage(Host& host, QWidget* parent = nullptr);
     void retranslate() override;
+    QString helpPage() const override { return "melvora_users"; }
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -40,6 +41,7 @@ class UsersPage final : public Page {
     QPushButton* remove_;
     QPushButton* logIn_;
     QPushButton* logOut_;
+    QLabel* locked_;
     TrainingsPanel* trainings_;
     QTimer later_;
 };

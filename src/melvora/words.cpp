@@ -6,6 +6,12 @@
 
 namespace melvora {
 
+namespace {
+
+QByteArray idOf(core::wort::Id word) { return QByteArray::number(static_cast<int>(word)) + "s"; }
+
+}  // namespace
+
 Words::Words(const QString& folder) : languages_(suite::languagesIn(folder)) {
     if (languages_.empty())
         throw std::runtime_error("no language file (*.qm) in " + folder.toStdString());
@@ -34,20 +40,26 @@ bool Words::choose(const QString& language) {
 }
 
 QString Words::wort(core::wort::Id word) const {
-    const QByteArray id = QByteArray::number(static_cast<int>(word)) + "s";
-    const QString text = languages_[chosen_].text(id);
+    const QString text = languages_[chosen_].text(idOf(word));
     return text.isEmpty() ? QString("VOID") : text;
 }
 
-QString Words::moment(const QDateTime& moment) const {
+QString Words::today(const QString& text, std::initializer_list<core::wort::Id> words) const {
+    for (const core::wort::Id word : words)
+        for (const suite::Language& language : languages_)
+            if (text == language.text(idOf(word))) return wort(word);
+    return text;
+}
+
+QString Words::moment(const QDateTime& moment, Precision precision) const {
     if (!moment.isValid()) return "–";
     // The system knows the country, and the user's own format; without it, English is British.
-    const QString& suffix = languages_[chosen_].suffix;
-    const QLocale standard(suffix == "en" ? QString("en_GB") : suffix);
+    const QLocale standard(suffix() == "en" ? QString("en_GB") : suffix());
     const QLocale system = QLocale::system();
     const QLocale& locale = system.language() == standard.language() ? system : standard;
     QString format = locale.dateTimeFormat(QLocale::ShortFormat);
     if (!format.contains("yyyy")) format.replace("yy", "yyyy");
+    if (precision == Precision::Seconds) format.replace("mm", "mm:ss");
     return locale.toString(moment.toLocalTime(), format);
 }
 

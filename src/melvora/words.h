@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <initializer_list>
 #include <stdexcept>
 #include <vector>
 
@@ -26,9 +27,15 @@ class Words {
 
     /// The text; "VOID" when the language lacks it.
     QString wort(core::wort::Id word) const;
+    /// A text of any installed language, in the language in force, when it is one of those words;
+    /// else as it is.
+    QString today(const QString& text, std::initializer_list<core::wort::Id> words) const;
+    /// Suffix of the language in force, for example "de".
+    const QString& suffix() const { return languages_[chosen_].suffix; }
     /// Local date and time in the language's short format, the year in full; a dash for an invalid
     /// moment.
-    QString moment(const QDateTime& moment) const;
+    enum class Precision { Minutes, Seconds };
+    QString moment(const QDateTime& moment, Precision precision = Precision::Minutes) const;
 
   private:
     const std::vector<suite::Language> languages_;

@@ -4,8 +4,8 @@
 #include "base/whole_file.h"
 #include "core/zustand.h"
 #include "form/controls.h"
+#include "settingsfile/settings_file.h"
 #include "setup/groups.h"
-#include "setup/wohlgeformt.h"
 
 #include <pugixml.hpp>
 
@@ -19,8 +19,6 @@ namespace setup {
 namespace {
 
 constexpr const char* modul = "VESHNA";
-/// A file with every group marked has less than 4 KB.
-constexpr std::size_t groesste = 1 << 19;
 
 /// A choice that a file can hold: its control, or the options of this name.
 struct FileChoice {
@@ -219,7 +217,8 @@ void EinstellungenSchreiben(const std::string& pfad, const std::string& text) {
 Einstellungssatz EinstellungenLesenAus(const std::string& bytes) {
     Einstellungssatz satz;
     pugi::xml_document dokument;
-    if (!wohlgeformt(bytes) || !dokument.load_buffer(bytes.data(), bytes.size())) return {};
+    if (settingsfile::faultyLine(bytes) || !dokument.load_buffer(bytes.data(), bytes.size()))
+        return {};
     try {
         for (const pugi::xml_node kind : dokument.document_element().first_child())
             if (kind.type() == pugi::node_element)
@@ -236,7 +235,7 @@ Einstellungssatz EinstellungenLesenAus(const std::string& bytes) {
 
 Einstellungssatz EinstellungenLesen(const std::string& pfad) {
     try {
-        return EinstellungenLesenAus(base::readWhole(pfad, groesste));
+        return EinstellungenLesenAus(base::readWhole(pfad, settingsfile::largest));
     } catch (const std::exception&) {
         return {};
     }

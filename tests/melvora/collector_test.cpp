@@ -58,13 +58,58 @@ TEST_F(CollectorTest, TakesARecordWhenItIsWholeOnceAndClearsItAway) {
     ASSERT_EQ(results.size(), 1);
     EXPECT_EQ(results[0].started, QDateTime({2026, 11, 21}, {12, 0, 0}));
     EXPECT_EQ(results[0].user, "jörg");
-    EXPECT_EQ(results[0].exercise, "bestimmen");
+    const Exercise& about = results[0].exercise;
+    EXPECT_EQ(about.name, "bestimmen");
+    EXPECT_EQ(about.kind, Kind::Identify);
+    EXPECT_EQ(about.branch, Branch::Unknown) << "the settings do not say";
     EXPECT_EQ(results[0].rightFirst, 1);
     EXPECT_EQ(results[0].answered, 2);
     EXPECT_EQ(store_.results.text(results[0].id), QString::fromUtf8(record));
     put("RSX261121120000.xml", QByteArray(record).replace("dorisch", "lydisch"));
     EXPECT_EQ(collect().taken, 1) << "another run of the same second";
     EXPECT_EQ(store_.results.all().size(), 2);
+}
+
+/// What a record does not say by itself is told by what was set and how it was answered.
+TEST_F(CollectorTest, WhatWasPractisedIsDerivedAlsoForResultsOfOlderVersions) {
+    const QByteArray settings = R"(<settings><setting key="Übungsmodus" value="Test"/>
+  <setting key="Klangfarbe" value="Violin"/><setting key="Skalentyp" value="Church modes"/></settings>)";
+    const QByteArray sounding = QByteArray(record).replace(
+        record.indexOf("<settings>"),
+        record.indexOf("</settings>") + 11 - record.indexOf("<settings>"), settings);
+    const QByteArray seen =
+        QByteArray(sounding).replace(R"(<setting key="Klangfarbe" value="Violin"/>)", "");
+    const QByteArray written =
+        QByteArray(seen)
+            .replace(R"(<property key="Skala" value="Dur"/>)",
+                     R"(<property key="FalschSkala" value="3"/>)")
+            .replace(R"(<answer lfd="2">)", R"(<answer lfd="2"><property key="Skala" value="1"/>)");
+    const QByteArray untouched =
+        "<exercise><properties programm='ZEPHA9' exercise='write'/></exercise>";
+    const QByteArray texts[] = {sounding, seen, written, untouched};
+    for (qsizetype i = 0; i < std::ssize(texts); ++i)
+        put(QString("RSX26112112000%1.xml").arg(i), texts[i]);
+    ASSERT_EQ(collect().taken, std::ssize(texts));
+    for (const char* reading : {"as taken", "as an older version left it"}) {
+        SCOPED_TRACE(reading);
+        const auto results = store_.results.all();  // newest first
+        const std::pair<Branch, Kind> expected[] = {{Branch::Unknown, Kind::Unknown},
+                                                    {Branch::Theory, Kind::Write},
+                                                    {Branch::Theory, Kind::Identify},
+                                                    {Branch::Ear, Kind::Identify}};
+        ASSERT_EQ(results.size(), std::ssize(expected));
+        for (qsizetype i = 0; i < results.size(); ++i) {
+            const Exercise& about = results[i].exercise;
+            EXPECT_EQ(std::pair(about.branch, about.kind), expected[i]) << i;
+            EXPECT_EQ(about.mode, i == 0 ? "" : "Test");
+            EXPECT_EQ(about.scaleType, i == 0 ? "" : "Church modes");
+        }
+        store_.database.run(
+            "UPDATE results SET branch = '', kind = '', mode = '', scale_type = ''");
+    }
+    const auto named = parseResultRecord(written);
+    ASSERT_TRUE(named);
+    for (const auto& answer : named->lessons[0].answers) EXPECT_EQ(answer.scale, "");
 }
 
 TEST_F(CollectorTest, KeepsWhatIsNoRecordAndTellsOfItOnce) {

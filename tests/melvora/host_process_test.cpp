@@ -271,7 +271,10 @@ TEST_F(HostProcess, AnotherUserIsNotServed) {
 
 TEST_F(HostProcess, ASecondHostHandsItsModuleOrFileOn) {
     const QString path = folder_.filePath("Übung 1%2.mvs");
-    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("<test><basic><type>1</type></basic></test>");
+    file.close();
     const QString fromHere = QDir::current().relativeFilePath(path);
     start({fromHere, "--teacher"}, "vanish");
     const QString withFile = "started as zepha9.exe --teacher --settings " + path;

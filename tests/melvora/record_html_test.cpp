@@ -26,7 +26,7 @@ TEST(RecordHtml, ReadsTheLabelsOfTheSettingsInTheLanguageOfTheReader) {
         for (const char* other : {"", "Tempo ", "Nr", "a%1"}) EXPECT_EQ(shown(other), other);
         ResultRecord record;
         record.settings = {{"Ska-Richtung", "W132"}, {"<b>", "x"}};
-        const QString html = recordHtml(words, record);
+        const QString html = recordHtml(words, record, {}, "x");
         EXPECT_TRUE(html.contains(shown("Ska-Richtung").c_str()));
         EXPECT_TRUE(html.contains("&lt;b&gt;"));
     }

@@ -71,7 +71,8 @@ TEST_F(StoreTest, AProposedKeyIsFreeAndAllowed) {
     const User expected[] = {
         {"jdoe", "Doe", "Jane", ""},
         {"jdoe2", "Doe", "Jörg", ""},
-        {"amullerlu", "Müller-Lü", "Änne", ""},
+        {"amuellerlue", "Müller-Lü", "Änne", ""},
+        {"estrassenoe", "Straßenø", "Édith", ""},
         {"user", "", "", ""},
         {"ubekannt", "Bekannt", "Un", ""},
         {"unbekannt2", "unbekannt", "", ""},
