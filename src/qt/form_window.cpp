@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QStyle>
 
+#include <algorithm>
 #include <optional>
 
 namespace qt {
@@ -39,7 +40,8 @@ std::optional<form::Key> keyOf(int key) {
 
 }  // namespace
 
-FormWindow::FormWindow(form::Form& form) : form_(form), keys_(*this), binder_(form, *this, keys_) {
+FormWindow::FormWindow(form::Form& form, std::optional<QPoint>& middle)
+    : form_(form), middle_(middle), keys_(*this), binder_(form, *this, keys_) {
     setObjectName(QString::fromStdString(form.name()));
     changed_ = form.changed.connect([this] { follow(); });
     qApp->installEventFilter(this);
@@ -68,10 +70,19 @@ void FormWindow::follow() {
 void FormWindow::open() {
     if (!opened_) {
         if (beforeOpening) beforeOpening();
-        const QRect screen = QApplication::primaryScreen()->availableGeometry();
+        if (const QWidget* active = QApplication::activeWindow())
+            middle_ = active->geometry().center();
+        QScreen* there = middle_ ? QApplication::screenAt(*middle_) : nullptr;
+        const QRect screen = (there ? there : QApplication::primaryScreen())->availableGeometry();
         const QSize wanted = (opening_ * suite::scale()).expandedTo(minimumSizeHint());
         const QSize size = wanted.boundedTo(screen.size() - QSize(16, 40));
-        setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, screen));
+        QRect place = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, screen);
+        if (there) place.moveCenter(*middle_);
+        place.moveRight(std::min(place.right(), screen.right()));
+        place.moveBottom(std::min(place.bottom(), screen.bottom()));
+        place.moveLeft(std::max(place.left(), screen.left()));
+        place.moveTop(std::max(place.top(), screen.top()));
+        setGeometry(place);
         opened_ = true;
     }
     show();
@@ -88,6 +99,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 /// What nobody sees needs no pixels: for a big window they are megabytes.
 void FormWindow::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
+    if (!event->spontaneous()) middle_ = geometry().center();
     if (QBackingStore* pixels = backingStore(); pixels && !event->spontaneous())
         pixels->resize({1, 1});
 }

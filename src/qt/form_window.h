@@ -4,12 +4,16 @@
 
 #include <QWidget>
 
+#include <optional>
+
 namespace qt {
 
 /// The window of a form: shown and hidden with it, its keys and close box told to it.
 class FormWindow final : public QWidget {
   public:
-    explicit FormWindow(form::Form& form);
+    /// @param middle of the window that was hidden last: there a window opens first. Every window
+    /// that is hidden puts its own.
+    FormWindow(form::Form& form, std::optional<QPoint>& middle);
     ~FormWindow() override;
 
     Binder& binder() { return binder_; }
@@ -33,6 +37,7 @@ class FormWindow final : public QWidget {
     bool keyPressed(QWidget& widget, int pressed);
 
     form::Form& form_;
+    std::optional<QPoint>& middle_;
     WindowKeys keys_;
     Binder binder_;
     form::Connection changed_;

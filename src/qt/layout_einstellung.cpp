@@ -137,8 +137,10 @@ void layoutEinstellung(FormWindow& window) {
     rows->setSpacing(suite::gap);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(suite::margin);
+    rows->addLayout(columns);
+    // Below, where the form has room: what is pointed at stays where it is.
     rows->addWidget(chosenScales(bind, groups));
-    rows->addLayout(columns, 1);
+    rows->addStretch(1);
     const auto column = [&] {
         auto* layout = new QVBoxLayout;
         layout->setSpacing(suite::gap);
@@ -196,7 +198,7 @@ void layoutEinstellung(FormWindow& window) {
     window.keys().setSteps({ok});
     page->addWidget(box);
     bind("popPruefung");
-    window.openWith({960, 600});
+    window.openWith({980, 690});
 }
 
 }  // namespace qt

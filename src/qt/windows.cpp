@@ -28,7 +28,7 @@ Windows::Windows(form::Forms& forms) {
         const auto* layout =
             std::ranges::find(layouts, std::string_view(form.name()), &Layout::form);
         if (layout == layouts.end()) return;
-        auto window = std::unique_ptr<FormWindow, Later>(new FormWindow(form));
+        auto window = std::unique_ptr<FormWindow, Later>(new FormWindow(form, middle_));
         layout->build(*window);
         windows_[&form] = std::move(window);
     });

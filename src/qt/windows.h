@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace qt {
 
@@ -19,6 +20,7 @@ class Windows {
     struct Later {
         void operator()(FormWindow* window) const { window->deleteLater(); }
     };
+    std::optional<QPoint> middle_;  ///< of the window that was hidden last
     std::map<const form::Form*, std::unique_ptr<FormWindow, Later>> windows_;
     form::Connection made_, gone_;
 };

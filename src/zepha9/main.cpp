@@ -12,6 +12,7 @@
 #include "setup/einstellungsdatei.h"
 #include "suite/application.h"
 #include "suite/fonts_ahead.h"
+#include "suite/icon.h"
 #include "suite/look.h"
 #include "zepha9/lazy_output.h"
 
@@ -120,6 +121,13 @@ int main(int argc, char** argv) {
         return {program->Wort(core::wort::ok), program->Wort(core::wort::yes),
                 program->Wort(core::wort::no)};
     };
+    help.texts = [program]() -> suite::HelpWindow::Texts {
+        const auto word = [program](core::wort::Id id) {
+            return QString::fromStdString(program->Wort(id));
+        };
+        return {word(core::wort::helpIndex), word(core::wort::helpBack), word(core::wort::helpFind),
+                word(core::wort::helpFindNext), word(core::wort::helpNotFound)};
+    };
     application.uncaught = [program](const std::exception& fault) { endWith(*program, fault); };
     qt::Windows windows(drill.programm.forms);
     shown = &windows;
@@ -131,5 +139,10 @@ int main(int argc, char** argv) {
     } catch (const std::exception& fault) {
         endWith(*program, fault);
     }
+    // After the first window was painted: it need not wait for this.
+    loop.post([] {
+        QApplication::setWindowIcon(suite::icon());
+        QGuiApplication::setDesktopFileName(QStringLiteral("melvora"));
+    });
     return QApplication::exec();
 }
