@@ -518,5 +518,9 @@
 <message id="1322s"><translation>Wählt, was im letzten Durchgang dieser Übung gewählt war.</translation></message>
 <message id="1323s"><translation>Wählt drei Kirchentonarten, aufwärts und von derselben Finalis aus.</translation></message>
 <message id="1324s"><translation>Die Verbindung zu Melvora ist abgebrochen; Ergebnisse werden nicht übernommen. Starten Sie Melvora neu.</translation></message>
+<message id="1325s"><translation>Einzelne Skalen hält eine Datei nicht fest: die Lernenden wählen sie selbst, wenn „nach Wahl“ vorgegeben ist, die Skalen-Auswahl aber nicht.</translation></message>
+<message id="1326s"><translation>Datei wählen</translation></message>
+<message id="1327s"><translation>Rechtsklick oder Menütaste auf einer Gruppe: vorgeben oder freigeben</translation></message>
+<message id="1328s"><translation>Von der Lehrkraft vorgegeben: %1</translation></message>
 </context>
 </TS>

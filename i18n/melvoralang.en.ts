@@ -518,5 +518,9 @@
 <message id="1322s"><translation>Chooses what was chosen in the last run of this exercise.</translation></message>
 <message id="1323s"><translation>Chooses three church modes, upward and from the same final.</translation></message>
 <message id="1324s"><translation>The connection to Melvora is lost; results will not be taken in. Start Melvora again.</translation></message>
+<message id="1325s"><translation>A file cannot hold single scales: learners pick them, where “selected” is prescribed but the scale selection is not.</translation></message>
+<message id="1326s"><translation>Choose file</translation></message>
+<message id="1327s"><translation>Right click or menu key on a group: prescribe or release it</translation></message>
+<message id="1328s"><translation>Set by your teacher: %1</translation></message>
 </context>
 </TS>

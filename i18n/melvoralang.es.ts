@@ -518,5 +518,9 @@
 <message id="1322s"><translation>Elige lo que estaba elegido en la última pasada de este ejercicio.</translation></message>
 <message id="1323s"><translation>Elige tres modos eclesiásticos, ascendentes y desde la misma finalis.</translation></message>
 <message id="1324s"><translation>Se ha perdido la conexión con Melvora; los resultados no se guardarán. Inicie Melvora de nuevo.</translation></message>
+<message id="1325s"><translation>Un archivo no guarda escalas sueltas: el alumno las elige si se fija «seleccionadas», pero no la selección de escalas.</translation></message>
+<message id="1326s"><translation>Elegir archivo</translation></message>
+<message id="1327s"><translation>Clic derecho o tecla Menú en un grupo: fijarlo o liberarlo</translation></message>
+<message id="1328s"><translation>Fijado por el profesor: %1</translation></message>
 </context>
 </TS>

@@ -518,5 +518,9 @@
 <message id="1322s"><translation>Choisit ce qui était choisi lors du dernier passage de cet exercice.</translation></message>
 <message id="1323s"><translation>Choisit trois modes ecclésiastiques, ascendants et sur la même finale.</translation></message>
 <message id="1324s"><translation>La connexion avec Melvora est interrompue ; les résultats ne seront pas enregistrés. Redémarrez Melvora.</translation></message>
+<message id="1325s"><translation>Un fichier ne retient pas de gammes isolées : l’élève les choisit si « au choix » est imposé, mais pas la sélection des gammes.</translation></message>
+<message id="1326s"><translation>Choisir un fichier</translation></message>
+<message id="1327s"><translation>Clic droit ou touche Menu sur un groupe : l’imposer ou le libérer</translation></message>
+<message id="1328s"><translation>Fixé par l’enseignant : %1</translation></message>
 </context>
 </TS>

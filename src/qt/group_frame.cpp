@@ -10,6 +10,14 @@ namespace qt {
 
 void GroupFrame::setColour(const QColor& colour) {
     colour_ = colour;
+    if (colour.isValid()) {
+        // What is locked can still be read.
+        QPalette letters = palette();
+        for (const auto role : {QPalette::WindowText, QPalette::Text})
+            letters.setColor(QPalette::Disabled, role,
+                             suite::readable(letters.color(QPalette::Disabled, role), colour));
+        setPalette(letters);
+    }
     update();
 }
 

@@ -25,12 +25,16 @@ void build(FormWindow& window, const char* field, const char* label) {
     pair(label, 0, 0, 1);
     pair("lblDesc", 1, 1, 2);
     grid->addWidget(bind("cmdSave"), 0, 2);
+    auto* limits = static_cast<QLabel*>(bind("limits"));
+    limits->setWordWrap(true);
+    suite::quiet(*limits);
+    grid->addWidget(limits, 2, 0, 1, 3);
     grid->setRowStretch(2, 1);
     QWidget* ok = bind("cmdOK");
     suite::leadingButton(*ok);
     grid->addWidget(ok, 3, 1, 1, 2, Qt::AlignRight);
     grid->setColumnStretch(1, 1);
-    window.openWith({560, 170});
+    window.openWith({560, 210});
 }
 
 }  // namespace

@@ -174,6 +174,10 @@ void layoutEinstellung(FormWindow& window) {
     if (bind.has("lb14", 0)) soundGroup(bind, groups, run);
     run->addStretch();
 
+    auto* note = static_cast<QLabel*>(bind("fileNote"));
+    note->setWordWrap(true);
+    suite::font(*note, 1, QFont::Bold);
+    page->insertWidget(0, note);
     auto* hint = static_cast<QLabel*>(bind("tonHinweis"));
     hint->setWordWrap(true);
     suite::colours(*hint, suite::warning);

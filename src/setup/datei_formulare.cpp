@@ -27,9 +27,13 @@ DateiFormular::DateiFormular(core::Programm& programm, const std::string& name,
       pfadLabel_(*this, {label}),
       txt_(*this, feld, 2, nullptr, form::TextBox::Size::Line) {
     setCaption(Wort(titelWort));
-    beschriften({{pfadLabel_, pfadWort}, {beschreibung, wort::fileDescription}, {cmdOK, wort::ok}});
+    beschriften({{pfadLabel_, pfadWort},
+                 {beschreibung, wort::fileDescription},
+                 {limits, wort::fileLimits},
+                 {cmdOK, wort::ok}});
+    limits.visible = titelWort == wort::saveFormTitle;
     cmdSave.caption = "...";
-    cmdSave.accessibleName = Wort(titelWort);
+    cmdSave.accessibleName = Wort(wort::chooseFile);
     txt(0).accessibleName = Wort(pfadWort);
     txt(1).accessibleName = Wort(wort::fileDescription);
     cmdSave.onClick = {"cmdSave_click.", [this] { cmdSave_click(); }};

@@ -28,6 +28,8 @@ class DateiFormular : public core::Formular {
     form::Label pfadLabel_;
     form::ControlArray<form::TextBox> txt_;
     form::Label beschreibung{*this, {"lblDesc"}};
+    /// What a file cannot hold.
+    form::Label limits{*this, {"limits"}};
     form::Button cmdSave{*this, {"cmdSave"}};
     form::Button cmdOK{*this, {"cmdOK"}};
 };

@@ -15,11 +15,14 @@ SettingsFiles::SettingsFiles(core::Formular& form, core::Programm& programm, con
                              form::Group& aktionsbox, Zweig zweig)
     : form_(form),
       p(programm),
+      fileNote(form, {"fileNote"}),
       cmdOptionRead(form, {"cmdOptionRead", &aktionsbox}),
       cmdOptionSave(form, {"cmdOptionSave", &aktionsbox}),
       popPruefung(form, {"popPruefung"}),
       popExamToggle(form, {"popExamToggle", &popPruefung}) {
     const bool dateien = p.aufruf.pruefEdit && klingt(zweig);
+    fileNote.visible = dateien;
+    fileNote.caption = p.Wort(wort::howToMark);
     cmdOptionRead.visible = dateien;
     cmdOptionSave.visible = dateien;
     form.beschriften({{cmdOptionRead, wort::readSettings},
@@ -91,6 +94,11 @@ void SettingsFiles::StartdateiAnwenden() {
             throw base::RuntimeError(base::ErrorNumber::PathAccess,
                                      core::eingesetzt(p.Wort(wort::notASettingsFile), pfad));
         EinstellungenAnwenden(form_, satz);
+        const auto description = satz.kopf.find("description");
+        fileNote.caption =
+            core::eingesetzt(p.Wort(wort::setByTeacher),
+                             description == satz.kopf.end() ? std::string() : description->second);
+        fileNote.visible = true;
     });
 }
 

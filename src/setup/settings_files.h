@@ -27,6 +27,9 @@ class SettingsFiles {
     core::Programm& p;
     form::Group* popGruppe_ = nullptr;  ///< of the last right-click
 
+    /// How groups are marked, for those who write files; what a file prescribes, for those who use
+    /// it.
+    form::Label fileNote;
     form::Button cmdOptionRead;
     form::Button cmdOptionSave;
     form::Menu popPruefung;
