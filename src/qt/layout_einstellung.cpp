@@ -6,8 +6,11 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
+
+#include <array>
 
 namespace qt {
 
@@ -187,7 +190,9 @@ void layoutEinstellung(FormWindow& window) {
     auto* actions = new QHBoxLayout(box);
     actions->setContentsMargins(0, 0, 0, 0);
     actions->addWidget(bind("cmdHilfe"));
-    for (const char* preset : {"asLastTime", "forBeginners"}) actions->addWidget(bind(preset));
+    const std::array presets{static_cast<QPushButton*>(bind("asLastTime")),
+                             static_cast<QPushButton*>(bind("forBeginners"))};
+    for (QPushButton* preset : presets) actions->addWidget(preset);
     actions->addWidget(bind("cmdOptionRead"));
     actions->addWidget(bind("cmdOptionSave"));
     actions->addStretch();
@@ -200,6 +205,9 @@ void layoutEinstellung(FormWindow& window) {
     suite::font(*ok, 1, QFont::Bold);
     actions->addWidget(ok);
     window.keys().setSteps({ok});
+    // What was filled is looked at, and begun.
+    for (QPushButton* preset : presets)
+        QObject::connect(preset, &QPushButton::clicked, ok, [ok] { ok->setFocus(); });
     page->addWidget(box);
     bind("popPruefung");
     window.openWith({980, 690});
