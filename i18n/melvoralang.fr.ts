@@ -516,7 +516,7 @@
 <message id="1320s"><translation>Comme la dernière fois</translation></message>
 <message id="1321s"><translation>Pour débuter</translation></message>
 <message id="1322s"><translation>Choisit ce qui était choisi lors du dernier passage de cet exercice.</translation></message>
-<message id="1323s"><translation>Choisit trois modes ecclésiastiques, ascendants et sur la même finale.</translation></message>
+<message id="1323s"><translation>Choisit trois modes d’église, ascendants et sur la même finale.</translation></message>
 <message id="1324s"><translation>La connexion avec Melvora est interrompue ; les résultats ne seront pas enregistrés. Redémarrez Melvora.</translation></message>
 <message id="1325s"><translation>Un fichier ne retient pas de gammes isolées : l’élève les choisit si « au choix » est imposé, mais pas la sélection des gammes.</translation></message>
 <message id="1326s"><translation>Choisir un fichier</translation></message>
