@@ -1,15 +1,16 @@
 #include "melvora/combo.h"
 
+#include "suite/wheel.h"
+
 #include <QHelpEvent>
 #include <QStyleOptionComboBox>
 #include <QToolTip>
-#include <QWheelEvent>
 
 namespace melvora {
 
 Combo::Combo(QWidget* parent, std::function<void()> refresh)
     : QComboBox(parent), refresh_(std::move(refresh)) {
-    setFocusPolicy(Qt::StrongFocus);
+    suite::wheelNeedsFocus(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(16);
@@ -18,13 +19,6 @@ Combo::Combo(QWidget* parent, std::function<void()> refresh)
 void Combo::showPopup() {
     if (refresh_) refresh_();
     QComboBox::showPopup();
-}
-
-void Combo::wheelEvent(QWheelEvent* event) {
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
 }
 
 void Combo::initStyleOption(QStyleOptionComboBox* option) const {

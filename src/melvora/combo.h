@@ -14,7 +14,6 @@ class Combo final : public QComboBox {
     void showPopup() override;
 
   protected:
-    void wheelEvent(QWheelEvent* event) override;
     void initStyleOption(QStyleOptionComboBox* option) const override;
     bool event(QEvent* event) override;
 

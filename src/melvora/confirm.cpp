@@ -1,7 +1,7 @@
 #include "melvora/confirm.h"
 
 #include "core/wort.h"
-#include "melvora/look.h"
+#include "suite/look.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -13,7 +13,7 @@ bool confirmsDeletion(QWidget* parent, const Words& words, const QString& questi
     box.setTextFormat(Qt::PlainText);
     auto* yes = box.addButton(words.wort(core::wort::confirmDelete), QMessageBox::DestructiveRole);
     box.setDefaultButton(box.addButton(words.wort(core::wort::cancel), QMessageBox::RejectRole));
-    darkenFrames(box);
+    suite::darkenFrames(box);
     box.exec();
     return box.clickedButton() == yes;
 }

@@ -1,6 +1,5 @@
 #include "hostlink/dbus_host.h"
 #include "hostlink/host_address.h"
-#include "melvora/look.h"
 #include "melvora/main_window.h"
 #include "melvora/options.h"
 #include "melvora/server.h"
@@ -10,6 +9,7 @@
 #include "suite/application.h"
 #include "suite/fonts_ahead.h"
 #include "suite/icon.h"
+#include "suite/look.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -167,7 +167,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName("Melvora");
     QApplication::setDesktopFileName("melvora");
     QApplication::setQuitOnLastWindowClosed(false);
-    applyLook();
+    suite::apply();
     try {
         return run(parseOptions(QApplication::arguments()), application);
     } catch (const std::exception& error) {

@@ -2,10 +2,10 @@
 
 #include "core/wort.h"
 #include "melvora/log_page.h"
-#include "melvora/look.h"
 #include "melvora/results_page.h"
 #include "melvora/start_page.h"
 #include "melvora/users_page.h"
+#include "suite/look.h"
 #include "suite/window_place.h"
 
 #include <QApplication>
@@ -33,7 +33,7 @@ MainWindow::MainWindow(Host& host)
       quitEntry_(new QAction(this)) {
     setWindowTitle("Melvora");
     layOut();
-    darkenFrames(*this);
+    suite::darkenFrames(*this);
     retranslate();
     fill(Start);
     pages_[Start]->setFocus();
@@ -99,7 +99,7 @@ void MainWindow::openLog() {
         logWindow_ = std::make_unique<QMainWindow>();
         log_ = new LogPage(host_, logWindow_.get());
         logWindow_->setCentralWidget(log_);
-        darkenFrames(*logWindow_);
+        suite::darkenFrames(*logWindow_);
         logWindow_->setWindowTitle(log_->windowTitle());
         logWindow_->resize(size());
         rememberPlace(logWindow_.get(), "window.log");
@@ -118,7 +118,6 @@ void MainWindow::openHelp(const QString& page) {
     if (!helpWindow_) {
         takePages();
         helpWindow_ = std::make_unique<suite::HelpWindow>();
-        darkenFrames(*helpWindow_);
         helpWindow_->setLanguage(host_.words().suffix(), helpTexts());
         rememberPlace(helpWindow_.get(), "window.help");
     }
@@ -199,7 +198,7 @@ void MainWindow::fill(int tab) {
     Page*& page = pages_[static_cast<std::size_t>(tab)];
     if (page) return;
     page = makePage(static_cast<Tab>(tab));
-    darkenFrames(*page);
+    suite::darkenFrames(*page);
     tabs_->widget(tab)->layout()->addWidget(page);
     page->show();
 }

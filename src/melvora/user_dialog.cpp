@@ -1,7 +1,7 @@
 #include "melvora/user_dialog.h"
 
 #include "core/wort.h"
-#include "melvora/look.h"
+#include "suite/look.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -66,7 +66,7 @@ void UserDialog::layOut() {
     form->addRow(words.wort(wort::askUserKey), key_);
     form->addRow(complaint_);
     form->addRow(buttons);
-    darkenFrames(*this);
+    suite::darkenFrames(*this);
 }
 
 User UserDialog::user() const {

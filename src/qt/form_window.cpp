@@ -70,6 +70,7 @@ void FormWindow::follow() {
 void FormWindow::open() {
     if (!opened_) {
         if (beforeOpening) beforeOpening();
+        suite::darkenFrames(*this);
         if (const QWidget* active = QApplication::activeWindow())
             middle_ = active->geometry().center();
         QScreen* there = middle_ ? QApplication::screenAt(*middle_) : nullptr;

@@ -28,6 +28,7 @@ HelpWindow::HelpWindow()
       told_(new QLabel) {
     setObjectName(QStringLiteral("help"));
     layOut();
+    darkenFrames(*this);
     resize(700, 640);
     connect(contents_, &QPushButton::clicked, this, [this] { load(start); });
     connect(back_, &QPushButton::clicked, browser_, &QTextBrowser::backward);

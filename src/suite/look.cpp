@@ -1,10 +1,18 @@
 #include "suite/look.h"
 
+#include "suite/accessible_combo.h"
+
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QPushButton>
 #include <QScreen>
 #include <QStyleOption>
+#include <QTableView>
+#include <QTextEdit>
 
 #include <algorithm>
 #include <cmath>
@@ -45,7 +53,9 @@ void apply() {
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(0x66, 0x69, 0x6E));
+    palette.setColor(QPalette::PlaceholderText, muted);
     QApplication::setPalette(palette);
+    nameCombos();
     QFont font = QApplication::font();
     font.setPointSizeF(std::max(10.0, font.pointSizeF()) * scale());
     QApplication::setFont(font);
@@ -110,6 +120,20 @@ void leadingButton(QWidget& button) {
 void quiet(QWidget& label) {
     font(label, 0.9);
     colours(label, muted);
+}
+
+void darkenFrames(QWidget& window) {
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const bool framed = qobject_cast<QComboBox*>(widget) || qobject_cast<QLineEdit*>(widget) ||
+                            qobject_cast<QPushButton*>(widget) ||
+                            qobject_cast<QCheckBox*>(widget) || qobject_cast<QTableView*>(widget) ||
+                            qobject_cast<QTextEdit*>(widget);
+        if (!framed) continue;
+        // The style draws a frame somewhat darker than the window that it takes to be around it.
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::Window, QColor(0xB0, 0xAE, 0xA8));
+        widget->setPalette(palette);
+    }
 }
 
 }  // namespace suite

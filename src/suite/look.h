@@ -19,8 +19,10 @@ inline constexpr int radius = 6;
 inline constexpr QMargins pageMargins{margin, margin, margin, margin};
 inline constexpr QMargins dialogMargins{18, 16, 18, 14};
 
-/// Gives the application, which must be there, this look.
+/// Gives the application, which must be there, this look; lists to choose from get names.
 void apply();
+/// Gives all that can be used in a window a frame that contrasts at least 3 to 1.
+void darkenFrames(QWidget& window);
 /// How much larger than on a small screen everything is: 1 to 1.4, by the screen's height.
 double scale();
 /// Scales the widget's font and sets its weight.

@@ -1,4 +1,4 @@
-#include "melvora/look.h"
+#include "suite/look.h"
 
 #include <QApplication>
 
@@ -8,6 +8,6 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
-    melvora::applyLook();
+    suite::apply();
     return RUN_ALL_TESTS();
 }
