@@ -51,6 +51,7 @@ QWidget* resultBox(Binder& bind) {
     auto* box = new QWidget;
     box->setAutoFillBackground(true);
     box->setMinimumHeight(84);
+    box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     auto* inside = new QGridLayout(box);
     inside->setContentsMargins(suite::gap, 4, suite::gap, suite::gap);
     inside->setSpacing(0);

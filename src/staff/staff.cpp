@@ -49,6 +49,7 @@ void Staff::NotenzeileAufbauen(i16 tonAnz, const Range& range, std::optional<i16
     for (const int s : {0, 1})
         PicB(s).bounds = Rect{0, staffTop.at(static_cast<std::size_t>(s)), width, staffHeight};
     limits_[SchlZ_] = limitsOn(SchlZ_, range);
+    PicBNot.backColour = withSignature_ ? base::colours::white : base::colours::grey;
     PicBNot.clear();
     if (!withSignature_) SpaltenZiffern();  // columns that are written in
     NotenlinienMalen(SchlZ_);
