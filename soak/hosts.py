@@ -375,6 +375,14 @@ class Screen:
         if window:
             self.tool("key", "--delay", "30", *keys)
 
+    def answer(self):
+        """Gives a box that is open the answer that is not its own proposal."""
+        window = self.top()[0]
+        place = self.tool("getwindowgeometry", "--shell", window) if window else ""
+        height = [int(line[7:]) for line in (place or "").splitlines() if line.startswith("HEIGHT=")]
+        if height and height[0] < 250:
+            self.keys("Tab", "Return")
+
     def click(self, x, y):
         if window := self.top()[0]:
             self.tool("mousemove", "--window", window, x, y, "click", "1")
@@ -488,6 +496,7 @@ class Run:
         if self.driven:
             def leaves():
                 self.worker.screen.keys("Escape")
+                self.worker.screen.answer()
                 return self.ended()
             if not until(leaves, LAST, 0.4):
                 self.fault(f"does not end; shows {self.worker.screen.top()[1]!r}")

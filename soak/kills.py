@@ -287,7 +287,7 @@ class Night:
             self.writer.beside = True
             if not until(lambda: not children(self.host.pid), GONE, 0.003):
                 self.fault("the killed module is not waited for")
-            if not until(lambda: reader.rows(told, f"%zepha9%-{status}%", last), GONE, 0.003):
+            if not until(lambda: reader.rows(told, f"%-{status}%", last), GONE, 0.003):
                 self.fault(f"nothing tells that the module ended with {-status}: "
                            + reader.log()[-300:])
         self.check(module_gone=True)

@@ -148,7 +148,7 @@ class Episode {
         while (goesOn() && user.done() < actions) {
             step();
             host_.gone = host_.gone || (host_.weather.goneFor && user.done() >= goes);
-            if (oncePer(chance_, 3000) && output_.problemChanged) output_.problemChanged();
+            if (oncePer(chance_, 3000)) output_.problemChanged();
         }
         ++tally.reached["episodes"];
         if (oncePer(chance_, 20)) return;  // the process is killed

@@ -36,7 +36,7 @@ void tryRecord(const QByteArray& bytes) {
     law(!record->program.isNull() && record->rightFirst() <= record->answered() &&
             record->answered() <= record->lessons.size(),
         "counts");
-    expectPage(*record, melvora::recordHtml(words, *record));
+    expectPage(*record, melvora::recordHtml(words, *record, {}, {}));
 }
 
 }  // namespace

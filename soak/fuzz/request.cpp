@@ -77,8 +77,8 @@ bool startsModule(const QString& key, const Value& argument) {
     const std::string module = argument.isArray() ? argument.at(0).text() : argument.text();
     const QString file = QString::fromStdString(argument.at(1).text());
     return key == "RAISE" && melvora::ModuleProcess::known().contains(QString(module.c_str())) &&
-           (file.isEmpty() || settingsfile::look(file.toStdString()).trouble ==
-                                settingsfile::Trouble::None);
+           (file.isEmpty() ||
+            settingsfile::look(file.toStdString()).trouble == settingsfile::Trouble::None);
 }
 
 /// Whether the host leaves the result alone.

@@ -16,7 +16,7 @@ WatchedOutput::WatchedOutput(std::unique_ptr<sound::MidiOutput> real, Machine& m
       real_(std::move(real)) {
     ++laws_.outputs;
     real_->queueEmpty = [this] { ended(); };
-    real_->problemChanged = [this] { changed(); };
+    told_ = real_->problemChanged.connect([this] { changed(); });
 }
 
 WatchedOutput::~WatchedOutput() {
@@ -86,7 +86,7 @@ void WatchedOutput::changed() {
     toldProblem_ = real_->problem();
     ++laws_.problems;
     if (toldProblem_ == sound::SoundProblem::DeviceLost) ++laws_.losses;
-    if (problemChanged) problemChanged();
+    problemChanged();
 }
 
 void WatchedOutput::cut() {

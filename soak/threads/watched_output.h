@@ -58,6 +58,7 @@ class WatchedOutput final : public sound::MidiOutput {
     Pace pace_;
     std::thread::id thread_ = std::this_thread::get_id();
     std::unique_ptr<sound::MidiOutput> real_;
+    form::Connection told_;
     std::optional<Clock::time_point> due_;
     int length_ = 0;  ///< of the queue, in milliseconds
     bool onPort_ = false;

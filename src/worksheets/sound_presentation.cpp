@@ -34,7 +34,6 @@ SoundPresentation::SoundPresentation(Worksheet& worksheet, core::Programm& progr
       soundHint(worksheet, {"soundHint", &area}),
       spieltimer(worksheet, {"spieltimer"}, 1000) {
     volume.onChange = {"volume_change.", [this] { midi_.setVelocity(volume.value()); }};
-    problemTold_ = midi.output().problemChanged.connect([this] { showProblem(); });
     wieder.onClick = {"wieder_click.", [this] { wieder_click(); }};
     wieder2.onClick = {"wieder2_click.", [this] { playReview(nullptr); }};
     spieltimer.onTick = {"spieltimer_timer.", [this] { spieltimer_timer(); }};
@@ -71,6 +70,7 @@ void SoundPresentation::beginTask() {
     wieder.visible = true;
     wieder.enabled = false;
     spielArt_ = Playback::Task;
+    showProblem();
 }
 
 void SoundPresentation::FeinVerstimmen() {
@@ -120,6 +120,7 @@ void SoundPresentation::AufgabeSpielen(const Version* ownNotes) {
 void SoundPresentation::spieltimer_timer() {
     spieltimer.stop();
     playMark.flow = {};
+    showProblem();
     if (worksheet_.abbruch()) return;
     if (spielArt_ == Playback::Review) {
         allowReview(true);

@@ -63,7 +63,6 @@ class SoundPresentation final {
     i16 feinVerstimmung_;  ///< detune of the task in bend steps, -15..15
     i16 feinVorzeichen_ = 1;
 
-    form::Connection problemTold_;
     std::function<Version()> version_;
     form::Panel wieder, wieder2;
     std::unique_ptr<form::Panel> eigene;

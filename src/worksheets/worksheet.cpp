@@ -366,8 +366,8 @@ void Worksheet::unloading() {
 /// The key and the close box that leave do not end a test or an exam by mistake.
 void Worksheet::breakOff() {
     const bool asks = core::isTest(z) && begun_ && !run_.ended();
-    if (asks &&
-        !p.ports.dialogs.confirm(p.katalog.typ_name[z.ueb_typ], Wort(wort::breakOffQuestion)))
+    if (asks && !p.ports.dialogs.confirm(p.katalog.modus_name[z.uebungsmodus],
+                                         Wort(wort::breakOffQuestion)))
         return;
     zurueck.click();
 }
