@@ -53,10 +53,11 @@ void Presets::offer() {
 
 void Presets::keep() const {
     core::Value::Array kept;
-    for (const char* name : ahead)
-        kept.push_back(form_.find(name) || name == std::string_view("abfolge")
-                           ? std::to_string(chosen(form_, z, name))
-                           : "");
+    for (const char* name : ahead) {
+        const bool offered = form_.find(name) || name == std::string_view("abfolge");
+        const int choice = offered ? chosen(form_, z, name) : -1;
+        kept.push_back(choice < 0 ? "" : std::to_string(choice));
+    }
     for (core::Value& choice : saved_.WahlMerken()) kept.push_back(std::move(choice));
     p.host.HostMerken(record(), kept);
 }
