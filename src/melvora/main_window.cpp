@@ -66,7 +66,8 @@ MainWindow::MainWindow(Host& host)
     });
 }
 
-MainWindow::~MainWindow() = default;
+/// Its place is kept while all of it is there.
+MainWindow::~MainWindow() { hide(); }
 
 void MainWindow::layOut() {
     auto* menu = new QMenu(more_);
