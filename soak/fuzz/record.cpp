@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -14,7 +15,9 @@ namespace {
 
 /// Rows that a page of this record has.
 qsizetype rowsOf(const melvora::ResultRecord& record) {
-    return 4 + record.settings.size() + (record.lessons.isEmpty() ? 0 : 1 + record.lessons.size());
+    qsizetype rows = 5 + record.settings.size() + (record.lessons.isEmpty() ? 0 : 1);
+    for (const auto& lesson : record.lessons) rows += std::max<qsizetype>(1, lesson.answers.size());
+    return rows;
 }
 
 /// What a page is made of: our tags, and letters of which none is special.

@@ -47,6 +47,7 @@ void tryTraining(std::string_view text) {
     for (const Value& fault : host.faults)
         law(fault.at(0).text() == "zepha9.start_timer.arbeitsblatt" + exercise,
             "only a start may fail");
+    host.records.erase(keyOf('L', exercise));  // the choices, kept when a run begins
     if (!host.faults.empty()) law(!kept && host.records == before, "what is refused stays");
     if (!kept) return;
     const Value& saved = host.records.at(keyOf('A', exercise));
