@@ -23,6 +23,7 @@ template <class... Args>
 class Signal {
   public:
     Connection connect(std::function<void(Args...)> listener) {
+        forgetTheGone();
         auto held = std::make_shared<Listener>(std::move(listener));
         listeners_.push_back(held);
         return Connection(held);
@@ -37,13 +38,19 @@ class Signal {
 
   private:
     using Listener = std::function<void(Args...)>;
+
+    void forgetTheGone() {
+        if (telling_ == 0)
+            std::erase_if(listeners_, [](const auto& weak) { return weak.expired(); });
+    }
+
     /// While listeners are told, also one inside the other, none changes its place.
     class Telling {
       public:
         explicit Telling(Signal& signal) : signal_(signal) { ++signal_.telling_; }
         ~Telling() {
-            if (--signal_.telling_ == 0)
-                std::erase_if(signal_.listeners_, [](const auto& weak) { return weak.expired(); });
+            --signal_.telling_;
+            signal_.forgetTheGone();
         }
         Telling(const Telling&) = delete;
         Telling& operator=(const Telling&) = delete;

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QSqlRecord>
+#include <QThread>
 #include <QUuid>
 
 #include <sys/stat.h>
@@ -73,12 +74,24 @@ Database::Database(const QString& folder)
     // The database gives its permissions to the files that it keeps beside it.
     if (QFile file(path_); file.open(QIODevice::ReadWrite)) closeToOthers(path_);
     identity_ = identity();
+    QElapsedTimer since;
+    since.start();
+    while (!prepared(since)) QThread::msleep(20);
+}
+
+/// False when another program prepares the same database: what it holds then it gives back soon,
+/// but the database does not wait for that by itself.
+bool Database::prepared(const QElapsedTimer& since) {
     try {
         open();
         checkSchema();
         makeTables();
+        return true;
+    } catch (const StoreBusy&) {
+        QSqlDatabase::removeDatabase(name_);
+        if (since.hasExpired(patience_.count())) throw;
+        return false;
     } catch (...) {
-        statements_.clear();
         QSqlDatabase::removeDatabase(name_);
         throw;
     }

@@ -1,4 +1,5 @@
 #pragma once
+#include <QElapsedTimer>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -32,7 +33,8 @@ class Database {
     using Row = std::function<void(const QSqlQuery&)>;
 
     /// Opens the SQLite file in `folder`, makes both when they are missing, and the tables with
-    /// them. Tables of an older version get the columns that they lack.
+    /// them. Tables of an older version get the columns that they lack. Of several programs that
+    /// open the same new file at once, one waits for the other.
     /// @throws StoreError
     explicit Database(const QString& folder);
     ~Database();
@@ -53,6 +55,7 @@ class Database {
   private:
     friend class Transaction;
 
+    bool prepared(const QElapsedTimer& since);
     void open();
     void openAgainToWrite();
     void checkSchema();

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <thread>
+
 namespace melvora {
 namespace {
 
@@ -44,6 +47,21 @@ TEST_F(StoreTest, ADatabaseThatIsNotTheOneItWasIsToldBeforeItCounts) {
     QFile::remove(path);
     Store(folder_.path()).database.run("PRAGMA user_version = 2");
     EXPECT_THROW(Store(folder_.path()), StoreError) << "of a newer program";
+}
+
+TEST_F(StoreTest, OfManyThatMakeANewDatabaseAtOnceNoneFails) {
+    for (int round = 0; round < 10; ++round) {
+        const QString folder = folder_.filePath(QString::number(round));
+        std::atomic<int> waiting = 4;
+        std::vector<std::jthread> programs;
+        for (int program = 0; program < 4; ++program)
+            programs.emplace_back([&] {
+                for (--waiting; waiting > 0;) std::this_thread::yield();
+                EXPECT_NO_THROW(Store(folder).log.write(LogKind::Message, nobody, "x"));
+            });
+        programs.clear();
+        EXPECT_EQ(Store(folder).log.lines({}).size(), 4);
+    }
 }
 
 TEST_F(StoreTest, AListThatBreaksOffInTheMiddleIsNoShorterList) {
