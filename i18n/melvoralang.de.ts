@@ -522,5 +522,6 @@
 <message id="1326s"><translation>Datei wählen</translation></message>
 <message id="1327s"><translation>Rechtsklick oder Menütaste auf einer Gruppe: vorgeben oder freigeben</translation></message>
 <message id="1328s"><translation>Von der Lehrkraft vorgegeben: %1</translation></message>
+<message id="1329s"><translation>Es kommen alle Skalen vor; diese Auswahl zählt nicht.</translation></message>
 </context>
 </TS>

@@ -522,5 +522,6 @@
 <message id="1326s"><translation>Choose file</translation></message>
 <message id="1327s"><translation>Right click or menu key on a group: prescribe or release it</translation></message>
 <message id="1328s"><translation>Set by your teacher: %1</translation></message>
+<message id="1329s"><translation>All scales occur; this choice does not count.</translation></message>
 </context>
 </TS>

@@ -522,5 +522,6 @@
 <message id="1326s"><translation>Elegir archivo</translation></message>
 <message id="1327s"><translation>Clic derecho o tecla Menú en un grupo: fijarlo o liberarlo</translation></message>
 <message id="1328s"><translation>Fijado por el profesor: %1</translation></message>
+<message id="1329s"><translation>Aparecen todas las escalas; esta selección no cuenta.</translation></message>
 </context>
 </TS>

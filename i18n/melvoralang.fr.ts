@@ -522,5 +522,6 @@
 <message id="1326s"><translation>Choisir un fichier</translation></message>
 <message id="1327s"><translation>Clic droit ou touche Menu sur un groupe : l’imposer ou le libérer</translation></message>
 <message id="1328s"><translation>Fixé par l’enseignant : %1</translation></message>
+<message id="1329s"><translation>Toutes les gammes apparaissent ; ce choix ne compte pas.</translation></message>
 </context>
 </TS>

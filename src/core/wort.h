@@ -147,6 +147,7 @@ enum class Id : int {
     availableList = 140,           // Auswählen
     selectedList = 135,            // Ausgewählt
     chosenCount = 817,             // %1 gewählt (höchstens 15)
+    choiceDoesNotCount = 1329,     // Es kommen alle Skalen vor; diese Auswahl …
     atLeast2 = 396,                // mindestens 2 !!
     atLeast2PerDirection = 397,    // mindestens 2 pro Richtung !!
     atLeast3 = 398,                // mindestens 3 !!

@@ -72,7 +72,8 @@ void StartPage::layOut() {
     start_->setDefault(true);
     start_->setAutoDefault(true);
     QPalette accent = palette();
-    accent.setColor(QPalette::Button, accent.color(QPalette::Highlight));
+    // The style lightens what is to be pressed; the letters are white.
+    accent.setColor(QPalette::Button, accent.color(QPalette::Highlight).darker(125));
     accent.setColor(QPalette::ButtonText, accent.color(QPalette::HighlightedText));
     accent.setColor(QPalette::Disabled, QPalette::Button, palette().color(QPalette::Button));
     accent.setColor(QPalette::Disabled, QPalette::ButtonText,

@@ -44,6 +44,21 @@ QWidget* pictureAnswer(Binder& bind, int i, std::vector<QWidget*>& buttons) {
     return card;
 }
 
+/// The answers in two columns, two pictures one above the other: they are wide.
+void arrange(QGridLayout& grid, const std::vector<QHBoxLayout*>& lines, bool inOneColumn) {
+    for (QHBoxLayout* line : lines) {
+        grid.removeItem(line);
+        line->setParent(nullptr);
+    }
+    for (int i = 0; i < answers; ++i) {
+        QHBoxLayout* line = lines[static_cast<std::size_t>(i)];
+        if (inOneColumn)
+            grid.addLayout(line, i, 0, 1, 2);
+        else
+            grid.addLayout(line, i / 2, i % 2);
+    }
+}
+
 QWidget* answerArea(Binder& bind, std::vector<QWidget*>& buttons) {
     QWidget* area = bind("PicArb2");
     auto* column = new QVBoxLayout(area);
@@ -54,8 +69,9 @@ QWidget* answerArea(Binder& bind, std::vector<QWidget*>& buttons) {
     column->addWidget(heading);
     auto* grid = new QGridLayout;
     grid->setSpacing(suite::gap);
+    std::vector<QHBoxLayout*> lines;
     for (int i = 0; i < answers; ++i) {
-        auto* line = new QHBoxLayout;
+        auto* line = lines.emplace_back(new QHBoxLayout);
         line->setSpacing(2);
         line->addWidget(digit(bind, i));
         line->addWidget(pictureAnswer(bind, i, buttons), 1);
@@ -66,8 +82,15 @@ QWidget* answerArea(Binder& bind, std::vector<QWidget*>& buttons) {
         name->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         suite::font(*name, 1.15);
         line->addWidget(name, 1);
-        grid->addLayout(line, i / 2, i % 2);
     }
+    const auto& third = bind.control<form::Panel>("skal_pan", 2);
+    const auto& second = bind.control<form::Panel>("skal_pan", 1);
+    const auto follow = [grid, lines, &second, &third](form::Aspect aspect) {
+        if (aspect == form::Aspect::Visible)
+            arrange(*grid, lines, second.visible() && !third.visible());
+    };
+    for (const int i : {1, 2}) bind.follow(bind.control<form::Panel>("skal_pan", i), follow);
+    follow(form::Aspect::Visible);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     column->addLayout(grid, 3);

@@ -93,8 +93,8 @@ StaffWidget::StaffWidget(Canvas& canvas, QWidget* parent) : QWidget(parent), can
     setAcceptDrops(!held_.empty());
     if (canvas.onKey) setFocusPolicy(Qt::StrongFocus);
     if (canvas.dragPicture) setCursor(Qt::OpenHandCursor);
-    setSizePolicy(held_.empty() ? QSizePolicy::Fixed : QSizePolicy::Expanding,
-                  held_.empty() ? QSizePolicy::Fixed : QSizePolicy::Expanding);
+    const auto policy = held_.empty() ? QSizePolicy::Maximum : QSizePolicy::Expanding;
+    setSizePolicy(policy, policy);
 }
 
 void StaffWidget::canvasChanged(form::Aspect aspect) {
@@ -109,18 +109,26 @@ void StaffWidget::canvasChanged(form::Aspect aspect) {
 
 QSize StaffWidget::sizeHint() const {
     const Rect& place = canvas_.bounds();
-    return (QSizeF(place.width, place.height) * suite::scale()).toSize();
+    return (QSizeF(place.width, place.height) * askedScale_).toSize();
 }
 
 QSize StaffWidget::minimumSizeHint() const {
     return {canvas_.bounds().width, canvas_.bounds().height};
 }
 
-double StaffWidget::scale() const {
+void StaffWidget::askForScale(double scale) {
+    if (scale == askedScale_) return;
+    askedScale_ = scale;
+    updateGeometry();
+}
+
+double StaffWidget::scale() const { return scaleIn(size()); }
+
+double StaffWidget::scaleIn(QSizeF room) const {
     const Rect& place = canvas_.bounds();
     if (place.width == 0) return 1;
     const double fit =
-        std::min({width() / double(place.width), height() / double(place.height), largestScale});
+        std::min({room.width() / place.width, room.height() / place.height, largestScale});
     return staffScale(fit, devicePixelRatioF());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 #include "form/signal.h"
 #include "staff/canvas.h"
+#include "suite/look.h"
 
 #include <QPixmap>
 #include <QWidget>
@@ -21,6 +22,10 @@ class StaffWidget final : public QWidget {
     bool takesEnter() const { return canvas_.takesEnter && canvas_.takesEnter(); }
     /// Logical pixels of the screen to one of the canvas.
     double scale() const;
+    /// The same where the canvas has that much room.
+    double scaleIn(QSizeF room) const;
+    /// Asks for room to show the canvas at this scale, rather than at that of the texts.
+    void askForScale(double scale);
     /// Where a point of a canvas shown here lies in this widget.
     QPointF placeOf(const staff::Canvas& canvas, QPointF point) const;
 
@@ -60,6 +65,7 @@ class StaffWidget final : public QWidget {
     std::vector<staff::Canvas*> held_;
     std::vector<form::Connection> connections_;
     QPixmap drawn_;
+    double askedScale_ = suite::scale();
     staff::Rect size_;
     QPoint pressed_;
     staff::Canvas* entered_ = nullptr;

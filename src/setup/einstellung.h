@@ -70,7 +70,7 @@ class Einstellung final : public core::Formular {
     SoundPanel sound_;
     SavedChoice saved_{*this, p, scales_, zweig_};
     ModeChoice mode_{*this, p, zweig_, groups_, sound_, saved_};
-    Presets presets_{*this, p, scales_, saved_, aktionsbox, zweig_};
+    Presets presets_{*this, p, scales_, saved_, aktionsbox};
     SettingsFiles files_{*this, p, groups_, aktionsbox, zweig_};
 
     form::Combo skal_typ_cmb{*this, {"skal_typ_cmb", &groups_(group::category)}};

@@ -25,13 +25,12 @@ constexpr std::array beginnersScales{1, 3, 6};  // Ionian, Phrygian, Aeolian, up
 }  // namespace
 
 Presets::Presets(core::Formular& form, core::Programm& programm, ScaleChoice& scales,
-                 const SavedChoice& saved, form::Group& actions, Zweig zweig)
+                 const SavedChoice& saved, form::Group& actions)
     : form_(form),
       p(programm),
       z(programm.zustand),
       scales_(scales),
       saved_(saved),
-      zweig_(zweig),
       asLastTime(form, {"asLastTime", &actions}),
       forBeginners(form, {"forBeginners", &actions}) {
     asLastTime.onClick = {"asLastTime_click.", [this] { chooseLast(); }};

@@ -10,7 +10,7 @@ class Presets {
   public:
     /// @param actions holds the two buttons.
     Presets(core::Formular& form, core::Programm& programm, ScaleChoice& scales,
-            const SavedChoice& saved, form::Group& actions, Zweig zweig);
+            const SavedChoice& saved, form::Group& actions);
 
     /// Offers what there is. Nothing where a file of settings prescribes the choices.
     void offer();
@@ -27,7 +27,6 @@ class Presets {
     core::Zustand& z;
     ScaleChoice& scales_;
     const SavedChoice& saved_;
-    Zweig zweig_;
 
     form::Button asLastTime;
     form::Button forBeginners;

@@ -30,6 +30,9 @@ ScaleChoice::ScaleChoice(core::Formular& form, core::Programm& programm, form::G
     AuswahlStandZeigen();
 
     connect(ska_ausw, z, [this] { ska_ausw_click(); });
+    auswahlGesperrt_ = vorkommen.changed.connect([this](form::Aspect aspect) {
+        if (aspect == form::Aspect::Enabled) AuswahlStandZeigen();
+    });
     // An exam stores "all" over lists that stay open.
     ska_ausw(1).store = [this] {
         const bool nochOffen = z.ska_ausw == 0 && einzeln_.visible();
@@ -58,6 +61,7 @@ void ScaleChoice::AuswahlWiederaufnehmen() {
 void ScaleChoice::AuswahlZeigen() {
     const bool zeigen = z.ska_ausw != 0;
     einzeln_.visible = zeigen;
+    AuswahlStandZeigen();
     onShown(zeigen);
 }
 
@@ -93,10 +97,12 @@ void ScaleChoice::writeHint(int flag) {
 }
 
 void ScaleChoice::AuswahlStandZeigen() {
-    wahlStand.caption =
-        core::eingesetzt(p.Wort(wort::chosenCount), std::to_string(lst_ska1.count()));
+    const int anzahl = lst_ska1.count();
+    wahlStand.caption = z.ska_ausw == 0
+                            ? p.Wort(wort::choiceDoesNotCount)
+                            : core::eingesetzt(p.Wort(wort::chosenCount), std::to_string(anzahl));
     wahlStand.foreColour =
-        lst_ska1.count() > wahlPlaetze ? base::colours::red : base::colours::black;
+        z.ska_ausw != 0 && anzahl > wahlPlaetze ? base::colours::red : base::colours::black;
 }
 
 std::vector<std::string> ScaleChoice::chosen() const {

@@ -55,6 +55,7 @@ class ScaleChoice {
     form::Group& einzeln_;
     Skalen zurWahl_{};  ///< those that the lists were filled with
     form::Connection listeGeaendert_;
+    form::Connection auswahlGesperrt_;
 
     form::ControlArray<form::Option> ska_ausw;
     form::ControlArray<form::Group> kl_rahmen;
@@ -62,7 +63,7 @@ class ScaleChoice {
     form::ListBox lst_ska1;
     /// The hint, and the headings of the lists.
     form::ControlArray<form::Label> lb10;
-    /// How many of the places are taken.
+    /// How many of the places are taken, or that the choice does not count.
     form::Label wahlStand;
 };
 

@@ -2,13 +2,12 @@
 
 #include "suite/accessible_combo.h"
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPainter>
 #include <QProxyStyle>
-#include <QPushButton>
 #include <QScreen>
 #include <QStyleOption>
 #include <QTableView>
@@ -20,6 +19,15 @@
 namespace suite {
 
 namespace {
+
+const QColor disabledText{0x5A, 0x5D, 0x62};
+
+/// What the style draws a frame around, somewhat darker than the window that it takes to be there.
+bool isFramed(const QWidget& widget) {
+    return qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
+           qobject_cast<const QAbstractButton*>(&widget) ||
+           qobject_cast<const QTableView*>(&widget) || qobject_cast<const QTextEdit*>(&widget);
+}
 
 /// The list of a combo opens below it and scrolls, as many rows high as the combo says; the line
 /// between its parts, which is a tool bar's to the toolkit, can be seen.
@@ -52,7 +60,7 @@ void apply() {
     palette.setColor(QPalette::Highlight, accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(0x66, 0x69, 0x6E));
+        palette.setColor(QPalette::Disabled, role, disabledText);
     palette.setColor(QPalette::PlaceholderText, muted);
     QApplication::setPalette(palette);
     nameCombos();
@@ -84,7 +92,8 @@ double contrast(const QColor& one, const QColor& other) {
 }
 
 QColor readable(QColor letters, const QColor& ground) {
-    return luminance(ground) < 0.3 ? letters : darkened(letters, ground, 4.5);
+    constexpr double onAShade = 5;  // the style shades what is to be pressed
+    return luminance(ground) < 0.3 ? letters : darkened(letters, ground, onAShade);
 }
 
 QColor edge(QColor area) { return darkened(area, page, 3); }
@@ -106,9 +115,13 @@ void colours(QWidget& widget, const QColor& letters, const QColor& background) {
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
         for (const auto group : {QPalette::Active, QPalette::Inactive})
             palette.setColor(group, role, letters);
-    if (background.isValid())
-        for (const auto role : {QPalette::Window, QPalette::Button, QPalette::Base})
+    if (background.isValid()) {
+        for (const auto role : {QPalette::Button, QPalette::Base})
             palette.setColor(role, background);
+        if (!isFramed(widget)) palette.setColor(QPalette::Window, background);
+        for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+            palette.setColor(QPalette::Disabled, role, readable(disabledText, background));
+    }
     widget.setPalette(palette);
 }
 
@@ -124,12 +137,7 @@ void quiet(QWidget& label) {
 
 void darkenFrames(QWidget& window) {
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-        const bool framed = qobject_cast<QComboBox*>(widget) || qobject_cast<QLineEdit*>(widget) ||
-                            qobject_cast<QPushButton*>(widget) ||
-                            qobject_cast<QCheckBox*>(widget) || qobject_cast<QTableView*>(widget) ||
-                            qobject_cast<QTextEdit*>(widget);
-        if (!framed) continue;
-        // The style draws a frame somewhat darker than the window that it takes to be around it.
+        if (!isFramed(*widget)) continue;
         QPalette palette = widget->palette();
         palette.setColor(QPalette::Window, QColor(0xB0, 0xAE, 0xA8));
         widget->setPalette(palette);

@@ -54,6 +54,7 @@ TEST_F(StoreTest, OfManyThatMakeANewDatabaseAtOnceNoneFails) {
         const QString folder = folder_.filePath(QString::number(round));
         std::atomic<int> waiting = 4;
         std::vector<std::jthread> programs;
+        programs.reserve(4);
         for (int program = 0; program < 4; ++program)
             programs.emplace_back([&] {
                 for (--waiting; waiting > 0;) std::this_thread::yield();

@@ -4,7 +4,7 @@
 #include "melvora/requests.h"
 #include "melvora/user_dialog.h"
 #include "suite/help_window.h"
-#include "suite/look.h"
+#include "support/painted.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -138,48 +138,6 @@ void expectMnemonics(const QWidget& window) {
         if (button->isVisible() && !button->text().isEmpty()) take(button->text());
     for (const auto* label : window.findChildren<QLabel*>())
         if (label->isVisible() && label->buddy()) take(label->text());
-}
-
-double lightness(const QColor& colour) {
-    const auto part = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
-           0.0722 * part(colour.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const auto [dark, light] = std::minmax({lightness(a), lightness(b)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
-/// Greatest contrast that is painted along a line from outside a widget into it.
-double frameContrast(QWidget& window, const QWidget& widget) {
-    const QImage image = window.grab().toImage();
-    const QPoint edge = widget.mapTo(&window, QPoint(0, widget.height() / 2));
-    double greatest = 1;
-    for (int x = std::max(0, edge.x() - 1); x < edge.x() + 4; ++x)
-        greatest = std::max(greatest, contrast(image.pixelColor(x, edge.y()), suite::page));
-    return greatest;
-}
-
-void expectContrast(QWidget& window) {
-    for (const auto* label : window.findChildren<QLabel*>()) {
-        if (!label->isVisible() || label->text().isEmpty() || !label->isEnabled()) continue;
-        const QColor letters = label->palette().color(label->foregroundRole());
-        EXPECT_EQ(letters.alpha(), 255);
-        EXPECT_GE(contrast(letters, suite::page), 4.5) << label->text().toStdString();
-    }
-    for (const auto* field : window.findChildren<QLineEdit*>())
-        EXPECT_GE(contrast(field->palette().color(QPalette::PlaceholderText), Qt::white), 4.5);
-    for (const auto* widget : window.findChildren<QWidget*>()) {
-        const bool framed =
-            qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget) ||
-            qobject_cast<const QPushButton*>(widget) || qobject_cast<const QCheckBox*>(widget) ||
-            qobject_cast<const QTableView*>(widget);
-        if (!framed || !widget->isVisible() || !widget->isEnabled()) continue;
-        EXPECT_GE(frameContrast(window, *widget), 3) << widget->metaObject()->className();
-    }
 }
 
 TEST_F(WindowTest, EveryWindowIsReadableInEveryLanguageAndItsControlsHaveNamesAndLetters) {

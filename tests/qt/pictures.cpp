@@ -1,6 +1,7 @@
 #include "pictures.h"
 
 #include "qt/help.h"
+#include "support/painted.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -80,6 +81,7 @@ void lookAt(Stage& stage, const std::string& form, const std::string& picture) {
         EXPECT_LE(window.minimumSizeHint().width(), 1000);
         EXPECT_LE(window.minimumSizeHint().height(), 700);
         expectReadable(window);
+        expectContrast(window);
         const QString folder = qEnvironmentVariable("MELVORA_SCREENSHOTS");
         if (folder.isEmpty()) continue;
         QDir().mkpath(folder);

@@ -134,6 +134,7 @@ TEST_F(Datei, WhatIsLockedOrShownAlreadyIsSetToo) {
     for (int i = 0; i < 16; ++i) tooMany += "<value>a</value>";
     const auto satz = EinstellungenLesenAus(
         "<test><basic/><setting>"
+        "<control><cname>ska_ausw</cname><index>1</index><value>True</value></control>"
         "<control><cname>lst_ska</cname><index>1</index>" +
         tooMany +
         "</control>"

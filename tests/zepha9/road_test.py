@@ -194,10 +194,10 @@ class Road(unittest.TestCase):
         time.sleep(13)
         heights = range(150, 340, 25)  # some of them lie between the limits of the task
         for height in heights:
-            self.drag(sheet, (627, 48), (623, height))  # a double sharp is never right
+            self.drag(sheet, (762, 60), (623, height))  # a double sharp is never right
         self.key("Return", "Return")  # wrong; a second time nothing happens
         for height in heights:
-            self.drag(sheet, (552, 48), (623, height))
+            self.drag(sheet, (659, 60), (623, height))
         self.key("Return", "Escape")
         self.window(f"{kind}: Setup")
         self.key("Escape")
