@@ -169,6 +169,7 @@ void StartPage::showUsers() {
     const QString name = host_.user() ? host_.user()->fullName() : host_.words().wort(wort::nobody);
     loggedIn_->setText(wrapped(host_.words().wort(wort::loggedIn).arg(name), longestName));
     loggedIn_->setToolTip("<span>" + name.toHtmlEscaped() + "</span>");
+    loggedIn_->setAccessibleDescription(name);
     showChoice();
 }
 

@@ -12,13 +12,17 @@ namespace qt {
 
 namespace {
 
-/// A picture that is pressed.
-class PictureButton final : public QAccessibleWidget {
+/// A picture, which may be one that is pressed: that can be known later only.
+class Picture final : public QAccessibleWidget {
   public:
-    explicit PictureButton(PictureWidget& picture)
-        : QAccessibleWidget(&picture, QAccessible::Button), picture_(picture) {}
+    explicit Picture(PictureWidget& picture) : QAccessibleWidget(&picture), picture_(picture) {}
+    QAccessible::Role role() const override {
+        return picture_.clicked ? QAccessible::Button : QAccessible::Graphic;
+    }
     QStringList actionNames() const override {
-        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+        QStringList names = QAccessibleWidget::actionNames();
+        if (picture_.clicked) names.prepend(pressAction());
+        return names;
     }
     void doAction(const QString& action) override {
         if (action != pressAction()) return QAccessibleWidget::doAction(action);
@@ -54,8 +58,7 @@ QAccessibleInterface* make(const QString& name, QObject* object) {
         return new QAccessibleWidget(frame, QAccessible::Grouping);
     if (auto* window = dynamic_cast<FormWindow*>(object))
         return new QAccessibleWidget(window, QAccessible::Window);
-    auto* picture = dynamic_cast<PictureWidget*>(object);
-    if (picture && picture->clicked) return new PictureButton(*picture);
+    if (auto* picture = dynamic_cast<PictureWidget*>(object)) return new Picture(*picture);
     return nullptr;
 }
 

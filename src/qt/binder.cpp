@@ -73,8 +73,9 @@ void Binder::common(form::Control& control, QWidget& widget) {
         if (aspect == Aspect::Visible) widget.setVisible(control.visible());
         if (aspect == Aspect::Enabled) widget.setEnabled(control.enabled());
         if (aspect == Aspect::Caption) {
-            widget.setAccessibleName(QString::fromStdString(
-                control.accessibleName().empty() ? control.caption() : control.accessibleName()));
+            const std::string& own = control.accessibleName();
+            widget.setAccessibleName(
+                QString::fromStdString(own.empty() ? control.caption() : own).trimmed());
             const QString hint = QString::fromStdString(control.hint());
             widget.setToolTip(hint);
             widget.setAccessibleDescription(hint);

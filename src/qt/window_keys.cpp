@@ -135,6 +135,12 @@ void WindowKeys::focused(QWidget& widget, Qt::FocusReason reason) {
     }
 }
 
+void WindowKeys::begin() {
+    seeking_ = true;
+    window_.setFocus(Qt::OtherFocusReason);
+    changed();
+}
+
 /// The toolkit would go to the next control in line, whatever that does.
 void WindowKeys::leaving(const QWidget& widget) {
     QWidget* here = window_.focusWidget();

@@ -20,6 +20,8 @@ class WindowKeys final : public QObject {
 
     /// What a user does next, in that order: there the focus goes.
     void setSteps(std::vector<QWidget*> steps) { steps_ = std::move(steps); }
+    /// The focus goes to the first step as soon as there is one that can be used.
+    void begin();
     /// Presses a control that was reached by Tab or by its letter. @return whether it is such a
     /// one.
     bool press(QWidget& widget);

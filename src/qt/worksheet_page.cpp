@@ -218,6 +218,7 @@ void worksheetPage(FormWindow& window, QWidget* area, std::vector<QWidget*> answ
     columns->addWidget(sidePanel(bind, nextTask));
     answers.push_back(nextTask);
     window.keys().setSteps(std::move(answers));
+    window.keys().begin();
     columns->addWidget(area, 1);
     page->addLayout(columns, 1);
 
