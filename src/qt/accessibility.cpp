@@ -4,6 +4,7 @@
 #include "qt/form_window.h"
 #include "qt/group_frame.h"
 #include "qt/picture_widget.h"
+#include "qt/staff_widget.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -58,6 +59,8 @@ QAccessibleInterface* make(const QString& name, QObject* object) {
         return new QAccessibleWidget(frame, QAccessible::Grouping);
     if (auto* window = dynamic_cast<FormWindow*>(object))
         return new QAccessibleWidget(window, QAccessible::Window);
+    if (auto* staff = dynamic_cast<StaffWidget*>(object))
+        return new QAccessibleWidget(staff, QAccessible::Canvas);
     if (auto* picture = dynamic_cast<PictureWidget*>(object)) return new Picture(*picture);
     return nullptr;
 }
