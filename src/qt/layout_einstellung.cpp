@@ -102,7 +102,9 @@ QWidget* chosenScales(Binder& bind, Groups& groups) {
         column->setSpacing(4);
         column->addWidget(bind("lb10", list + 1));
         QWidget* scales = bind("lst_ska", list);
-        scales->setFixedHeight(8 * scales->fontMetrics().lineSpacing());
+        // On a small screen a line below the form may take some of its room.
+        scales->setMinimumHeight(5 * scales->fontMetrics().lineSpacing());
+        scales->setMaximumHeight(8 * scales->fontMetrics().lineSpacing());
         column->addWidget(scales);
         lists->addWidget(column->parentWidget(), 1);
     }
@@ -143,7 +145,7 @@ void layoutEinstellung(FormWindow& window) {
     rows->addLayout(columns);
     // Below, where the form has room: what is pointed at stays where it is.
     rows->addWidget(chosenScales(bind, groups));
-    rows->addStretch(1);
+    rows->addStretch();
     const auto column = [&] {
         auto* layout = new QVBoxLayout;
         layout->setSpacing(suite::gap);
