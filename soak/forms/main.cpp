@@ -287,13 +287,15 @@ int soakFor(const Options& options) {
     const auto passed = [&] { return std::chrono::duration<double>(Clock::now() - begin).count(); };
     double first = 0;  // memory after the first tenth, when everything was used once
     seat = options.user.value_or(options.seed * 1'000'000);
+    constexpr std::size_t allForms = 11;
     do {
         alarm(patience);
         useIt(languages);
         if (!tally.broken.empty()) break;
         ++seat;
         if (first == 0 && passed() > options.seconds / 10) first = memory();
-    } while (!options.user && passed() < options.seconds);
+        // A short run goes on, up to four times as long, until it was everywhere.
+    } while (!options.user && passed() < options.seconds * (tally.forms.size() < allForms ? 4 : 1));
 
     const double seconds = passed(), last = memory();
     const bool held = tally.broken.empty();
@@ -309,7 +311,6 @@ int soakFor(const Options& options) {
           << figures(tally.reached);
     row("forms: a user who does anything", std::to_string(tally.actions) + " actions", held,
         speed.str());
-    constexpr std::size_t allForms = 11;
     const bool everywhere = options.user || tally.forms.size() == allForms;
     row("forms: each was there", std::to_string(tally.forms.size()) + " forms", everywhere,
         figures(tally.forms));

@@ -43,8 +43,7 @@ class AccessibleCombo final : public QAccessibleWidget, public QAccessibleTextIn
         return state;
     }
     void* interface_cast(QAccessible::InterfaceType type) override {
-        if (type == QAccessible::TextInterface)
-            return static_cast<QAccessibleTextInterface*>(this);
+        if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
         return QAccessibleWidget::interface_cast(type);
     }
     QString text(int start, int end) const override {
