@@ -19,7 +19,8 @@ import sys
 # Libraries by their headers, and the folders that may include them.
 LIBRARIES = [
     (re.compile(r"Q[A-Z]\w*(/Q\w+)?|Qt\w*|q\w+\.h"), {"hostlink", "suite", "qt", "melvora", "zepha9"}),
-    (re.compile(r"fluidsynth(/.*)?\.h"), {"synth"}),
+    (re.compile(r"fluidsynth(/.*)?\.h"), {"synth", "soundfont"}),
+    (re.compile(r"xxhash\.h"), {"soundfont"}),
     (re.compile(r"(rtmidi/)?RtMidi\.h"), {"ports"}),
     (re.compile(r"dbus/dbus\.h"), {"melvora"}),
     (re.compile(r"fontconfig(/.*)?\.h"), {"suite"}),
@@ -29,7 +30,7 @@ LIBRARIES = [
                                 "zepha9"}),
     # The operating system: headers of C that the standard library has under another name are
     # meant too.
-    (re.compile(r"[\w/]+\.h"), {"ports", "synth", "hostlink", "qt", "sim", "melvora", "zepha9"}),
+    (re.compile(r"[\w/]+\.h"), {"ports", "soundfont", "synth", "hostlink", "qt", "sim", "melvora", "zepha9"}),
 ]
 STANDARD = re.compile(r"[a-z_]+")
 GENERATED = re.compile(r"moc_\w+\.cpp|\w+\.moc|ui_\w+\.h")

@@ -138,7 +138,9 @@ bool Host::startModule(const QString& module, const QString& settingsFile) {
     handedOver_ = false;
     guarded([this] { resultBefore_ = store_.results.newest(); });
     prepareSpool();
-    module_.start(module, arguments, {place_.address, collector_.folder()});
+    module_.start(
+        module, arguments,
+        {place_.address, collector_.folder(), QDir(place_.data).absoluteFilePath("fonts")});
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include "suite/fonts_ahead.h"
 #include "suite/icon.h"
 #include "suite/look.h"
+#include "synth/loader.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -24,7 +25,9 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <optional>
 #include <stdexcept>
+#include <string_view>
 
 namespace {
 
@@ -113,6 +116,20 @@ void lookAt(const QString& settingsFile) {
     throw base::UsageError(whyUnusable(Words(suite::languageFolder()), settingsFile).toStdString());
 }
 
+/// Lines on the standard output tell how far it is.
+int measureFont(const Options& options) {
+    constexpr int all = 128, often = 16;
+    const std::string table =
+        synth::measureFont(options.font->toStdString(),
+                           (dataFolder(options) + "/fonts").toStdString(), [](int measured) {
+                               if (measured % often != 0) return;
+                               std::printf("%d of %d instruments measured\n", measured, all);
+                               std::fflush(stdout);
+                           });
+    std::printf("kept in %s\n", table.c_str());
+    return 0;
+}
+
 int run(const Options& options, suite::Application& application) {
     if (options.settingsFile) lookAt(*options.settingsFile);
     const std::string address = hostlink::hostAddress();
@@ -157,10 +174,27 @@ bool answersAtOnce(int argc, char** argv) {
     return false;
 }
 
+/// Needs no screen.
+std::optional<int> measuresOnly(int argc, char** argv) {
+    const auto asks = [](const char* argument) {
+        return std::string_view(argument).starts_with("--measure-font");
+    };
+    if (std::none_of(argv, argv + argc, asks)) return {};
+    const QCoreApplication application(argc, argv);
+    try {
+        const Options options = parseOptions(QCoreApplication::arguments());
+        return options.font ? measureFont(options) : failure;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "melvora: %s\n", error.what());
+        return failure;
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     if (answersAtOnce(argc, argv)) return 0;
+    if (const auto status = measuresOnly(argc, argv)) return *status;
     const std::jthread fonts = suite::readFontsAhead();
     suite::Application application(argc, argv);
     QApplication::setApplicationName("melvora");

@@ -56,6 +56,7 @@ void ModuleProcess::start(const QString& module, const QStringList& arguments,
     name_ = module;
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert("temp", where.spool);
+    environment.insert("MELVORA_FONT_TABLES", where.fontTables);
     environment.insert("MELVORA_HOST_ADDRESS", where.address);
     process_.setProcessEnvironment(environment);
     process_.start(QDir(folderOfModules()).absoluteFilePath(module), arguments);

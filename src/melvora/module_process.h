@@ -18,8 +18,9 @@ class ModuleProcess : public QObject {
     ~ModuleProcess() override;
 
     struct Surroundings {
-        QString address;  ///< where the module finds the host
-        QString spool;    ///< folder for its result records
+        QString address;     ///< where the module finds the host
+        QString spool;       ///< folder for its result records
+        QString fontTables;  ///< folder for what it measures of soundfonts
     };
     /// Starts a module from MELVORA_MODULE_PATH, else from the folder of this program.
     /// Does nothing while one runs.

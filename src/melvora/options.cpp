@@ -33,14 +33,15 @@ Options parseOptions(const QStringList& arguments) {
                        {"user", "", "key"},
                        {"language", "", "name"},
                        {"data", "", "folder"},
+                       {"measure-font", "", "file"},
                        {"teacher", ""}});
     if (!parser.parse(arguments)) throw base::UsageError(parser.errorText().toStdString());
     const auto value = [&](const QString& name) {
         return parser.isSet(name) ? std::optional(parser.value(name)) : std::nullopt;
     };
-    Options options{
-        parser.isSet("help"), parser.isSet("version"), parser.isSet("teacher"), value("start"),
-        value("user"),        value("language"),       value("data"),           {}};
+    Options options{parser.isSet("help"), parser.isSet("version"), parser.isSet("teacher"),
+                    value("start"),       value("user"),           value("language"),
+                    value("data"),        value("measure-font"),   {}};
     takeSettingsFile(parser.positionalArguments(), options);
     if (options.module && !ModuleProcess::known().contains(*options.module))
         throw base::UsageError("--start: unknown module " + options.module->toStdString() +
@@ -61,6 +62,8 @@ usage: melvora [options] [FILE.mvs]
   --language NAME    choose the language by its own name, for example Deutsch
   --data FOLDER      keep everything there instead of $XDG_DATA_HOME/melvora
   --teacher          hand --teacher on to the modules
+  --measure-font FILE   measure how the instruments of a soundfont are tuned, and keep it for the
+                     modules, which play them in tune then; some ten seconds
   -h, --help         show this text
   -v, --version      show the version
 

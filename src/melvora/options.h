@@ -17,6 +17,8 @@ struct Options {
     std::optional<QString> user;
     std::optional<QString> language;
     std::optional<QString> data;
+    /// A soundfont to measure, and nothing else.
+    std::optional<QString> font;
     /// Absolute path of a file of settings; the module it is for stands in `module` then.
     std::optional<QString> settingsFile;
 };

@@ -1,8 +1,8 @@
 #include "synth/audio_device.h"
 
+#include "soundfont/fluid_error.h"
+#include "soundfont/fluid_handle.h"
 #include "synth/audio_presence.h"
-#include "synth/fluid_error.h"
-#include "synth/fluid_handle.h"
 
 #include <string>
 #include <utility>
@@ -19,7 +19,7 @@ constexpr int periods = 3;
 class FluidDevice : public AudioDevice {
   public:
     FluidDevice(const std::string& driver, int sampleRate, Pull pull)
-        : pull_(std::move(pull)), settings_(made(new_fluid_settings(), "settings")) {
+        : pull_(std::move(pull)), settings_(soundfont::made(new_fluid_settings(), "settings")) {
         fluid_settings_setstr(settings_.get(), "audio.driver", driver.c_str());
         fluid_settings_setint(settings_.get(), "audio.period-size", period);
         fluid_settings_setint(settings_.get(), "audio.periods", periods);
@@ -38,8 +38,8 @@ class FluidDevice : public AudioDevice {
     }
 
     Pull pull_;
-    FluidSettings settings_;
-    FluidDriver driver_;
+    soundfont::FluidSettings settings_;
+    soundfont::FluidDriver driver_;
 };
 
 }  // namespace

@@ -1,7 +1,8 @@
 #include "synth/engine.h"
 
+#include "soundfont/fluid_error.h"
+#include "soundfont/fluid_settings.h"
 #include "synth/bend.h"
-#include "synth/fluid_error.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,33 +13,18 @@ namespace {
 
 constexpr int block = 64;
 constexpr int allChannels = -1;
-/// A queued message is heard one block after the one in which it falls due, 1.5 to 2.9 ms late. So
-/// much earlier it is queued, in whole milliseconds.
-constexpr unsigned blockDelay = 2;
-
-/// A dry sound without chorus, which would smear the pitch; samples are read when an instrument
-/// is chosen, so a big soundfont costs no more memory than what is heard of it.
-fluid_settings_t* makeSettings() {
-    quietFluidLog();
-    fluid_settings_t* settings = made(new_fluid_settings(), "settings");
-    fluid_settings_setnum(settings, "synth.gain", 1.0);
-    fluid_settings_setnum(settings, "synth.sample-rate", Engine::sampleRate);
-    fluid_settings_setint(settings, "synth.polyphony", 64);
-    fluid_settings_setint(settings, "synth.cpu-cores", 1);
-    fluid_settings_setint(settings, "synth.chorus.active", 0);
-    fluid_settings_setint(settings, "synth.reverb.active", 0);
-    fluid_settings_setint(settings, "synth.lock-memory", 0);
-    fluid_settings_setint(settings, "synth.dynamic-sample-loading", 1);
-    return settings;
-}
+/// A queued message is heard with the block after the one in which it falls due, 1 to 2.5 ms late:
+/// in the middle so much earlier it is queued.
+constexpr double blockDelay = 1.75;
 
 }  // namespace
 
-Engine::Engine(Mailbox& mailbox, std::function<void(std::uint32_t)> ended)
+Engine::Engine(Mailbox& mailbox, std::function<void(std::uint32_t)> ended, Instruments instruments)
     : mailbox_(mailbox),
-      settings_(makeSettings()),
-      synth_(made(new_fluid_synth(settings_.get()), "a synthesiser")),
-      sequencer_(made(new_fluid_sequencer2(0), "a sequencer")),
+      settings_(soundfont::makeSettings()),
+      synth_(soundfont::made(new_fluid_synth(settings_.get()), "a synthesiser")),
+      sequencer_(soundfont::made(new_fluid_sequencer2(0), "a sequencer")),
+      tuning_(synth_.get(), std::move(instruments)),
       queue_(sequencer_.get(), fluid_sequencer_register_fluidsynth(sequencer_.get(), synth_.get()),
              tunedBend, std::move(ended)),
       level_(sampleRate) {}
@@ -71,6 +57,7 @@ void Engine::takeCommands() {
         busy_ = true;
         if (command->kind == Command::Kind::Send) {
             queue_.send(command->event);
+            tuning_.follow(command->event);
             continue;
         }
         queue_.cancel();
@@ -85,13 +72,16 @@ void Engine::takeCommands() {
 
 void Engine::perform(Command& command) {
     silence(command.kind);
-    if (command.kind == Command::Kind::Play)
-        queue_.play(std::move(command.events), leadIn - blockDelay, command.run);
+    if (command.kind != Command::Kind::Play) return;
+    tuning_.tune();
+    for (sound::MidiEvent& event : command.events) tuning_.prepare(event, leadIn - blockDelay);
+    queue_.play(std::move(command.events), 0, command.run);
 }
 
 void Engine::silence(Command::Kind kind) {
     if (kind == Command::Kind::Reset) {
         fluid_synth_system_reset(synth_.get());
+        tuning_.reset();
         return;
     }
     fluid_synth_all_sounds_off(synth_.get(), allChannels);

@@ -1,5 +1,6 @@
 #pragma once
-#include "synth/fluid_handle.h"
+#include "soundfont/fluid_settings.h"
+#include "synth/channel_tuning.h"
 #include "synth/fluid_queue.h"
 #include "synth/level.h"
 #include "synth/mailbox.h"
@@ -16,15 +17,16 @@ namespace synth {
 /// passes for it only as it renders, so it plays the same whoever pulls it, and how fast.
 class Engine {
   public:
-    static constexpr int sampleRate = 44100;
+    static constexpr int sampleRate = soundfont::sampleRate;
     /// From a queue's start to its time 0, in milliseconds: the first attack comes whole even
     /// when the audio device has just been opened and the volume is still rising.
     static constexpr unsigned leadIn = 20;
 
     /// @param mailbox outlives the engine.
     /// @param ended called on the pulling thread with the number of the queue that ended.
-    /// Throws FluidError.
-    Engine(Mailbox& mailbox, std::function<void(std::uint32_t)> ended);
+    /// @param instruments asked on that thread; nothing leaves all instruments as they are.
+    /// Throws soundfont::FluidError.
+    Engine(Mailbox& mailbox, std::function<void(std::uint32_t)> ended, Instruments instruments);
 
     /// Loads a soundfont, 10 to 50 ms for a small one. Not while render() may run.
     /// Returns false when the file is no soundfont.
@@ -49,9 +51,10 @@ class Engine {
     int voices() const;
 
     Mailbox& mailbox_;
-    FluidSettings settings_;
-    FluidSynth synth_;
-    FluidSequencer sequencer_;
+    soundfont::FluidSettings settings_;
+    soundfont::FluidSynth synth_;
+    soundfont::FluidSequencer sequencer_;
+    ChannelTuning tuning_;
     FluidQueue queue_;
     Level level_;
     std::optional<Command> afterFade_;

@@ -1,7 +1,7 @@
 #include "synth/fluid_queue.h"
 
+#include "soundfont/fluid_error.h"
 #include "synth/bend.h"
-#include "synth/fluid_error.h"
 
 #include <algorithm>
 #include <array>
@@ -42,7 +42,7 @@ FluidQueue::FluidQueue(fluid_sequencer_t* sequencer, fluid_seq_id_t destination,
       destination_(destination),
       bend_(bend),
       ended_(std::move(ended)),
-      event_(made(new_fluid_event(), "an event")),
+      event_(soundfont::made(new_fluid_event(), "an event")),
       self_(fluid_sequencer_register_client(sequencer, "queue", &FluidQueue::onTimer, this)) {}
 
 FluidQueue::~FluidQueue() {

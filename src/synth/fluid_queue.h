@@ -1,6 +1,6 @@
 #pragma once
 #include "sound/midi_output.h"
-#include "synth/fluid_handle.h"
+#include "soundfont/fluid_handle.h"
 
 #include <cstdint>
 #include <functional>
@@ -46,7 +46,7 @@ class FluidQueue {
     fluid_seq_id_t destination_;
     int (*bend_)(int);
     std::function<void(std::uint32_t)> ended_;
-    FluidEvent event_;
+    soundfont::FluidEvent event_;
     fluid_seq_id_t self_;
     std::vector<unsigned> ticks_;
     std::uint32_t run_ = 0;

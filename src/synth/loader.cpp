@@ -13,9 +13,12 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr auto libraryName = "libmelvora-synth.so";
-constexpr auto entryName = "melvoraMakeSynthOutput";
-
-using Entry = sound::MidiOutput* (*)(const Post*);
+/// The two entries of the library.
+constexpr auto outputName = "melvoraMakeSynthOutput";
+constexpr auto measureName = "melvoraMeasureFont";
+using MakeOutput = sound::MidiOutput* (*)(const Post*);
+using MeasureFont = void (*)(const std::string&, const std::string&,
+                             const std::function<void(int)>&, std::string&);
 
 [[noreturn]] void fail(const std::string& what) {
     const char* reason = dlerror();
@@ -29,15 +32,27 @@ fs::path libraryFile() {
     return fs::exists(beside) ? beside : here / "../lib/melvora" / libraryName;
 }
 
-}  // namespace
-
-std::unique_ptr<sound::MidiOutput> loadSynthOutput(const Post& post) {
+template <class Entry>
+Entry entry(const char* name) {
     const fs::path file = libraryFile();
     void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     if (library == nullptr) fail("cannot load " + file.string());
-    const auto make = reinterpret_cast<Entry>(dlsym(library, entryName));
-    if (make == nullptr) fail(file.string() + " lacks " + entryName);
-    return std::unique_ptr<sound::MidiOutput>(make(&post));
+    const auto found = reinterpret_cast<Entry>(dlsym(library, name));
+    if (found == nullptr) fail(file.string() + " lacks " + name);
+    return found;
+}
+
+}  // namespace
+
+std::unique_ptr<sound::MidiOutput> loadSynthOutput(const Post& post) {
+    return std::unique_ptr<sound::MidiOutput>(entry<MakeOutput>(outputName)(&post));
+}
+
+std::string measureFont(const std::string& font, const std::string& folder,
+                        const std::function<void(int)>& progress) {
+    std::string table;
+    entry<MeasureFont>(measureName)(font, folder, progress, table);
+    return table;
 }
 
 }  // namespace synth

@@ -2,7 +2,9 @@
 #include "sound/midi_output.h"
 #include "synth/post.h"
 
+#include <functional>
 #include <memory>
+#include <string>
 
 namespace synth {
 
@@ -11,5 +13,11 @@ namespace synth {
 /// cost nothing until the first call, and stay loaded from then on.
 /// Throws std::runtime_error that says which file could not be loaded and why.
 std::unique_ptr<sound::MidiOutput> loadSynthOutput(const Post& post);
+
+/// Measures every instrument of a font with that library, and keeps the table in a folder.
+/// @param progress called with the number of instruments measured so far, of 128.
+/// @return the table's file. Throws std::runtime_error that says what cannot be used.
+std::string measureFont(const std::string& font, const std::string& folder,
+                        const std::function<void(int measured)>& progress);
 
 }  // namespace synth

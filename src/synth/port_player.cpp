@@ -1,6 +1,6 @@
 #include "synth/port_player.h"
 
-#include "synth/fluid_error.h"
+#include "soundfont/fluid_error.h"
 
 #include <utility>
 
@@ -22,7 +22,8 @@ constexpr int allNotesOff = 123;
 PortPlayer::PortPlayer(ports::SendBytes port, Reports reports)
     : port_(std::move(port)),
       reports_(std::move(reports)),
-      sequencer_((quietFluidLog(), made(new_fluid_sequencer2(0), "a sequencer"))),
+      sequencer_(
+          (soundfont::quietFluidLog(), soundfont::made(new_fluid_sequencer2(0), "a sequencer"))),
       queue_(
           sequencer_.get(),
           fluid_sequencer_register_client(sequencer_.get(), "port", &PortPlayer::onEvent, this),

@@ -1,6 +1,6 @@
 #pragma once
 #include "ports/midi_ports.h"
-#include "synth/fluid_handle.h"
+#include "soundfont/fluid_handle.h"
 #include "synth/fluid_queue.h"
 #include "synth/player.h"
 
@@ -16,7 +16,7 @@ class PortPlayer : public Player {
     /// Messages begin this many milliseconds after the start of a queue.
     static constexpr unsigned leadIn = 5;
 
-    /// Throws FluidError.
+    /// Throws soundfont::FluidError.
     PortPlayer(ports::SendBytes port, Reports reports);
     ~PortPlayer() override;
 
@@ -40,7 +40,7 @@ class PortPlayer : public Player {
     ports::SendBytes port_;
     Reports reports_;
     Mailbox mailbox_;
-    FluidSequencer sequencer_;
+    soundfont::FluidSequencer sequencer_;
     FluidQueue queue_;
     Clock::time_point begin_ = Clock::now();
     /// Velocity of each key that sounds, by channel; 0 for silence.

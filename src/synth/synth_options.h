@@ -1,6 +1,8 @@
 #pragma once
+#include "soundfont/measured_font.h"
 #include "synth/audio_device.h"
 
+#include <optional>
 #include <string>
 
 namespace synth {
@@ -15,6 +17,8 @@ struct SynthOptions {
     std::string audioFile = "melvora.wav";
     /// The only soundfont to try, or empty for the usual places.
     std::string soundfont;
+    /// Where it is kept what the instruments of a font were measured to be; none measures nothing.
+    std::optional<soundfont::TableFolders> tables;
     /// Whether "file" and "none" run at the clock's pace, or as fast as they can.
     bool paced = true;
     /// Opens the audio device in place of the driver, when set.

@@ -14,7 +14,7 @@ namespace synth {
 /// is closed takes nothing: what is queued, sent or started then is dropped.
 /// @param post hands the calls of `queueEmpty` and `problemChanged` to the drill's thread; calls
 ///        that arrive after the output's end do nothing. The output ends on the drill's thread.
-/// Throws FluidError when the synthesiser library cannot be used at all.
+/// Throws soundfont::FluidError when the synthesiser library cannot be used at all.
 std::unique_ptr<sound::MidiOutput> makeSynthOutput(SynthOptions options, Post post);
 
 }  // namespace synth

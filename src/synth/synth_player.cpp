@@ -32,7 +32,11 @@ constexpr auto deviceBuffer = 60ms;
 SynthPlayer::SynthPlayer(SynthOptions options, Reports reports)
     : options_(std::move(options)),
       reports_(std::move(reports)),
-      engine_(mailbox_, reports_.ended),
+      engine_(mailbox_, reports_.ended,
+              [this](int program) {
+                  const auto known = font();
+                  return known ? known->find(program) : nullptr;
+              }),
       thread_([this] { run(); }) {}
 
 SynthPlayer::~SynthPlayer() {
@@ -40,8 +44,13 @@ SynthPlayer::~SynthPlayer() {
     mailbox_.quit();
 }
 
+/// A task whose instrument is not known yet waits for that a little, unnoticed.
 void SynthPlayer::put(Command command) {
+    constexpr auto unnoticed = 150ms;
     if (command.kind == Command::Kind::Reset) reopened_ = true;
+    if ((command.event.status & 0xf0) == 0xc0) program_ = command.event.data1 & 0x7f;
+    if (command.kind == Command::Kind::Play)
+        if (const auto known = font()) known->wait(program_, unnoticed);
     mailbox_.put(std::move(command));
 }
 
@@ -64,9 +73,18 @@ void SynthPlayer::findFont() {
     if (engine_.hasFont()) return;
     const std::string font = findSoundfont(options_.soundfont);
     if (font.empty() || !engine_.loadFont(font)) return;
+    if (options_.tables) {
+        const std::lock_guard lock(fontMutex_);
+        font_ = std::make_shared<soundfont::MeasuredFont>(font, *options_.tables);
+    }
 #ifdef __GLIBC__
     malloc_trim(0);  // parsing leaves a tenth of the font's size behind as free memory
 #endif
+}
+
+std::shared_ptr<soundfont::MeasuredFont> SynthPlayer::font() {
+    const std::lock_guard lock(fontMutex_);
+    return font_;
 }
 
 void SynthPlayer::serve() {

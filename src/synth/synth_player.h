@@ -1,4 +1,5 @@
 #pragma once
+#include "soundfont/measured_font.h"
 #include "synth/device_guard.h"
 #include "synth/engine.h"
 #include "synth/player.h"
@@ -7,6 +8,7 @@
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <thread>
 
@@ -18,7 +20,7 @@ namespace synth {
 /// again at every reset, and whenever something plays after a pause.
 class SynthPlayer : public Player {
   public:
-    /// Throws FluidError.
+    /// Throws soundfont::FluidError.
     SynthPlayer(SynthOptions options, Reports reports);
     ~SynthPlayer() override;
 
@@ -37,13 +39,17 @@ class SynthPlayer : public Player {
     void playOut();
     void pull(WavFile* file);
     void pullToFile();
+    std::shared_ptr<soundfont::MeasuredFont> font();
     bool idle() const { return mailbox_.empty() && !engine_.busy(); }
     std::unique_ptr<AudioDevice> openDevice();
-    void tell(sound::SoundProblem problem);
+    void tell(sound::SoundProblem device);
 
     SynthOptions options_;
     Reports reports_;
     Mailbox mailbox_;
+    std::mutex fontMutex_;
+    std::shared_ptr<soundfont::MeasuredFont> font_;
+    int program_ = 0;  ///< what was chosen last, for the next task
     Engine engine_;
     DeviceGuard guard_;
     std::optional<WavFile> file_;

@@ -1,8 +1,11 @@
 #include "synth/sound_meter.h"
 
+#include "soundfont/meter.h"
+
 #include <algorithm>
 #include <cmath>
 #include <complex>
+#include <map>
 #include <numbers>
 
 namespace synth::test {
@@ -13,24 +16,23 @@ constexpr double rate = Engine::sampleRate;
 constexpr double framesPerMs = rate / 1000;
 constexpr double centsPerStep = 200.0 / 64;
 constexpr std::array<int, 8> major{0, 2, 4, 5, 7, 9, 11, 12};
-constexpr float audible = 0.005F;
 
 double hertz(int key) { return 440.0 * std::exp2((key - 69) / 12.0); }
 
-/// Samples from a block's beginning to the first audible one of a note.
-struct Reference {
-    std::size_t attack;
-    double hz;
-};
-
-Reference reference(int program, int key, int noteMs) {
-    Rendering tone;
-    tone.send(0xc0, program, 0);
-    tone.send(0x90, key, 100);
-    tone.render(noteMs);
-    const auto begin = static_cast<std::size_t>(noteMs * 0.3 * framesPerMs);
-    const auto length = static_cast<std::size_t>(noteMs * 0.5 * framesPerMs);
-    return {onset(tone.sound, 0, audible), frequency(tone.sound, begin, length, hertz(key))};
+/// First sample from `begin` on of two milliseconds that pass a tenth of the loudest up to `end`.
+double heardFrom(const std::vector<float>& sound, std::size_t begin, std::size_t end) {
+    constexpr std::size_t window = 88;
+    const auto level = [&](std::size_t at) {
+        double energy = 0;
+        for (std::size_t i = at; i < at + window; ++i) energy += double(sound[i]) * sound[i];
+        return std::sqrt(energy);
+    };
+    double loudest = 0;
+    for (std::size_t at = begin; at + window < end; at += window / 4)
+        loudest = std::max(loudest, level(at));
+    for (std::size_t at = begin; at + window < end; ++at)
+        if (level(at) >= loudest / 10) return double(at);
+    return double(end);
 }
 
 }  // namespace
@@ -43,8 +45,18 @@ const std::array<Tuning, 5> tunings{{
     {"meantone", true, {5, 6, 1, 4, 6, 0, 1, 5}},
 }};
 
+std::shared_ptr<const soundfont::Instrument> instrumentOf(int program) {
+    static std::map<int, std::shared_ptr<const soundfont::Instrument>> known;
+    auto& found = known[program];
+    if (!found)
+        found = std::make_shared<const soundfont::Instrument>(
+            *soundfont::Meter(measuredFont).measure(program, {}));
+    return found;
+}
+
 Rendering::Rendering(bool font)
-    : engine(mailbox, [this](std::uint32_t run) { ended.push_back(run); }) {
+    : engine(
+          mailbox, [this](std::uint32_t run) { ended.push_back(run); }, instrumentOf) {
     if (font) engine.loadFont(measuredFont);
 }
 
@@ -131,17 +143,17 @@ std::vector<Deviation> measure(const Tuning& tuning, int program, int firstKey, 
     std::vector<Deviation> deviations;
     for (int i = 0; i < 8; ++i) {
         const auto degree = static_cast<std::size_t>(i);
-        const int key = firstKey + major[degree];
-        const Reference unbent = reference(program, key, noteMs);
+        const double nominal = hertz(firstKey + major[degree]);
         const double planned = (i * noteMs + int(Engine::leadIn)) * framesPerMs;
-        const auto quiet = static_cast<std::size_t>(planned - 5 * framesPerMs);
-        const double begun = double(onset(scale.sound, quiet, audible)) - double(unbent.attack);
+        const auto at = [&](double ms) {
+            return static_cast<std::size_t>(planned + ms * framesPerMs);
+        };
+        const double begun = heardFrom(scale.sound, at(-15), at(0.8 * noteMs));
         const double hz =
-            frequency(scale.sound, static_cast<std::size_t>(planned + 0.3 * noteMs * framesPerMs),
-                      static_cast<std::size_t>(noteMs * 0.5 * framesPerMs), hertz(key));
+            frequency(scale.sound, at(0.3 * noteMs), at(0.8 * noteMs) - at(0.3 * noteMs), nominal);
         deviations.push_back(
             {(begun - planned) / framesPerMs,
-             1200 * std::log2(hz / unbent.hz) - tuning.steps[degree] * centsPerStep});
+             1200 * std::log2(hz / nominal) - tuning.steps[degree] * centsPerStep});
     }
     return deviations;
 }

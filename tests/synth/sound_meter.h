@@ -3,6 +3,7 @@
 #include "synth/mailbox.h"
 
 #include <array>
+#include <memory>
 #include <vector>
 
 namespace synth::test {
@@ -45,13 +46,15 @@ struct Tuning {
 };
 extern const std::array<Tuning, 5> tunings;
 
+/// An instrument of that font, measured once.
+std::shared_ptr<const soundfont::Instrument> instrumentOf(int program);
+
 struct Deviation {
-    double ms;     ///< beginning of the note less the planned one
-    double cents;  ///< pitch less the one that the bend asks for
+    double ms;     ///< when the note is heard, less when it is planned
+    double cents;  ///< pitch less that of the key, bent as it is asked for
 };
 
-/// Plays an octave up from `firstKey` with `noteMs` from note to note and measures each note
-/// against the same note, unbent, sent at a known moment.
+/// Plays an octave up from `firstKey` with `noteMs` from note to note and measures each note.
 std::vector<Deviation> measure(const Tuning& tuning, int program, int firstKey, int noteMs);
 
 /// Frequency in Hz of a steady tone, near `nominal`, from the drift of its phase.

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-namespace synth {
+namespace soundfont {
 
 /// Deleter that calls the library's own function for a type.
 template <auto function>
@@ -23,4 +23,4 @@ using FluidSequencer = Handle<fluid_sequencer_t, delete_fluid_sequencer>;
 using FluidEvent = Handle<fluid_event_t, delete_fluid_event>;
 using FluidDriver = Handle<fluid_audio_driver_t, delete_fluid_audio_driver>;
 
-}  // namespace synth
+}  // namespace soundfont

@@ -1,8 +1,8 @@
-#include "synth/fluid_error.h"
+#include "soundfont/fluid_error.h"
 
 #include <fluidsynth.h>
 
-namespace synth {
+namespace soundfont {
 
 FluidError::FluidError(const std::string& what)
     : std::runtime_error("FluidSynth: " + what + "; check the installation of libfluidsynth3") {}
@@ -13,4 +13,4 @@ void quietFluidLog() {
             level, [](int, const char*, void*) {}, nullptr);
 }
 
-}  // namespace synth
+}  // namespace soundfont

@@ -2,7 +2,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace synth {
+namespace soundfont {
 
 /// The synthesiser library refused something; the text says what and what to look at.
 class FluidError : public std::runtime_error {
@@ -20,4 +20,4 @@ T* made(T* handle, const char* what) {
 /// Keeps the library from writing to the terminal; what matters comes back as an error.
 void quietFluidLog();
 
-}  // namespace synth
+}  // namespace soundfont

@@ -1,0 +1,154 @@
+#include "soundfont/pitch.h"
+
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <numbers>
+#include <vector>
+
+namespace soundfont {
+
+namespace {
+
+constexpr double turn = 2 * std::numbers::pi;
+constexpr int mostPartials = 3;   ///< partials that are looked at
+constexpr double highest = 6000;  ///< Hz; above, samples hold more noise than tone
+constexpr int stretches = 5;
+constexpr std::size_t framesOfStretch = 6;
+
+double centsOf(double ratio) { return 1200 * std::log2(ratio); }
+
+/// What is left of a partial when it is brought to rest, at equal distances of time.
+struct Track {
+    std::vector<std::complex<double>> frames;
+    double seconds;  ///< from frame to frame
+};
+
+Track broughtToRest(std::span<const float> sound, double rate, double frequency, double tone) {
+    const auto window = static_cast<std::size_t>(4 * rate / tone);
+    const std::size_t hop = window / 4;
+    const double turned = turn * frequency / rate;
+    std::vector<double> real(window), imaginary(window);
+    for (std::size_t i = 0; i < window; ++i) {
+        const double hann = 1 - std::cos(turn * (double(i) + 0.5) / double(window));
+        real[i] = hann * std::cos(turned * double(i));
+        imaginary[i] = -hann * std::sin(turned * double(i));
+    }
+    Track track{{}, double(hop) / rate};
+    for (std::size_t at = 0; at + window <= sound.size(); at += hop) {
+        double x = 0, y = 0;
+        for (std::size_t i = 0; i < window; ++i) {
+            const double sample = sound[at + i];
+            x += sample * real[i];
+            y += sample * imaginary[i];
+        }
+        track.frames.push_back(std::complex(x, y) / double(window) *
+                               std::polar(1.0, -turned * double(at)));
+    }
+    return track;
+}
+
+/// A number with a weight, as parts of a mean.
+struct Weighted {
+    double value, weight;
+};
+
+/// The partial's error over some of its frames: slope of its phase, frames weighted by their
+/// energy.
+Weighted slope(std::span<const std::complex<double>> frames, double seconds, double frequency) {
+    double energy = 0, time = 0, phase = 0, product = 0, square = 0;
+    double unwrapped = std::arg(frames.front());
+    std::vector<double> phases;
+    for (const auto& frame : frames) {
+        unwrapped += std::remainder(std::arg(frame) - unwrapped, turn);
+        phases.push_back(unwrapped);
+    }
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        const double weight = std::norm(frames[i]);
+        energy += weight;
+        time += weight * double(i);
+        phase += weight * phases[i];
+    }
+    if (energy == 0) return {0, 0};
+    time /= energy;
+    phase /= energy;
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        const double weight = std::norm(frames[i]);
+        product += weight * (double(i) - time) * (phases[i] - phase);
+        square += weight * (double(i) - time) * (double(i) - time);
+    }
+    if (square == 0) return {0, 0};
+    const double found = frequency + product / square / seconds / turn;
+    return {found <= 0 ? 0 : centsOf(found / frequency), energy};
+}
+
+/// Standard error of the mean, as if the parts were so many as their weights are alike.
+double standardError(std::span<const Weighted> parts) {
+    double weight = 0, value = 0, square = 0, squares = 0;
+    for (const Weighted& part : parts) {
+        weight += part.weight;
+        value += part.weight * part.value;
+        squares += part.weight * part.weight;
+    }
+    if (weight == 0) return noPitch;
+    value /= weight;
+    for (const Weighted& part : parts)
+        square += part.weight * (part.value - value) * (part.value - value);
+    const double alike = weight * weight / squares;
+    return alike <= 1.01 ? noPitch : std::sqrt(square / weight / (alike - 1));
+}
+
+/// One partial of the tone.
+struct Partial {
+    Pitch pitch;
+    double energy = 0;
+};
+
+Partial partialOf(std::span<const float> sound, double rate, double expected, int number) {
+    const double frequency = number * expected;
+    const Track track = broughtToRest(sound, rate, frequency, expected);
+    const std::size_t count = track.frames.size();
+    if (count < framesOfStretch) return {{0, noPitch}, 0};
+    const std::size_t length = std::max(framesOfStretch, count / stretches);
+    std::vector<Weighted> parts;
+    for (std::size_t at = 0; at + length <= count; at += length)
+        parts.push_back(slope({track.frames.data() + at, length}, track.seconds, frequency));
+    const Weighted whole = slope(track.frames, track.seconds, frequency);
+    return {{whole.value, standardError(parts)}, whole.weight};
+}
+
+}  // namespace
+
+Pitch pitchOf(std::span<const float> sound, double rate, double expected) {
+    constexpr double sure = 1;      // cents
+    constexpr double strong = 0.1;  // of the energy of the strongest
+    std::vector<Partial> partials;
+    double strongest = 0;
+    for (int number = 1; number <= mostPartials && (number == 1 || number * expected < highest);
+         ++number) {
+        partials.push_back(partialOf(sound, rate, expected, number));
+        strongest = std::max(strongest, partials.back().energy);
+    }
+    Pitch found{0, noPitch};
+    for (const Partial& partial : partials) {
+        if (partial.energy < strong * strongest || found.uncertainty <= sure) continue;
+        if (partial.pitch.uncertainty < found.uncertainty) found = partial.pitch;
+    }
+    return found;
+}
+
+int octaveOf(std::span<const float> sound, double rate, double expected) {
+    constexpr double strong = 0.1;   // of the energy of what is expected
+    constexpr double absent = 1e-3;  // of the energy of the octave
+    const auto energy = [&](double partial) {
+        double sum = 0;
+        for (const auto& frame : broughtToRest(sound, rate, partial * expected, expected).frames)
+            sum += std::norm(frame);
+        return sum;
+    };
+    const double odd = energy(1) + energy(3), even = energy(2) + energy(4);
+    if (energy(0.5) + energy(1.5) > strong * (odd + even)) return -1;
+    return odd < absent * even ? 1 : 0;
+}
+
+}  // namespace soundfont
