@@ -523,5 +523,9 @@
 <message id="1327s"><translation>Rechtsklick oder Menütaste auf einer Gruppe: vorgeben oder freigeben</translation></message>
 <message id="1328s"><translation>Von der Lehrkraft vorgegeben: %1</translation></message>
 <message id="1329s"><translation>Es kommen alle Skalen vor; diese Auswahl zählt nicht.</translation></message>
+<message id="1330s"><translation>teils stumm</translation></message>
+<message id="1331s"><translation>Tonhöhe unklar</translation></message>
+<message id="1332s"><translation>andere Oktave</translation></message>
+<message id="1333s"><translation>%1: %2 in diesem Tonraum. Wählen Sie ein Instrument mit ✓.</translation></message>
 </context>
 </TS>

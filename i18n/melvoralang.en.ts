@@ -523,5 +523,9 @@
 <message id="1327s"><translation>Right click or menu key on a group: prescribe or release it</translation></message>
 <message id="1328s"><translation>Set by your teacher: %1</translation></message>
 <message id="1329s"><translation>All scales occur; this choice does not count.</translation></message>
+<message id="1330s"><translation>partly silent</translation></message>
+<message id="1331s"><translation>unclear pitch</translation></message>
+<message id="1332s"><translation>other octave</translation></message>
+<message id="1333s"><translation>%1: %2 in this range. Choose an instrument with ✓.</translation></message>
 </context>
 </TS>

@@ -523,5 +523,9 @@
 <message id="1327s"><translation>Clic derecho o tecla Menú en un grupo: fijarlo o liberarlo</translation></message>
 <message id="1328s"><translation>Fijado por el profesor: %1</translation></message>
 <message id="1329s"><translation>Aparecen todas las escalas; esta selección no cuenta.</translation></message>
+<message id="1330s"><translation>en parte mudo</translation></message>
+<message id="1331s"><translation>altura imprecisa</translation></message>
+<message id="1332s"><translation>otra octava</translation></message>
+<message id="1333s"><translation>%1: %2 en este ámbito. Elija un instrumento con ✓.</translation></message>
 </context>
 </TS>

@@ -523,5 +523,9 @@
 <message id="1327s"><translation>Clic droit ou touche Menu sur un groupe : l’imposer ou le libérer</translation></message>
 <message id="1328s"><translation>Fixé par l’enseignant : %1</translation></message>
 <message id="1329s"><translation>Toutes les gammes apparaissent ; ce choix ne compte pas.</translation></message>
+<message id="1330s"><translation>en partie muet</translation></message>
+<message id="1331s"><translation>hauteur imprécise</translation></message>
+<message id="1332s"><translation>autre octave</translation></message>
+<message id="1333s"><translation>%1 : %2 dans cet ambitus. Choisissez un instrument avec ✓.</translation></message>
 </context>
 </TS>

@@ -115,6 +115,18 @@ void Combo::setOnTop(std::vector<int> items) {
     tell(Aspect::Items);
 }
 
+void Combo::setNotes(std::vector<std::string> notes) {
+    if (notes == notes_) return;
+    notes_ = std::move(notes);
+    tell(Aspect::Items);
+}
+
+std::string Combo::shown(int i) const {
+    const auto index = static_cast<std::size_t>(i);
+    const std::string& note = index < notes_.size() ? notes_[index] : std::string();
+    return item(i).caption() + (note.empty() ? "" : " " + note);
+}
+
 void ListBox::click(int i) {
     check(i);
     listIndex_ = i;

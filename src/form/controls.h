@@ -148,10 +148,15 @@ class Combo : public ItemList {
     /// @throws run-time error 9 for one outside 0..count()-1.
     void setOnTop(std::vector<int> items);
     const std::vector<int>& onTop() const { return onTop_; }
+    /// What views say behind each item, of all or of none.
+    void setNotes(std::vector<std::string> notes);
+    /// An item as views say it.
+    std::string shown(int i) const;
     Handler onSelect;
 
   private:
     std::vector<int> onTop_;
+    std::vector<std::string> notes_;
 };
 
 /// A click on an item, from code or by the user, runs the handler, which finds it in `clicked`.

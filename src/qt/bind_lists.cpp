@@ -32,7 +32,7 @@ class ChoiceBox final : public QComboBox {
         const QSignalBlocker quiet(this);
         clear();
         const auto add = [this](int i) {
-            addItem(QString::fromStdString(control_.item(i).caption()).trimmed(), i);
+            addItem(QString::fromStdString(control_.shown(i)).trimmed(), i);
         };
         for (const int i : control_.onTop()) add(i);
         if (count() > 0) insertSeparator(count());

@@ -27,6 +27,9 @@ class MidiRecorder final : public sound::MidiOutput {
     int volumeRight() const override { return volume.second; }
     void setVolume(int left, int right) override;
     sound::SoundProblem problem() const override { return sound::SoundProblem::None; }
+    sound::Fitness fitness(int program, int lowest, int highest) const override {
+        return worth ? worth(program, lowest, highest) : sound::Fitness::Unknown;
+    }
 
     /// Notes (channel, number) that sound now.
     std::set<std::pair<int, int>> sounding() const;
@@ -40,6 +43,8 @@ class MidiRecorder final : public sound::MidiOutput {
     std::vector<sound::MidiEvent> queued;  ///< since the last stop
     std::vector<sound::MidiEvent> sends;   ///< sent at once
     std::vector<std::int64_t> starts;      ///< times of starting the queue
+    /// What instruments are worth; nothing while unknown.
+    std::function<sound::Fitness(int program, int lowest, int highest)> worth;
     std::pair<int, int> volume{40000, 30000};
     std::vector<std::pair<int, int>> volumes;  ///< every volume set
     std::function<void()> volumeSet;           ///< called after each of them

@@ -75,6 +75,7 @@ void Einstellung::Verbinden() {
                                }};
     scales_.onShown = [this](bool shown) { pickingShown(shown); };
     scales_.onJudged = [this](bool enough) { cmdOK.enabled = enough; };
+    range_.onChosen = [this] { sound_.showFitness(); };
     sound_.onCheck = [this](bool running) { checkRuns(running); };
     cmdOK.onClick = {"cmdOK_click.", [this] { cmdOK_click(); }};
     cmdZurueck.onClick = {"cmdZurueck_click.", [this] { cmdZurueck_click(); }};

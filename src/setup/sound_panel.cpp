@@ -1,5 +1,6 @@
 #include "setup/sound_panel.h"
 
+#include "base/array.h"
 #include "base/rounding.h"
 #include "core/katalog.h"
 #include "core/wort.h"
@@ -8,6 +9,7 @@
 #include "sound/problem.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace setup {
@@ -26,6 +28,17 @@ base::i16 korrektur(int stimmung, int note) {
     if (stimmung == katalog::stimmung::pythagoreisch && !weiss) return 0;
     return katalog::tuningCorrection(stimmung, 0, weiss ? static_cast<int>(grad) : 0, klasse);
 }
+
+/// How it is said what an instrument is worth.
+struct Worth {
+    const char* sign;
+    wort::Id word;
+};
+constexpr std::array worths{Worth{"", wort::none}, Worth{"✓", wort::none},
+                            Worth{"◐", wort::partlySilent}, Worth{"≈", wort::unclearPitch},
+                            Worth{"↕", wort::otherOctave}};
+
+const Worth& worthOf(sound::Fitness fitness) { return base::at(worths, static_cast<int>(fitness)); }
 
 }  // namespace
 
@@ -69,6 +82,7 @@ void SoundPanel::KlangEinrichten() {
     midi_.MidiInit(MIDI);
     MIDI.queueEmpty = [this] { form_.guard("QueueEmpty.", [this] { QueueEmpty(); }); };
     problemTold_ = MIDI.problemChanged.connect([this] { TonHinweisZeigen(); });
+    fitnessKnown_ = MIDI.fitnessKnown.connect([this] { showFitness(); });
     sound::Klangliste(ComboPatch, p.worte);
     ComboPatch.setOnTop(z.usedInstruments);
     ComboPatch.setListIndex(0);
@@ -100,6 +114,23 @@ void SoundPanel::openTempo() {
 void SoundPanel::ComboPatch_click() {
     z.patch.fill(ComboPatch.listIndex());
     midi_.setInstruments(z.patch);
+    TonHinweisZeigen();
+}
+
+sound::Fitness SoundPanel::fitness(int program) const {
+    return MIDI.fitness(program, z.FrquMinAkt, z.FrquMaxAkt);
+}
+
+void SoundPanel::showFitness() {
+    if (!klingt(zweig_) || ComboPatch.count() == 0) return;
+    std::vector<std::string> notes;
+    for (int program = 0; program < ComboPatch.count(); ++program) {
+        const Worth& worth = worthOf(fitness(program));
+        notes.emplace_back(worth.sign);
+        if (worth.word != wort::none) notes.back() += " " + p.Wort(worth.word);
+    }
+    ComboPatch.setNotes(std::move(notes));
+    TonHinweisZeigen();
 }
 
 void SoundPanel::rememberInstrument() {
@@ -153,6 +184,16 @@ void SoundPanel::KlangKontrolleAbschliessen() {
     onCheck(false);
 }
 
-void SoundPanel::TonHinweisZeigen() { sound::showProblem(tonHinweis, MIDI.problem(), p.worte); }
+/// Why nothing can be heard, or else what is wrong with the instrument that is chosen.
+void SoundPanel::TonHinweisZeigen() {
+    sound::showProblem(tonHinweis, MIDI.problem(), p.worte);
+    const int program = ComboPatch.listIndex();
+    if (tonHinweis.visible() || program < 0) return;
+    const wort::Id word = worthOf(fitness(program)).word;
+    if (word == wort::none) return;
+    tonHinweis.caption = core::eingesetzt(p.Wort(wort::instrumentInRange),
+                                          ComboPatch.item(program).caption(), p.Wort(word));
+    tonHinweis.visible = true;
+}
 
 }  // namespace setup

@@ -20,6 +20,8 @@ class SoundPanel {
 
     /// Opens the device, offers what can be chosen and chooses.
     void KlangEinrichten();
+    /// Says of the instruments what they are worth in the range of notes that is chosen.
+    void showFitness();
     /// Ends all sound.
     void silence();
     /// The device tells this form nothing more.
@@ -34,6 +36,7 @@ class SoundPanel {
 
   private:
     void ComboPatch_click();
+    sound::Fitness fitness(int program) const;
     void HSliderVolume_change();
     void klang_contr_click();
     void QueueEmpty();
@@ -48,7 +51,7 @@ class SoundPanel {
     Zweig zweig_;
     const bool& abbruch_;
     bool verklungen_ = false;  ///< a check has ended and was not closed yet
-    form::Connection formularFort_, problemTold_;
+    form::Connection formularFort_, problemTold_, fitnessKnown_;
 
     form::Combo ComboPatch;
     form::ControlArray<form::Label> lb15;

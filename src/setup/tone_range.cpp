@@ -60,6 +60,7 @@ void ToneRange::CmbOktAnz_click() {
 void ToneRange::CmbOktBer_click() {
     z.FrquMinAkt = tiefste + 12 * CmbOktBer.listIndex();
     z.FrquMaxAkt = z.FrquMinAkt + 12 * (z.oktAnz + kleinste(zweig_));
+    if (onChosen) onChosen();
 }
 
 }  // namespace setup

@@ -2,12 +2,17 @@
 #include "core/formular.h"
 #include "setup/regeln.h"
 
+#include <functional>
+
 namespace setup {
 
 /// The range of notes: its size in octaves, and where it lies.
 class ToneRange {
   public:
     ToneRange(core::Formular& form, core::Programm& programm, Zweig zweig, form::Group& gruppe);
+
+    /// Another range was chosen.
+    std::function<void()> onChosen;
 
     /// Offers the sizes and chooses the smallest.
     void fill();

@@ -26,6 +26,10 @@ struct MidiDevice {
 /// Why nothing can be heard; `None` while everything is in order.
 enum class SoundProblem { None, NoSoundfont, NoAudioDevice, DeviceLost, NoLibrary };
 
+/// What an instrument is worth for a range of notes; `Unknown` while it has not been measured, and
+/// on devices that cannot be.
+enum class Fitness { Unknown, Fit, PartlySilent, UnclearPitch, OtherOctave };
+
 /// Everything the drill needs of a MIDI output. It exists so that the drill can play to a
 /// synthesiser, to an external port, to a recorder or to nothing. Calls come from one thread.
 class MidiOutput {
@@ -61,11 +65,17 @@ class MidiOutput {
     virtual void setVolume(int left, int right) = 0;
 
     virtual SoundProblem problem() const = 0;
+    /// Of a General MIDI program, from a lowest to a highest MIDI note.
+    virtual Fitness fitness(int /*program*/, int /*lowest*/, int /*highest*/) const {
+        return Fitness::Unknown;
+    }
 
     /// Raised once, on the drill's thread, after the last event of a started queue was played.
     std::function<void()> queueEmpty;
     /// Raised, on the drill's thread, when `problem()` has changed.
     form::Signal<> problemChanged;
+    /// Raised, on the drill's thread, when `fitness()` has become known of some instruments.
+    form::Signal<> fitnessKnown;
 };
 
 }  // namespace sound

@@ -62,15 +62,21 @@ fs::path measureWhole(const std::string& font, const fs::path& folder,
     return file;
 }
 
-MeasuredFont::MeasuredFont(std::string font, TableFolders folders)
+MeasuredFont::MeasuredFont(std::string font, TableFolders folders, std::function<void()> known)
     : font_(std::move(font)),
       folders_(std::move(folders)),
+      tell_(known ? std::move(known) : [] {}),
       thread_([this](const std::stop_token& stop) { run(stop); }) {}
 
 MeasuredFont::~MeasuredFont() = default;
 
 std::shared_ptr<const Instrument> MeasuredFont::find(int program) {
     return wait(program, std::chrono::milliseconds(0));
+}
+
+std::shared_ptr<const Instrument> MeasuredFont::known(int program) {
+    const std::lock_guard lock(mutex_);
+    return known_.at(static_cast<std::size_t>(program));
 }
 
 std::shared_ptr<const Instrument> MeasuredFont::wait(int program,
@@ -99,6 +105,7 @@ void MeasuredFont::run(const std::stop_token& stop) {
         if (!table) table.emplace(origin);
         for (int program = 0; program < programCount; ++program)
             if (const Instrument* instrument = table->find(program)) publish(program, *instrument);
+        tell_();
         if (!table->complete()) measure(*table, stop);
     } catch (const std::exception&) {
         // The instruments stay as they are; that they sound at all is the player's business.
@@ -120,12 +127,15 @@ int MeasuredFont::next(const FontTable& table) {
 }
 
 void MeasuredFont::measure(FontTable& table, const std::stop_token& stop) {
+    constexpr int often = 16;
+    int measured = 0;
     Meter meter(font_);
     for (int program = next(table); program >= 0 && !stop.stop_requested(); program = next(table)) {
         const auto instrument = meter.measure(program, [&] { return stop.stop_requested(); });
         if (!instrument) break;
         table.set(program, *instrument);
         publish(program, *instrument);
+        if (++measured % often == 1 || table.complete()) tell_();
     }
     keep(table);
 }

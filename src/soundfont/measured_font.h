@@ -39,7 +39,8 @@ std::filesystem::path measureWhole(const std::string& font, const std::filesyste
 /// the next time. May be used from any thread.
 class MeasuredFont {
   public:
-    MeasuredFont(std::string font, TableFolders folders);
+    /// @param known called on a thread of its own when instruments have become known.
+    MeasuredFont(std::string font, TableFolders folders, std::function<void()> known = {});
     /// Takes as long as measuring one note, and keeps what was measured.
     ~MeasuredFont();
     MeasuredFont(const MeasuredFont&) = delete;
@@ -47,6 +48,8 @@ class MeasuredFont {
 
     /// nullptr for an instrument that is not known yet; it will be measured next.
     std::shared_ptr<const Instrument> find(int program);
+    /// The same without a wish.
+    std::shared_ptr<const Instrument> known(int program);
     /// The same, but waits for it.
     std::shared_ptr<const Instrument> wait(int program, std::chrono::milliseconds patience);
 
@@ -62,6 +65,7 @@ class MeasuredFont {
 
     std::string font_;
     TableFolders folders_;
+    std::function<void()> tell_;
     std::mutex mutex_;
     std::condition_variable changed_;
     Known known_{programCount};

@@ -90,6 +90,11 @@ class SynthOutput : public sound::MidiOutput {
         return isOpen() ? player_->problem() : builtIn_.problem();
     }
 
+    sound::Fitness fitness(int program, int lowest, int highest) const override {
+        const Player& asked = isOpen() ? *player_ : static_cast<const Player&>(builtIn_);
+        return asked.fitness(program, lowest, highest);
+    }
+
   private:
     bool isPort(int id) const { return id >= 0 && id < static_cast<int>(ports_.size()); }
     bool hasVolume() const { return isOpen() && player_->hasVolume(); }
@@ -115,7 +120,8 @@ class SynthOutput : public sound::MidiOutput {
 
     Player::Reports reports() {
         return {.ended = [this](std::uint32_t run) { raiseEnd(run); },
-                .problemChanged = [this] { raiseProblem(); }};
+                .problemChanged = [this] { raiseProblem(); },
+                .fitnessKnown = [this] { raise([this] { fitnessKnown(); }); }};
     }
 
     void raiseEnd(std::uint32_t run) {

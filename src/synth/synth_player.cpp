@@ -54,6 +54,23 @@ void SynthPlayer::put(Command command) {
     mailbox_.put(std::move(command));
 }
 
+sound::Fitness SynthPlayer::fitness(int program, int lowest, int highest) const {
+    const auto measured = font();
+    const auto instrument = measured ? measured->known(program) : nullptr;
+    if (!instrument) return sound::Fitness::Unknown;
+    switch (instrument->fitness(lowest, highest)) {
+        case soundfont::Fitness::Fit:
+            return sound::Fitness::Fit;
+        case soundfont::Fitness::PartlySilent:
+            return sound::Fitness::PartlySilent;
+        case soundfont::Fitness::UnclearPitch:
+            return sound::Fitness::UnclearPitch;
+        case soundfont::Fitness::OtherOctave:
+            return sound::Fitness::OtherOctave;
+    }
+    return sound::Fitness::Unknown;
+}
+
 void SynthPlayer::setVolume(int left, int right) {
     constexpr float full = sound::MidiOutput::maxVolume;
     engine_.setVolume(static_cast<float>(left) / full, static_cast<float>(right) / full);
@@ -75,14 +92,15 @@ void SynthPlayer::findFont() {
     if (font.empty() || !engine_.loadFont(font)) return;
     if (options_.tables) {
         const std::lock_guard lock(fontMutex_);
-        font_ = std::make_shared<soundfont::MeasuredFont>(font, *options_.tables);
+        font_ = std::make_shared<soundfont::MeasuredFont>(font, *options_.tables,
+                                                          reports_.fitnessKnown);
     }
 #ifdef __GLIBC__
     malloc_trim(0);  // parsing leaves a tenth of the font's size behind as free memory
 #endif
 }
 
-std::shared_ptr<soundfont::MeasuredFont> SynthPlayer::font() {
+std::shared_ptr<soundfont::MeasuredFont> SynthPlayer::font() const {
     const std::lock_guard lock(fontMutex_);
     return font_;
 }

@@ -26,6 +26,7 @@ class SynthPlayer : public Player {
 
     void put(Command command) override;
     sound::SoundProblem problem() const override { return problem_; }
+    sound::Fitness fitness(int program, int lowest, int highest) const override;
     bool hasVolume() const override { return true; }
     void setVolume(int left, int right) override;
 
@@ -39,7 +40,7 @@ class SynthPlayer : public Player {
     void playOut();
     void pull(WavFile* file);
     void pullToFile();
-    std::shared_ptr<soundfont::MeasuredFont> font();
+    std::shared_ptr<soundfont::MeasuredFont> font() const;
     bool idle() const { return mailbox_.empty() && !engine_.busy(); }
     std::unique_ptr<AudioDevice> openDevice();
     void tell(sound::SoundProblem device);
@@ -47,7 +48,7 @@ class SynthPlayer : public Player {
     SynthOptions options_;
     Reports reports_;
     Mailbox mailbox_;
-    std::mutex fontMutex_;
+    mutable std::mutex fontMutex_;
     std::shared_ptr<soundfont::MeasuredFont> font_;
     int program_ = 0;  ///< what was chosen last, for the next task
     Engine engine_;

@@ -29,6 +29,7 @@ void LazyOutput::load() {
         if (queueEmpty) queueEmpty();
     };
     told_ = real_->problemChanged.connect([this] { problemChanged(); });
+    known_ = real_->fitnessKnown.connect([this] { fitnessKnown(); });
 }
 
 }  // namespace zepha9

@@ -30,6 +30,9 @@ class LazyOutput final : public sound::MidiOutput {
     sound::SoundProblem problem() const override {
         return real_ ? real_->problem() : sound::SoundProblem::None;
     }
+    sound::Fitness fitness(int program, int lowest, int highest) const override {
+        return real_ ? real_->fitness(program, lowest, highest) : sound::Fitness::Unknown;
+    }
 
   private:
     sound::MidiOutput& real();
@@ -38,7 +41,7 @@ class LazyOutput final : public sound::MidiOutput {
     synth::Post post_;
     std::function<void(const std::string&)> missing_;
     std::unique_ptr<sound::MidiOutput> real_;
-    form::Connection told_;
+    form::Connection told_, known_;
 };
 
 }  // namespace zepha9

@@ -130,6 +130,26 @@ TEST_F(SetUp, TheSoundCheckPlaysTheRangeInTheTuning) {
     }
 }
 
+TEST_F(SetUp, InstrumentsSayWhatTheyAreWorthInTheRange) {
+    auto& instruments = get<form::Combo>("ComboPatch");
+    const auto& hint = get<form::Label>("tonHinweis");
+    EXPECT_EQ(instruments.shown(67), "W1087") << "as long as nothing is known";
+    midi.worth = [](int program, int, int highest) {
+        const bool silent = program == 67 && highest > 80;
+        return silent ? sound::Fitness::PartlySilent : sound::Fitness::Fit;
+    };
+    midi.fitnessKnown();
+    EXPECT_EQ(instruments.shown(67), "W1087 ✓");
+    instruments.setListIndex(67);
+    EXPECT_FALSE(hint.visible());
+    get<form::Combo>("CmbOktBer").setListIndex(3);
+    EXPECT_EQ(instruments.shown(67), "W1087 ◐ W1330");
+    EXPECT_EQ(hint.caption(), "W1333");
+    EXPECT_EQ(instruments.text(), "Baritone Sax") << "records say what they always said";
+    instruments.setListIndex(0);
+    EXPECT_FALSE(hint.visible());
+}
+
 TEST_F(SetUp, ASoundCheckIsClosedWhateverItEndsBehind) {
     const auto closed = [&] {
         return button("klang_contr").enabled() && button("cmdOK").enabled();
