@@ -527,5 +527,8 @@
 <message id="1331s"><translation>Tonhöhe unklar</translation></message>
 <message id="1332s"><translation>andere Oktave</translation></message>
 <message id="1333s"><translation>%1: %2 in diesem Tonraum. Wählen Sie ein Instrument mit ✓.</translation></message>
+<message id="1334s"><translation>&amp;Klänge:</translation></message>
+<message id="1335s"><translation>wie üblich</translation></message>
+<message id="1336s"><translation>%1 (fehlt)</translation></message>
 </context>
 </TS>

@@ -527,5 +527,8 @@
 <message id="1331s"><translation>unclear pitch</translation></message>
 <message id="1332s"><translation>other octave</translation></message>
 <message id="1333s"><translation>%1: %2 in this range. Choose an instrument with ✓.</translation></message>
+<message id="1334s"><translation>Sou&amp;nds:</translation></message>
+<message id="1335s"><translation>the usual ones</translation></message>
+<message id="1336s"><translation>%1 (missing)</translation></message>
 </context>
 </TS>

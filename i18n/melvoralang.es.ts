@@ -527,5 +527,8 @@
 <message id="1331s"><translation>altura imprecisa</translation></message>
 <message id="1332s"><translation>otra octava</translation></message>
 <message id="1333s"><translation>%1: %2 en este ámbito. Elija un instrumento con ✓.</translation></message>
+<message id="1334s"><translation>S&amp;onidos:</translation></message>
+<message id="1335s"><translation>los habituales</translation></message>
+<message id="1336s"><translation>%1 (falta)</translation></message>
 </context>
 </TS>

@@ -527,5 +527,8 @@
 <message id="1331s"><translation>hauteur imprécise</translation></message>
 <message id="1332s"><translation>autre octave</translation></message>
 <message id="1333s"><translation>%1 : %2 dans cet ambitus. Choisissez un instrument avec ✓.</translation></message>
+<message id="1334s"><translation>S&amp;ons :</translation></message>
+<message id="1335s"><translation>habituels</translation></message>
+<message id="1336s"><translation>%1 (absent)</translation></message>
 </context>
 </TS>

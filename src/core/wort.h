@@ -400,6 +400,11 @@ enum class Id : int {
     otherOctave = 1332,        // andere Oktave
     instrumentInRange = 1333,  // %1: %2 in diesem Tonraum. Wählen Sie …
 
+    // Host: soundfonts
+    soundfontLabel = 1334,    // &Klänge:
+    usualSoundfont = 1335,    // wie üblich
+    missingSoundfont = 1336,  // %1 (fehlt)
+
     // Settings files: what is told of them
     fileLimits = 1325,    // Einzelne Skalen hält eine Datei nicht fest: …
     chooseFile = 1326,    // Datei wählen

@@ -28,6 +28,7 @@ Host::Host(Place place, Words& words)
       collector_(QDir(place_.data).absoluteFilePath("spool"), store_.results) {
     user_ = store_.users.find(store_.settings.get("user"));
     midiDevice_ = store_.settings.get("midi");
+    soundfont_ = store_.settings.get("soundfont");
     words_.choose(store_.settings.get("language"));
 
     connect(&module_, &ModuleProcess::started, this, &Host::moduleStarted);
@@ -116,6 +117,11 @@ void Host::chooseMidiDevice(const QString& name) {
     emit midiDeviceChanged();
 }
 
+void Host::chooseSoundfont(const QString& file) {
+    inTurn([this, file] { store_.settings.set("soundfont", file); });
+    soundfont_ = file;
+}
+
 int Host::midiNumber() const {
     return midiDevice_.isEmpty() ? builtInSynthesiser : deviceNumber(midiDevice_, midiPorts());
 }
@@ -138,9 +144,9 @@ bool Host::startModule(const QString& module, const QString& settingsFile) {
     handedOver_ = false;
     guarded([this] { resultBefore_ = store_.results.newest(); });
     prepareSpool();
-    module_.start(
-        module, arguments,
-        {place_.address, collector_.folder(), QDir(place_.data).absoluteFilePath("fonts")});
+    module_.start(module, arguments,
+                  {place_.address, collector_.folder(), QDir(place_.data).absoluteFilePath("fonts"),
+                   soundfont_});
     return true;
 }
 

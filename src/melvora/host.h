@@ -50,6 +50,10 @@ class Host : public QObject {
     /// @return false when the language is not installed.
     bool chooseLanguage(const QString& language);
 
+    /// Path of the chosen soundfont; "" for the usual one.
+    const QString& soundfont() const { return soundfont_; }
+    void chooseSoundfont(const QString& file);
+
     /// Steady name of the chosen MIDI port; "" for the built-in synthesiser.
     const QString& midiDevice() const { return midiDevice_; }
     void chooseMidiDevice(const QString& name);
@@ -121,6 +125,7 @@ class Host : public QObject {
     QTimer again_;
     std::optional<User> user_;
     QString midiDevice_;
+    QString soundfont_;
     bool handedOver_ = false;
     int resultBefore_ = 0;  ///< number of the newest result when the module was started, or told
 };

@@ -1,5 +1,7 @@
 #include "melvora/module_process.h"
 
+#include "fontfile/font_files.h"
+
 #include <QCoreApplication>
 #include <QDir>
 
@@ -57,6 +59,10 @@ void ModuleProcess::start(const QString& module, const QStringList& arguments,
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert("temp", where.spool);
     environment.insert("MELVORA_FONT_TABLES", where.fontTables);
+    // One that is no longer there would be missed; the usual one is played instead.
+    if (!environment.contains("MELVORA_SOUNDFONT") &&
+        fontfile::isSoundfont(where.soundfont.toStdString()))
+        environment.insert("MELVORA_SOUNDFONT", where.soundfont);
     environment.insert("MELVORA_HOST_ADDRESS", where.address);
     process_.setProcessEnvironment(environment);
     process_.start(QDir(folderOfModules()).absoluteFilePath(module), arguments);

@@ -21,6 +21,7 @@ class ModuleProcess : public QObject {
         QString address;     ///< where the module finds the host
         QString spool;       ///< folder for its result records
         QString fontTables;  ///< folder for what it measures of soundfonts
+        QString soundfont;   ///< to play with, unless the environment names one; "" for the usual
     };
     /// Starts a module from MELVORA_MODULE_PATH, else from the folder of this program.
     /// Does nothing while one runs.

@@ -5,7 +5,7 @@
 
 namespace melvora {
 
-/// Choices of the host itself, by name: "language", "midi", "user".
+/// Choices of the host itself, by name: "language", "midi", "soundfont", "user".
 class Settings {
   public:
     explicit Settings(Database& database) : database_(database) {}

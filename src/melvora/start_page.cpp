@@ -1,10 +1,12 @@
 #include "melvora/start_page.h"
 
 #include "core/wort.h"
+#include "fontfile/font_files.h"
 #include "melvora/midi_ports.h"
 #include "melvora/wrapped.h"
 #include "suite/look.h"
 
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QSignalBlocker>
 
@@ -39,6 +41,8 @@ StartPage::StartPage(Host& host, QWidget* parent)
       language_(new Combo(this)),
       midiLabel_(new QLabel(this)),
       midi_(new Combo(this, [this] { showMidiDevices(); })),
+      fontLabel_(new QLabel(this)),
+      font_(new Combo(this, [this] { showFonts(); })),
       locked_(new QLabel(this)),
       start_(new QPushButton(this)),
       description_(new QLabel(this)) {
@@ -55,6 +59,8 @@ StartPage::StartPage(Host& host, QWidget* parent)
             [this] { host_.chooseLanguage(language_->currentData().toString()); });
     connect(midi_, &QComboBox::activated, this,
             [this] { host_.chooseMidiDevice(midi_->currentData().toString()); });
+    connect(font_, &QComboBox::activated, this,
+            [this] { host_.chooseSoundfont(font_->currentData().toString()); });
     connect(manage_, &QPushButton::clicked, this, &StartPage::usersWanted);
     connect(start_, &QPushButton::clicked, this,
             [this] { host_.startModule(ModuleProcess::known().first()); });
@@ -83,7 +89,7 @@ void StartPage::layOut() {
     description_->setAlignment(Qt::AlignHCenter);
     description_->setForegroundRole(QPalette::PlaceholderText);
     for (QWidget* control :
-         std::initializer_list<QWidget*>{user_, logIn_, logOut_, manage_, language_, midi_})
+         std::initializer_list<QWidget*>{user_, logIn_, logOut_, manage_, language_, midi_, font_})
         control->setMinimumHeight(2 * fontMetrics().height());
     for (QLabel* line : {loggedIn_, locked_}) {
         line->setWordWrap(true);
@@ -92,6 +98,7 @@ void StartPage::layOut() {
     userLabel_->setBuddy(user_);
     languageLabel_->setBuddy(language_);
     midiLabel_->setBuddy(midi_);
+    fontLabel_->setBuddy(font_);
 
     auto* choices = new QGridLayout;
     choices->setHorizontalSpacing(suite::margin);
@@ -107,7 +114,9 @@ void StartPage::layOut() {
     choices->addWidget(language_, 2, 1);
     choices->addWidget(midiLabel_, 3, 0);
     choices->addWidget(midi_, 3, 1);
-    choices->addWidget(locked_, 4, 0, 1, 4);
+    choices->addWidget(fontLabel_, 4, 0);
+    choices->addWidget(font_, 4, 1);
+    choices->addWidget(locked_, 5, 0, 1, 4);
 
     auto* column = new QVBoxLayout;
     column->setSpacing(0);
@@ -132,7 +141,7 @@ void StartPage::layOut() {
     page->addStretch(1);
     page->addWidget(middle, 100);
     page->addStretch(1);
-    QWidget* order[] = {start_, user_, logIn_, logOut_, manage_, language_, midi_};
+    QWidget* order[] = {start_, user_, logIn_, logOut_, manage_, language_, midi_, font_};
     for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -148,12 +157,14 @@ void StartPage::retranslate() {
     locked_->setText(words.wort(wort::lockedNow));
     languageLabel_->setText(words.wort(wort::languageLabel));
     midiLabel_->setText(words.wort(wort::midiDeviceLabel));
+    fontLabel_->setText(words.wort(wort::soundfontLabel));
     start_->setText(words.wort(wort::practiseScales));
     start_->setAccessibleDescription(words.wort(wort::practiseScalesAbout));
     description_->setText(words.wort(wort::practiseScalesAbout));
     select(language_, words.language());
     showUsers();
     showMidiDevices();
+    showFonts();
     showModule();
 }
 
@@ -184,6 +195,19 @@ void StartPage::showChoice() {
 void StartPage::logIn(const QString& key) {
     user_->setFocus();
     host_.logIn(key);
+}
+
+void StartPage::showFonts() {
+    const QString chosen = host_.soundfont();
+    const QSignalBlocker silence(font_);
+    font_->clear();
+    font_->addItem(host_.words().wort(wort::usualSoundfont), QString());
+    for (const auto& file : fontfile::installedFonts())
+        font_->addItem(QString::fromStdString(file.stem()), QString::fromStdString(file));
+    if (font_->findData(chosen) < 0)
+        font_->addItem(host_.words().wort(wort::missingSoundfont).arg(QFileInfo(chosen).baseName()),
+                       chosen);
+    select(font_, chosen);
 }
 
 void StartPage::showMidiDevices() {

@@ -22,6 +22,8 @@ class StartPage final : public Page {
     void showUsers();
     /// Lists the MIDI ports that are there now.
     void showMidiDevices();
+    /// Lists the soundfonts that are installed now.
+    void showFonts();
     void showModule();
 
   signals:
@@ -46,6 +48,8 @@ class StartPage final : public Page {
     Combo* language_;
     QLabel* midiLabel_;
     Combo* midi_;
+    QLabel* fontLabel_;
+    Combo* font_;
     QLabel* locked_;
     QPushButton* start_;
     QLabel* description_;

@@ -1,8 +1,8 @@
 #include "soundfont/meter.h"
 
+#include "fontfile/font_files.h"
 #include "soundfont/fluid_error.h"
 #include "soundfont/fluid_settings.h"
-#include "soundfont/font_file.h"
 
 #include <array>
 #include <cmath>
@@ -25,7 +25,7 @@ double frequencyOf(int key) { return 440 * std::exp2((key - 69) / 12.0); }
 
 Meter::Meter(const std::string& font)
     : settings_(makeSettings()), synth_(made(new_fluid_synth(settings_.get()), "a synthesiser")) {
-    if (!isSoundfont(font)) throw std::runtime_error(font + ": is no soundfont, or cannot be read");
+    if (!fontfile::isSoundfont(font)) throw std::runtime_error(font + ": is no soundfont, or cannot be read");
     if (fluid_synth_sfload(synth_.get(), font.c_str(), 1) == FLUID_FAILED)
         throw std::runtime_error(font + ": this soundfont is damaged");
 }

@@ -1,8 +1,8 @@
 #include "synth/synth_options.h"
 
+#include "fontfile/font_files.h"
 #include "soundfont/fluid_error.h"
 #include "soundfont/fluid_handle.h"
-#include "soundfont/font_file.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -25,17 +25,6 @@ std::string libraryDefault() {
     return file;
 }
 
-/// The soundfonts of a folder in the order of their names; none when the folder is not there.
-std::vector<fs::path> fontsIn(const char* folder) {
-    std::vector<fs::path> fonts;
-    std::error_code none;
-    for (const auto& entry : fs::directory_iterator(folder, none)) {
-        if (soundfont::isSoundfont(entry.path())) fonts.push_back(entry.path());
-    }
-    std::ranges::sort(fonts);
-    return fonts;
-}
-
 }  // namespace
 
 SynthOptions SynthOptions::fromEnvironment() {
@@ -48,14 +37,10 @@ SynthOptions SynthOptions::fromEnvironment() {
 }
 
 std::string findSoundfont(const std::string& wanted) {
-    if (!wanted.empty()) return soundfont::isSoundfont(wanted) ? wanted : "";
-    if (std::string file = libraryDefault(); soundfont::isSoundfont(file)) return file;
-    for (const char* folder :
-         {"/usr/share/sounds/sf2", "/usr/share/sounds/sf3", "/usr/share/soundfonts"}) {
-        const auto fonts = fontsIn(folder);
-        if (!fonts.empty()) return fonts.front();
-    }
-    return "";
+    if (!wanted.empty()) return fontfile::isSoundfont(wanted) ? wanted : "";
+    if (std::string file = libraryDefault(); fontfile::isSoundfont(file)) return file;
+    const auto fonts = fontfile::installedFonts();
+    return fonts.empty() ? "" : fonts.front().string();
 }
 
 }  // namespace synth

@@ -1,4 +1,5 @@
 #include "core/wort.h"
+#include "fontfile/font_files.h"
 #include "melvora/main_window.h"
 #include "melvora/record_html.h"
 #include "melvora/requests.h"
@@ -241,6 +242,21 @@ TEST_F(WindowTest, AUserIsChosenFirstAndThenLoggedInByAButton) {
     host_.removeUser("anna");
     EXPECT_EQ(host_.userKey(), nobody);
     EXPECT_EQ(combo->findData("anna"), -1);
+}
+
+TEST_F(WindowTest, ASoundfontIsChosenKeptAndMissedWhenItHasGone) {
+    const auto fonts = fontfile::installedFonts();
+    if (fonts.empty()) GTEST_SKIP() << "no soundfont is installed";
+    const auto file = QString::fromStdString(fonts.back());
+    QComboBox* list = comboWith(file);
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->count(), static_cast<int>(fonts.size()) + 1) << "and the usual one";
+    list->setCurrentIndex(list->findData(file));
+    emit list->activated(list->currentIndex());
+    EXPECT_EQ(Host({folder_.path(), "unix:path=/nowhere", {}}, words_).soundfont(), file);
+    host_.chooseSoundfont("/gone/Old.sf2");
+    host_.chooseLanguage("English");
+    EXPECT_EQ(comboWith("/gone/Old.sf2")->currentText(), "Old (missing)");
 }
 
 TEST_F(WindowTest, TheWheelChangesAListOnlyWhileItHasTheFocus) {
