@@ -76,9 +76,12 @@ User::User(drill::Drill& drill, form::VirtualTime& loop, Answers& answers, Watch
     form::Forms& forms = drill.programm.forms;
     made_ = forms.made.connect([this](form::Form& form) {
         if (auto* sheet = dynamic_cast<worksheets::Worksheet*>(&form)) seat(*sheet);
-        if (form.name() == "testergebnis" && pupil_) pupil_->readResult(form, [] {});
+        if (form.name() != "testergebnis") return;
+        boxesBelow_ = answers_.open();
+        if (pupil_) pupil_->readResult(form, [] {});
     });
     gone_ = forms.gone.connect([this](form::Form& form) {
+        if (form.name() == "testergebnis") boxesBelow_ = 0;
         if (&form != sheet_ && form.name() != "testergebnis") return;
         standUp();
         if (&form == sheet_) sheet_ = nullptr;
@@ -127,11 +130,11 @@ void User::plan() {
 /// The form that the user has in front: one that is modal, or any that can be seen.
 form::Form* User::before() {
     form::Forms& forms = drill_.programm.forms;
-    for (const char* name : {"frmMessage", "frmSave", "frmLoad"})
+    for (const char* name : {"frmMessage", "frmSave", "frmLoad", "testergebnis"})
         if (form::Form* form = forms.loaded(name); form && form->visible()) return form;
     std::vector<form::Form*> seen;
     for (const char* name : {"grd_einst", "einstellung1", "einstellung1b", "arbeitsblatt1",
-                             "arbeitsblatt1b", "arbeitsblatt4", "arbeitsblatt4b", "testergebnis"})
+                             "arbeitsblatt1b", "arbeitsblatt4", "arbeitsblatt4b"})
         if (form::Form* form = forms.loaded(name); form && form->visible()) seen.push_back(form);
     if (seen.empty()) return nullptr;
     return seen[static_cast<std::size_t>(int(chance_.below(static_cast<int>(seen.size()))))];
@@ -139,7 +142,7 @@ form::Form* User::before() {
 
 void User::act() {
     plan();
-    if (!tally_.broken.empty() || answers_.open() || depth_ >= deepest) return;
+    if (!tally_.broken.empty() || answers_.open() > boxesBelow_ || depth_ >= deepest) return;
     watch_.look();
     if (watch_.ended()) return;
     form::Form* const form = before();

@@ -42,7 +42,8 @@ class User {
     base::Rnd& chance_;
     Tally& tally_;
     form::Connection hand_;
-    int depth_ = 0;  ///< actions inside each other: one within what another waits for
+    int boxesBelow_ = 0;  ///< that were open when the result form came over them
+    int depth_ = 0;       ///< actions inside each other: one within what another waits for
     int done_ = 0, left_ = 0;
     bool leaving_ = false;
     std::string impatient_;  ///< the form that is closed once more

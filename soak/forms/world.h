@@ -66,8 +66,8 @@ class Answers final : public form::Dialogs {
 
     /// A path that a user may name.
     std::string path();
-    /// A box is open: nothing else can be reached.
-    bool open() const { return open_ > 0; }
+    /// Boxes that are open: what was there before them cannot be reached.
+    int open() const { return open_; }
     /// Files may be damaged.
     bool damages = false;
 

@@ -2,6 +2,7 @@
 #include "form/ports.h"
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,7 @@ struct ScriptedDialogs final : form::Dialogs {
     std::vector<std::string> questions;  ///< "title|text", of files "title|proposal"
     std::deque<bool> answers;            ///< to the next questions
     bool otherwise = false;              ///< the answer when none is left
+    std::function<void()> whileAsked;    ///< what happens before a question is answered
     std::deque<std::string> files;       ///< what the file dialogs give; "" when none is left
 
     void message(form::Icon, const std::string& title, const std::string& text) override {
@@ -24,6 +26,7 @@ struct ScriptedDialogs final : form::Dialogs {
     }
     bool askYesNo(const std::string& title, const std::string& text) override {
         questions.push_back(title + "|" + text);
+        if (whileAsked) whileAsked();
         return next(answers, otherwise);
     }
     bool confirm(const std::string& title, const std::string& text) override {

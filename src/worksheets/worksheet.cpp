@@ -335,10 +335,16 @@ bool Worksheet::key(form::Key key) {
 void Worksheet::Uhrzeit_timer() {
     Uhr.caption = p.ports.loop.now().timeOfDay();
     if (!core::isTest(z)) return;
-    const bool timeOver = !run_.tenSecondsPassed();
+    timeUp_ = !run_.tenSecondsPassed();
     showStanding();
     turn(Turn::Clock);
-    if (!timeOver || leaving_) return;
+    if (!timeUp_) return;
+    Uhrzeit.stop();
+    if (!asking_) endByTime();
+}
+
+void Worksheet::endByTime() {
+    if (leaving_) return;
     leaving_ = true;
     stopAll();
     turn(Turn::RunEnded);
@@ -366,10 +372,13 @@ void Worksheet::unloading() {
 /// The key and the close box that leave do not end a test or an exam by mistake.
 void Worksheet::breakOff() {
     const bool asks = core::isTest(z) && begun_ && !run_.ended();
-    if (asks && !p.ports.dialogs.confirm(p.katalog.modus_name[z.uebungsmodus],
-                                         Wort(wort::breakOffQuestion)))
-        return;
-    zurueck.click();
+    if (!asks) return zurueck.click();
+    asking_ = true;
+    const bool leaves =
+        p.ports.dialogs.confirm(p.katalog.modus_name[z.uebungsmodus], Wort(wort::breakOffQuestion));
+    asking_ = false;
+    if (timeUp_) return endByTime();
+    if (leaves) zurueck.click();
 }
 
 void Worksheet::zurueck_click() {

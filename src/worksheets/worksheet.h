@@ -70,6 +70,7 @@ class Worksheet final : public core::Formular {
     void Weiterschalter();
     void offerWayOn();
     void Uhrzeit_timer();
+    void endByTime();
 
     void zurueck_click();
     void breakOff();
@@ -89,6 +90,8 @@ class Worksheet final : public core::Formular {
     bool begun_ = false;
     bool abbruch_ = true;
     bool leaving_ = false;
+    bool asking_ = false;  ///< whether the run is to be broken off: its end waits for the answer
+    bool timeUp_ = false;
     bool failed_ = false;  ///< something failed: the run cannot be kept
     bool red_ = false;     ///< the last answer was wrong and is shown on red
 

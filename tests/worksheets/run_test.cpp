@@ -28,9 +28,11 @@ void expectQuietHome(Practice& desk) {
     EXPECT_TRUE(std::filesystem::exists(desk.drill.xml.datei()));
 }
 
-/// The clock may run out while a task waits, sounds or is open.
+/// The clock may run out while a task waits, sounds or is open, or while it is asked whether to
+/// leave.
 TEST(Exam, EndsByTheClockAtAnyMoment) {
-    for (const int lead : {5000, 40, 80, 130, 1000, 3000}) {
+    constexpr int asked = 6000;
+    for (const int lead : {5000, 40, 80, 130, 1000, 3000, asked}) {
         SCOPED_TRACE(lead);
         Practice desk({.seed = 11});
         std::string total;
@@ -44,8 +46,15 @@ TEST(Exam, EndsByTheClockAtAnyMoment) {
         ASSERT_TRUE(desk.running());
         EXPECT_EQ(desk.caption("stop_uhr"), "W4610 W39410 W480");
         desk.click("CmdNextAufg");
-        desk.wait(lead + 400);
+        desk.wait(400);
+        desk.dialogs.whileAsked = [&] {
+            desk.wait(lead + 20000);
+            EXPECT_FALSE(desk.loaded("testergebnis")) << "the question is in front";
+        };
+        if (lead == asked) desk.sheet().closeBox();
+        desk.wait(lead);
         expectQuietHome(desk);
+        EXPECT_EQ(desk.dialogs.questions.size(), lead == asked ? 1U : 0U);
         EXPECT_EQ(total, "0.0%");
     }
 }
