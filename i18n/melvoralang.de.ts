@@ -530,5 +530,6 @@
 <message id="1334s"><translation>&amp;Klänge:</translation></message>
 <message id="1335s"><translation>wie üblich</translation></message>
 <message id="1336s"><translation>%1 (fehlt)</translation></message>
+<message id="1337s"><translation>fehlt, ein anderes erklingt</translation></message>
 </context>
 </TS>

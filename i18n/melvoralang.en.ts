@@ -530,5 +530,6 @@
 <message id="1334s"><translation>Sou&amp;nds:</translation></message>
 <message id="1335s"><translation>the usual ones</translation></message>
 <message id="1336s"><translation>%1 (missing)</translation></message>
+<message id="1337s"><translation>missing, another one sounds</translation></message>
 </context>
 </TS>

@@ -530,5 +530,6 @@
 <message id="1334s"><translation>S&amp;onidos:</translation></message>
 <message id="1335s"><translation>los habituales</translation></message>
 <message id="1336s"><translation>%1 (falta)</translation></message>
+<message id="1337s"><translation>falta, suena otro</translation></message>
 </context>
 </TS>

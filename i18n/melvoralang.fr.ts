@@ -530,5 +530,6 @@
 <message id="1334s"><translation>S&amp;ons :</translation></message>
 <message id="1335s"><translation>habituels</translation></message>
 <message id="1336s"><translation>%1 (absent)</translation></message>
+<message id="1337s"><translation>absent, un autre le remplace</translation></message>
 </context>
 </TS>

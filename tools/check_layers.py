@@ -26,8 +26,8 @@ LIBRARIES = [
     (re.compile(r"fontconfig(/.*)?\.h"), {"suite"}),
     (re.compile(r"pugi\w*\.hpp"), {"results", "setup", "sim", "melvora"}),
     (re.compile(r"expat\.h"), {"settingsfile"}),
-    (re.compile(r"unistd\.h"), {"base", "ports", "synth", "hostlink", "qt", "sim", "melvora",
-                                "zepha9"}),
+    (re.compile(r"unistd\.h"), {"base", "ports", "soundfont", "synth", "hostlink", "qt", "sim",
+                                "melvora", "zepha9"}),
     # The operating system: headers of C that the standard library has under another name are
     # meant too.
     (re.compile(r"[\w/]+\.h"), {"ports", "soundfont", "synth", "hostlink", "qt", "sim", "melvora", "zepha9"}),

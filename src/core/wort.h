@@ -398,6 +398,7 @@ enum class Id : int {
     partlySilent = 1330,       // teils stumm
     unclearPitch = 1331,       // Tonhöhe unklar
     otherOctave = 1332,        // andere Oktave
+    noSuchInstrument = 1337,   // fehlt, ein anderes erklingt
     instrumentInRange = 1333,  // %1: %2 in diesem Tonraum. Wählen Sie …
 
     // Host: soundfonts

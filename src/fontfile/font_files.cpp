@@ -19,6 +19,14 @@ bool isSoundfont(const fs::path& file) {
     return text.starts_with("RIFF") && text.ends_with("sfbk");
 }
 
+Mark markOf(const fs::path& file) {
+    std::error_code none;
+    Mark mark;
+    mark.written = fs::last_write_time(file, none);
+    if (!none) mark.size = fs::file_size(file, none);
+    return none ? Mark() : mark;
+}
+
 std::vector<fs::path> installedFonts() {
     std::vector<fs::path> all;
     for (const char* folder :

@@ -34,9 +34,9 @@ struct Worth {
     const char* sign;
     wort::Id word;
 };
-constexpr std::array worths{Worth{"", wort::none}, Worth{"✓", wort::none},
+constexpr std::array worths{Worth{"", wort::none},          Worth{"✓", wort::none},
                             Worth{"◐", wort::partlySilent}, Worth{"≈", wort::unclearPitch},
-                            Worth{"↕", wort::otherOctave}};
+                            Worth{"↕", wort::otherOctave},  Worth{"✗", wort::noSuchInstrument}};
 
 const Worth& worthOf(sound::Fitness fitness) { return base::at(worths, static_cast<int>(fitness)); }
 

@@ -28,7 +28,7 @@ enum class SoundProblem { None, NoSoundfont, NoAudioDevice, DeviceLost, NoLibrar
 
 /// What an instrument is worth for a range of notes; `Unknown` while it has not been measured, and
 /// on devices that cannot be.
-enum class Fitness { Unknown, Fit, PartlySilent, UnclearPitch, OtherOctave };
+enum class Fitness { Unknown, Fit, PartlySilent, UnclearPitch, OtherOctave, Missing };
 
 /// Everything the drill needs of a MIDI output. It exists so that the drill can play to a
 /// synthesiser, to an external port, to a recorder or to nothing. Calls come from one thread.

@@ -1,11 +1,10 @@
 #include "soundfont/digest.h"
 
+#define XXH_STATIC_LINKING_ONLY  // the state as a value
 #include <xxhash.h>
 
 #include <array>
 #include <cstdio>
-#include <fstream>
-#include <memory>
 #include <vector>
 
 namespace soundfont {
@@ -26,18 +25,37 @@ std::string digestOf(std::string_view content) {
     return inDigits(XXH3_128bits(content.data(), content.size()));
 }
 
-std::string digestOfFile(const std::filesystem::path& file) {
+struct FileDigest::State {
+    XXH3_state_t sum;
+};
+
+FileDigest::FileDigest(const std::filesystem::path& file)
+    : in_(file, std::ios::binary), state_(std::make_unique<State>()) {
+    XXH3_128bits_reset(&state_->sum);
+}
+
+FileDigest::~FileDigest() = default;
+
+bool FileDigest::readOn() {
     constexpr std::size_t part = 1 << 20;
-    const std::unique_ptr<XXH3_state_t, XXH_errorcode (*)(XXH3_state_t*)> state(XXH3_createState(),
-                                                                                XXH3_freeState);
-    if (!state || XXH3_128bits_reset(state.get()) != XXH_OK) return {};
-    std::ifstream in(file, std::ios::binary);
+    constexpr int parts = 8;
     std::vector<char> buffer(part);
-    while (in) {
-        in.read(buffer.data(), static_cast<std::streamsize>(part));
-        XXH3_128bits_update(state.get(), buffer.data(), static_cast<std::size_t>(in.gcount()));
+    for (int i = 0; i < parts && in_; ++i) {
+        in_.read(buffer.data(), static_cast<std::streamsize>(part));
+        XXH3_128bits_update(&state_->sum, buffer.data(), static_cast<std::size_t>(in_.gcount()));
     }
-    return in.eof() ? inDigits(XXH3_128bits_digest(state.get())) : std::string();
+    return static_cast<bool>(in_);
+}
+
+std::string FileDigest::result() const {
+    return in_.eof() ? inDigits(XXH3_128bits_digest(&state_->sum)) : std::string();
+}
+
+std::string digestOfFile(const std::filesystem::path& file) {
+    FileDigest digest(file);
+    while (digest.readOn()) {
+    }
+    return digest.result();
 }
 
 }  // namespace soundfont

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view title = "melvora font table 1";
+constexpr std::string_view title = "melvora font table 3";
 constexpr std::uintmax_t largestFile = 4 << 20;
 constexpr double farthest = 150;     ///< cents; further off it may be any other note
 constexpr double latestAttack = 15;  ///< ms; what comes later is heard late on purpose
@@ -28,24 +28,19 @@ double middle(std::vector<double> values) {
     return *half;
 }
 
-/// Takes a text apart, by lines and by numbers; `good` until something is not there.
+/// Takes the numbers out of a text, one after the other; `good` until one is not there.
 class Reader {
   public:
     explicit Reader(std::string_view text) : text_(text) {}
-    std::string_view line() {
-        const std::string_view found = text_.substr(0, text_.find('\n'));
-        text_.remove_prefix(std::min(text_.size(), found.size() + 1));
-        return found;
-    }
     double number() {
-        while (!text_.empty() && (text_.front() == ' ' || text_.front() == '\n'))
-            text_.remove_prefix(1);
+        text_.remove_prefix(std::min(text_.size(), text_.find_first_not_of(' ')));
         double value = 0;
         const auto [end, error] = std::from_chars(text_.data(), text_.data() + text_.size(), value);
         good = good && error == std::errc() && std::isfinite(value);
         text_.remove_prefix(static_cast<std::size_t>(end - text_.data()));
         return value;
     }
+    bool atEnd() const { return text_.empty(); }
     bool good = true;
 
   private:
@@ -72,7 +67,7 @@ void append(std::string& text, double value) {
     constexpr int decimals = 2;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
                                    std::chars_format::fixed, decimals);
-    text.append(digits.data(), end.ptr) += ' ';
+    (text += ' ').append(digits.data(), end.ptr);
 }
 
 }  // namespace
@@ -115,6 +110,7 @@ double Instrument::evenness(int key) const {
 }
 
 Fitness Instrument::fitness(int lowest, int highest) const {
+    if (!isThere) return Fitness::Missing;
     constexpr double most = 0.9;
     int count = 0, clear = 0, shifted = 0;
     for (int key = std::max(lowest, lowestKey); key <= std::min(highest, highestKey); ++key) {
@@ -128,6 +124,28 @@ Fitness Instrument::fitness(int lowest, int highest) const {
     return shifted > count / 2 ? Fitness::OtherOctave : Fitness::Fit;
 }
 
+std::string lineOf(int program, const Instrument& instrument) {
+    std::string text = std::to_string(program) + (instrument.isThere ? " 1" : " 0");
+    for (int key = lowestKey; key <= highestKey; ++key) {
+        const Tone& tone = instrument.at(key);
+        for (const double part :
+             {tone.pitch.cents, tone.pitch.uncertainty, tone.level, tone.attack, tone.rise})
+            append(text, part);
+        text += ' ' + std::to_string(tone.octave);
+    }
+    return text;
+}
+
+std::optional<std::pair<int, Instrument>> instrumentIn(std::string_view line) {
+    Reader reader(line);
+    const auto program = static_cast<int>(reader.number());
+    Instrument instrument;
+    instrument.isThere = reader.number() != 0;
+    for (int key = lowestKey; key <= highestKey; ++key) instrument.at(key) = toneFrom(reader);
+    const bool good = reader.good && reader.atEnd() && program >= 0 && program < programCount;
+    return good ? std::optional(std::pair(program, instrument)) : std::nullopt;
+}
+
 const Instrument* FontTable::find(int program) const {
     const auto& found = instruments_.at(static_cast<std::size_t>(program));
     return found ? &*found : nullptr;
@@ -137,8 +155,11 @@ void FontTable::set(int program, const Instrument& instrument) {
     instruments_.at(static_cast<std::size_t>(program)) = instrument;
 }
 
-bool FontTable::complete() const {
-    return std::ranges::all_of(instruments_, [](const auto& found) { return found.has_value(); });
+std::vector<int> FontTable::missing() const {
+    std::vector<int> programs;
+    for (int program = 0; program < programCount; ++program)
+        if (find(program) == nullptr) programs.push_back(program);
+    return programs;
 }
 
 std::optional<FontTable> FontTable::load(const fs::path& file, const Origin& origin) {
@@ -153,36 +174,20 @@ std::optional<FontTable> FontTable::load(const fs::path& file, const Origin& ori
     const std::string_view body(text.data(), end + 1);
     if (std::string_view(text).substr(end + 1) != "end " + digestOf(body) + "\n") return {};
     FontTable table(origin);
-    Reader reader(body.substr(head(origin).size()));
-    const auto count = static_cast<int>(reader.number());
-    for (int n = 0; reader.good && n < count; ++n) {
-        const auto program = static_cast<int>(reader.number());
-        Instrument instrument;
-        for (int key = lowestKey; key <= highestKey; ++key) instrument.at(key) = toneFrom(reader);
-        reader.good = reader.good && program >= 0 && program < programCount;
-        if (reader.good) table.set(program, instrument);
+    std::istringstream lines(std::string(body.substr(head(origin).size())));
+    for (std::string line; std::getline(lines, line);) {
+        const auto found = instrumentIn(line);
+        if (!found) return {};
+        table.set(found->first, found->second);
     }
-    if (!reader.good) return {};
     return table;
 }
 
 void FontTable::save(const fs::path& file) const {
     std::string text = head(origin_);
-    text += std::to_string(std::ranges::count_if(
-                instruments_, [](const auto& found) { return found.has_value(); })) +
-            '\n';
-    for (int program = 0; program < programCount; ++program) {
-        const Instrument* instrument = find(program);
-        if (instrument == nullptr) continue;
-        text += std::to_string(program) + '\n';
-        for (int key = lowestKey; key <= highestKey; ++key) {
-            const Tone& tone = instrument->at(key);
-            for (const double part :
-                 {tone.pitch.cents, tone.pitch.uncertainty, tone.level, tone.attack, tone.rise})
-                append(text, part);
-            text += std::to_string(tone.octave) + '\n';
-        }
-    }
+    for (int program = 0; program < programCount; ++program)
+        if (const Instrument* instrument = find(program))
+            text += lineOf(program, *instrument) + '\n';
     text += "end " + digestOf(text) + "\n";
     const fs::path fresh = fs::path(file) += ".new";
     std::ofstream out(fresh, std::ios::binary);

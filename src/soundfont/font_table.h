@@ -5,6 +5,9 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace soundfont {
 
@@ -15,13 +18,15 @@ inline constexpr int keyCount = highestKey - lowestKey + 1;
 inline constexpr int programCount = 128;
 
 /// What an instrument is worth for a range of notes.
-enum class Fitness { Fit, PartlySilent, UnclearPitch, OtherOctave };
+enum class Fitness { Fit, PartlySilent, UnclearPitch, OtherOctave, Missing };
 
 /// One instrument of a font, note by note.
 class Instrument {
   public:
     Tone& at(int key) { return tones_.at(static_cast<std::size_t>(key - lowestKey)); }
     const Tone& at(int key) const { return tones_.at(static_cast<std::size_t>(key - lowestKey)); }
+    /// Whether the font has it; else the synthesiser plays another one in its place.
+    bool isThere = true;
 
     /// Cents by which a note is to be raised to be in tune; 0 where that cannot be told.
     double correction(int key) const;
@@ -37,6 +42,11 @@ class Instrument {
   private:
     std::array<Tone, keyCount> tones_;
 };
+
+/// An instrument as a line of text, without its end.
+std::string lineOf(int program, const Instrument& instrument);
+/// What such a line says. @return nothing for one that is damaged.
+std::optional<std::pair<int, Instrument>> instrumentIn(std::string_view line);
 
 /// What the instruments of a font were found to be. It belongs to one file of a font and one
 /// version of the synthesiser, and is good for no other.
@@ -54,7 +64,8 @@ class FontTable {
     /// nullptr for one that has not been measured.
     const Instrument* find(int program) const;
     void set(int program, const Instrument& instrument);
-    bool complete() const;
+    /// The programs that have not been measured.
+    std::vector<int> missing() const;
 
     /// @return nothing for a file that is missing, damaged, or of another origin.
     static std::optional<FontTable> load(const std::filesystem::path& file, const Origin& origin);

@@ -1,14 +1,15 @@
 #include "soundfont/measured_font.h"
 
+#include "base/program_folder.h"
 #include "soundfont/digest.h"
-#include "soundfont/fluid_error.h"
+#include "soundfont/measurer.h"
 #include "soundfont/meter.h"
 
-#include <sched.h>
+#include <malloc.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <optional>
+#include <stdexcept>
 #include <system_error>
 #include <utility>
 
@@ -18,10 +19,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What nobody waits for is measured only when no other program wants to run.
-void giveWay(bool always) {
-    const sched_param none{};
-    sched_setscheduler(0, always ? SCHED_IDLE : SCHED_OTHER, &none);
+/// Samples and tables leave holes behind that nothing else fits into.
+void giveBack() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
 }
 
 fs::path dataHome() {
@@ -33,15 +35,14 @@ fs::path dataHome() {
 
 }  // namespace
 
-TableFolders TableFolders::usual() {
-    std::error_code none;
-    const fs::path program = fs::read_symlink("/proc/self/exe", none).parent_path();
+TablePlaces TablePlaces::usual() {
     const char* named = std::getenv("MELVORA_FONT_TABLES");
     const fs::path data = dataHome();
     const fs::path own = named != nullptr ? fs::path(named)
                          : data.empty()   ? data
                                           : data / "melvora/fonts";
-    return {program / "../share/melvora/fonts", own};
+    return {base::programFolder() / "../share/melvora/fonts", own,
+            base::suitePart("melvora-measure")};
 }
 
 fs::path tableFile(const fs::path& folder, const FontTable::Origin& origin) {
@@ -53,7 +54,7 @@ fs::path measureWhole(const std::string& font, const fs::path& folder,
     Meter meter(font);
     FontTable table({digestOfFile(font), Meter::version()});
     for (int program = 0; program < programCount; ++program) {
-        table.set(program, *meter.measure(program, {}));
+        table.set(program, meter.measureWhole(program));
         progress(program + 1);
     }
     fs::create_directories(folder);
@@ -62,9 +63,10 @@ fs::path measureWhole(const std::string& font, const fs::path& folder,
     return file;
 }
 
-MeasuredFont::MeasuredFont(std::string font, TableFolders folders, std::function<void()> known)
+MeasuredFont::MeasuredFont(std::string font, TablePlaces places, std::function<void()> known)
     : font_(std::move(font)),
-      folders_(std::move(folders)),
+      mark_(fontfile::markOf(font_)),
+      places_(std::move(places)),
       tell_(known ? std::move(known) : [] {}),
       thread_([this](const std::stop_token& stop) { run(stop); }) {}
 
@@ -85,11 +87,13 @@ std::shared_ptr<const Instrument> MeasuredFont::wait(int program,
     const auto& known = known_.at(static_cast<std::size_t>(program));
     if (known || over_) return known;
     if (std::ranges::find(wishes_, program) == wishes_.end()) wishes_.push_back(program);
+    changed_.notify_all();
     if (patience.count() > 0) changed_.wait_for(lock, patience, [&] { return known || over_; });
     return known;
 }
 
 void MeasuredFont::publish(int program, const Instrument& instrument) {
+    if (fontfile::markOf(font_) != mark_) throw std::runtime_error(font_ + ": was replaced");
     const std::lock_guard lock(mutex_);
     known_.at(static_cast<std::size_t>(program)) = std::make_shared<const Instrument>(instrument);
     changed_.notify_all();
@@ -97,16 +101,12 @@ void MeasuredFont::publish(int program, const Instrument& instrument) {
 
 void MeasuredFont::run(const std::stop_token& stop) {
     try {
-        const FontTable::Origin origin{digestOfFile(font_), Meter::version()};
-        std::optional<FontTable> table;
-        for (const fs::path& folder : {folders_.packaged, folders_.own})
-            if (!table && !origin.digest.empty() && !folder.empty())
-                table = FontTable::load(tableFile(folder, origin), origin);
-        if (!table) table.emplace(origin);
-        for (int program = 0; program < programCount; ++program)
-            if (const Instrument* instrument = table->find(program)) publish(program, *instrument);
-        tell_();
-        if (!table->complete()) measure(*table, stop);
+        if (const auto origin = identify(stop)) {
+            FontTable table = knownTable(*origin);
+            tell_();
+            giveBack();
+            if (!table.missing().empty()) measureRest(table, stop);
+        }
     } catch (const std::exception&) {
         // The instruments stay as they are; that they sound at all is the player's business.
     }
@@ -115,38 +115,78 @@ void MeasuredFont::run(const std::stop_token& stop) {
     changed_.notify_all();
 }
 
-int MeasuredFont::next(const FontTable& table) {
-    const std::lock_guard lock(mutex_);
-    const auto unknown = [&](int program) { return table.find(program) == nullptr; };
-    std::erase_if(wishes_, [&](int program) { return !unknown(program); });
-    giveWay(wishes_.empty());
-    if (!wishes_.empty()) return wishes_.front();
-    for (int program = 0; program < programCount; ++program)
-        if (unknown(program)) return program;
-    return -1;
+/// A large file takes its time: what is asked for meanwhile is measured.
+std::optional<FontTable::Origin> MeasuredFont::identify(const std::stop_token& stop) {
+    FileDigest digest(font_);
+    while (digest.readOn()) {
+        grantWishes(stop);
+        if (stop.stop_requested()) return {};
+    }
+    return FontTable::Origin{digest.result(), Meter::version()};
 }
 
-void MeasuredFont::measure(FontTable& table, const std::stop_token& stop) {
-    constexpr int often = 16;
-    int measured = 0;
-    Meter meter(font_);
-    for (int program = next(table); program >= 0 && !stop.stop_requested(); program = next(table)) {
-        const auto instrument = meter.measure(program, [&] { return stop.stop_requested(); });
-        if (!instrument) break;
-        table.set(program, *instrument);
-        publish(program, *instrument);
-        if (++measured % often == 1 || table.complete()) tell_();
+FontTable MeasuredFont::knownTable(const FontTable::Origin& origin) {
+    for (const fs::path& folder : {places_.packaged, places_.own}) {
+        if (origin.digest.empty() || folder.empty()) continue;
+        const auto table = FontTable::load(tableFile(folder, origin), origin);
+        if (!table) continue;
+        for (int program = 0; program < programCount; ++program)
+            if (const Instrument* instrument = table->find(program)) publish(program, *instrument);
+        return *table;
     }
-    keep(table);
+    return FontTable(origin);
+}
+
+int MeasuredFont::wish() {
+    const std::lock_guard lock(mutex_);
+    std::erase_if(wishes_, [&](int program) { return known_.at(std::size_t(program)) != nullptr; });
+    return wishes_.empty() ? -1 : wishes_.front();
+}
+
+void MeasuredFont::grantWishes(const std::stop_token& stop) {
+    if (wish() < 0) return;
+    {
+        Meter meter(font_);
+        for (int program = wish(); program >= 0; program = wish()) {
+            const auto instrument = meter.measure(program, [&] { return stop.stop_requested(); });
+            if (!instrument) return;
+            publish(program, *instrument);
+        }
+    }
+    giveBack();
+    tell_();
+}
+
+void MeasuredFont::measureRest(FontTable& table, const std::stop_token& stop) {
+    constexpr std::chrono::milliseconds promptly(20);
+    constexpr int often = 16;
+    int told = 0;
+    Measurer measurer(places_.tool, font_, table.missing());
+    while (!stop.stop_requested()) {
+        grantWishes(stop);
+        if (measurer.ended()) {
+            std::unique_lock lock(mutex_);
+            changed_.wait(lock, stop, [&] { return !wishes_.empty(); });
+            continue;
+        }
+        const auto line = measurer.line(promptly);
+        const auto found = line ? instrumentIn(*line) : std::nullopt;
+        if (!found) continue;
+        table.set(found->first, found->second);
+        publish(found->first, found->second);
+        if (++told % often == 0 || table.missing().empty()) tell_();
+        if (table.missing().empty()) break;
+    }
+    if (told > 0) keep(table);
 }
 
 void MeasuredFont::keep(const FontTable& table) const {
-    if (folders_.own.empty() || table.origin().digest.empty()) return;
+    if (places_.own.empty() || table.origin().digest.empty()) return;
     std::error_code failed;
-    fs::create_directories(folders_.own, failed);
+    fs::create_directories(places_.own, failed);
     if (failed) return;
     try {
-        table.save(tableFile(folders_.own, table.origin()));
+        table.save(tableFile(places_.own, table.origin()));
     } catch (const std::system_error&) {
         // A folder that can only be read: it is measured anew next time.
     }

@@ -1,4 +1,5 @@
 #pragma once
+#include "fontfile/font_files.h"
 #include "soundfont/font_table.h"
 
 #include <chrono>
@@ -7,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <stop_token>
 #include <string>
 #include <thread>
@@ -14,13 +16,15 @@
 
 namespace soundfont {
 
-/// Where tables are: the one that came with the program is read, the other one is written, too.
-struct TableFolders {
+/// Where tables are: the one that came with the program is read, the other one is written, too; and
+/// what makes them.
+struct TablePlaces {
     std::filesystem::path packaged;
-    std::filesystem::path own;  ///< empty to keep nothing
+    std::filesystem::path own;   ///< empty to keep nothing
+    std::filesystem::path tool;  ///< melvora-measure; empty to measure only what is asked for
 
     /// Below the program's own folder; MELVORA_FONT_TABLES, or else below XDG_DATA_HOME.
-    static TableFolders usual();
+    static TablePlaces usual();
 };
 
 /// The file of a table in a folder.
@@ -34,13 +38,14 @@ std::filesystem::path tableFile(const std::filesystem::path& folder,
 std::filesystem::path measureWhole(const std::string& font, const std::filesystem::path& folder,
                                    const std::function<void(int measured)>& progress);
 
-/// The instruments of a font, as they were measured. What no table knows is measured on a thread of
-/// its own, first what is asked for, then, at the lowest priority, everything else; it is kept for
-/// the next time. May be used from any thread.
+/// The instruments of a font, as they were measured. Of what no table knows, that which is asked
+/// for is measured at once, on a thread of its own, and everything else by another process, at the
+/// lowest priority; it is kept for the next time. A file that is replaced meanwhile is measured no
+/// further. May be used from any thread.
 class MeasuredFont {
   public:
     /// @param known called on a thread of its own when instruments have become known.
-    MeasuredFont(std::string font, TableFolders folders, std::function<void()> known = {});
+    MeasuredFont(std::string font, TablePlaces places, std::function<void()> known = {});
     /// Takes as long as measuring one note, and keeps what was measured.
     ~MeasuredFont();
     MeasuredFont(const MeasuredFont&) = delete;
@@ -54,21 +59,24 @@ class MeasuredFont {
     std::shared_ptr<const Instrument> wait(int program, std::chrono::milliseconds patience);
 
   private:
-    using Known = std::vector<std::shared_ptr<const Instrument>>;
-
     void run(const std::stop_token& stop);
-    void measure(FontTable& table, const std::stop_token& stop);
+    std::optional<FontTable::Origin> identify(const std::stop_token& stop);
+    FontTable knownTable(const FontTable::Origin& origin);
+    void grantWishes(const std::stop_token& stop);
+    void measureRest(FontTable& table, const std::stop_token& stop);
     void keep(const FontTable& table) const;
-    /// The next program to measure, in order of wishes; -1 when all are known.
-    int next(const FontTable& table);
+    /// The first that is asked for and not known; -1 when there is none.
+    int wish();
+    /// Throws when the file is no longer the one that was measured.
     void publish(int program, const Instrument& instrument);
 
     std::string font_;
-    TableFolders folders_;
+    fontfile::Mark mark_;
+    TablePlaces places_;
     std::function<void()> tell_;
     std::mutex mutex_;
-    std::condition_variable changed_;
-    Known known_{programCount};
+    std::condition_variable_any changed_;
+    std::vector<std::shared_ptr<const Instrument>> known_{programCount};
     std::vector<int> wishes_;
     bool over_ = false;  ///< nothing more will become known
     std::jthread thread_;

@@ -4,20 +4,23 @@
 #include "soundfont/fluid_error.h"
 #include "soundfont/fluid_settings.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
-#include <vector>
 
 namespace soundfont {
 
 namespace {
 
 constexpr int velocity = 100;
-/// Samples end in a loop, often of another pitch than their beginning: long notes are meant.
 /// The synthesiser begins a note with one of its blocks, so whole ones are asked for.
 constexpr int block = 64;
-constexpr int frames = sampleRate * 11 / 10 / block * block;
+constexpr int framesOf(double seconds) {
+    return static_cast<int>(seconds * sampleRate) / block * block;
+}
+/// Samples end in a loop, often of another pitch than their beginning: long notes are meant.
+constexpr int usual = framesOf(1.1);
+constexpr int longest = framesOf(3.3);
 
 double frequencyOf(int key) { return 440 * std::exp2((key - 69) / 12.0); }
 
@@ -25,25 +28,53 @@ double frequencyOf(int key) { return 440 * std::exp2((key - 69) / 12.0); }
 
 Meter::Meter(const std::string& font)
     : settings_(makeSettings()), synth_(made(new_fluid_synth(settings_.get()), "a synthesiser")) {
-    if (!fontfile::isSoundfont(font)) throw std::runtime_error(font + ": is no soundfont, or cannot be read");
-    if (fluid_synth_sfload(synth_.get(), font.c_str(), 1) == FLUID_FAILED)
+    if (!fontfile::isSoundfont(font))
+        throw std::runtime_error(font + ": is no soundfont, or cannot be read");
+    if (fluid_synth_sfload(synth_.get(), font.c_str(), 0) == FLUID_FAILED)
         throw std::runtime_error(font + ": this soundfont is damaged");
 }
 
-std::optional<Instrument> Meter::measure(int program, const std::function<bool()>& stop) {
-    Instrument instrument;
-    std::vector<float> left(frames), right(frames);
+bool Meter::choose(int program) {
     fluid_synth_program_change(synth_.get(), 0, program);
+    fluid_preset_t* preset = fluid_synth_get_channel_preset(synth_.get(), 0);
+    return preset != nullptr && fluid_preset_get_num(preset) == program;
+}
+
+Tone Meter::play(int key, int frames) {
+    left_.resize(static_cast<std::size_t>(frames));
+    right_.resize(static_cast<std::size_t>(frames));
+    fluid_synth_all_sounds_off(synth_.get(), 0);
+    fluid_synth_write_float(synth_.get(), block, left_.data(), 0, 1, right_.data(), 0, 1);
+    fluid_synth_noteon(synth_.get(), 0, key, velocity);
+    fluid_synth_write_float(synth_.get(), frames, left_.data(), 0, 1, right_.data(), 0, 1);
+    std::ranges::transform(left_, right_, left_.begin(),
+                           [](float left, float right) { return (left + right) / 2; });
+    return toneOf(left_, sampleRate, frequencyOf(key));
+}
+
+std::optional<Instrument> Meter::measure(int program, const Stop& stop) {
+    Instrument instrument;
+    instrument.isThere = choose(program);
     for (int key = lowestKey; key <= highestKey; ++key) {
         if (stop && stop()) return {};
-        fluid_synth_all_sounds_off(synth_.get(), 0);
-        fluid_synth_write_float(synth_.get(), block, left.data(), 0, 1, right.data(), 0, 1);
-        fluid_synth_noteon(synth_.get(), 0, key, velocity);
-        fluid_synth_write_float(synth_.get(), frames, left.data(), 0, 1, right.data(), 0, 1);
-        for (int i = 0; i < frames; ++i) left[i] = (left[i] + right[i]) / 2;
-        instrument.at(key) = toneOf(left, sampleRate, frequencyOf(key));
+        instrument.at(key) = play(key, usual);
     }
-    fluid_synth_all_sounds_off(synth_.get(), 0);
+    return instrument;
+}
+
+std::optional<Instrument> Meter::refined(int program, const Instrument& measured,
+                                         const Stop& stop) {
+    Instrument instrument = measured;
+    choose(program);
+    for (int key = lowestKey; key <= highestKey; ++key) {
+        Tone& tone = instrument.at(key);
+        if (!tone.sounds() || tone.hasPitch()) continue;
+        if (stop && stop()) return {};
+        const Tone longer = play(key, longest);
+        if (longer.pitch.uncertainty >= tone.pitch.uncertainty) continue;
+        tone.pitch = longer.pitch;
+        tone.octave = longer.octave;
+    }
     return instrument;
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace soundfont {
 
@@ -14,15 +15,29 @@ class Meter {
     /// Throws std::runtime_error when the synthesiser cannot be made, or the file is no soundfont.
     explicit Meter(const std::string& font);
 
-    /// About 80 ms. @param stop asked before each note. @return nothing when it was stopped.
-    std::optional<Instrument> measure(int program, const std::function<bool()>& stop);
+    /// Asked before each note.
+    using Stop = std::function<bool()>;
+
+    /// About 80 ms. @return nothing when it was stopped.
+    std::optional<Instrument> measure(int program, const Stop& stop);
+    /// Listens longer to the notes whose pitch is not sure: a vibrato, and voices that beat, have
+    /// one on average. At most 400 ms. @return nothing when it was stopped.
+    std::optional<Instrument> refined(int program, const Instrument& measured, const Stop& stop);
+
+    /// Both, one after the other.
+    Instrument measureWhole(int program) { return *refined(program, *measure(program, {}), {}); }
 
     /// Of the synthesiser that measures.
     static std::string version();
 
   private:
+    /// @return whether the font has it; else another one sounds in its place.
+    bool choose(int program);
+    Tone play(int key, int frames);
+
     FluidSettings settings_;
     FluidSynth synth_;
+    std::vector<float> left_, right_;
 };
 
 }  // namespace soundfont

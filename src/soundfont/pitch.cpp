@@ -1,9 +1,11 @@
 #include "soundfont/pitch.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <complex>
 #include <numbers>
+#include <numeric>
 #include <vector>
 
 namespace soundfont {
@@ -24,27 +26,33 @@ struct Track {
     double seconds;  ///< from frame to frame
 };
 
+/// Sum of products, in lanes that a processor adds at once.
+float product(const float* a, const float* b, std::size_t count) {
+    constexpr std::size_t lanes = 8;
+    std::array<float, lanes> sums{};
+    std::size_t i = 0;
+    for (; i + lanes <= count; i += lanes)
+        for (std::size_t lane = 0; lane < lanes; ++lane) sums[lane] += a[i + lane] * b[i + lane];
+    for (; i < count; ++i) sums[0] += a[i] * b[i];
+    return std::accumulate(sums.begin(), sums.end(), 0.0F);
+}
+
 Track broughtToRest(std::span<const float> sound, double rate, double frequency, double tone) {
     const auto window = static_cast<std::size_t>(4 * rate / tone);
     const std::size_t hop = window / 4;
     const double turned = turn * frequency / rate;
-    std::vector<double> real(window), imaginary(window);
+    std::vector<float> real(window), imaginary(window);
     for (std::size_t i = 0; i < window; ++i) {
-        const double hann = 1 - std::cos(turn * (double(i) + 0.5) / double(window));
-        real[i] = hann * std::cos(turned * double(i));
-        imaginary[i] = -hann * std::sin(turned * double(i));
+        const std::complex<double> turning = std::polar(
+            1 - std::cos(turn * (double(i) + 0.5) / double(window)), -turned * double(i));
+        real[i] = static_cast<float>(turning.real());
+        imaginary[i] = static_cast<float>(turning.imag());
     }
     Track track{{}, double(hop) / rate};
-    for (std::size_t at = 0; at + window <= sound.size(); at += hop) {
-        double x = 0, y = 0;
-        for (std::size_t i = 0; i < window; ++i) {
-            const double sample = sound[at + i];
-            x += sample * real[i];
-            y += sample * imaginary[i];
-        }
-        track.frames.push_back(std::complex(x, y) / double(window) *
-                               std::polar(1.0, -turned * double(at)));
-    }
+    for (std::size_t at = 0; at + window <= sound.size(); at += hop)
+        track.frames.push_back(std::complex<double>(product(&sound[at], real.data(), window),
+                                                    product(&sound[at], imaginary.data(), window)) /
+                               double(window) * std::polar(1.0, -turned * double(at)));
     return track;
 }
 

@@ -30,7 +30,27 @@ Engine::Engine(Mailbox& mailbox, std::function<void(std::uint32_t)> ended, Instr
       level_(sampleRate) {}
 
 bool Engine::loadFont(const std::string& file) {
-    return fluid_synth_sfload(synth_.get(), file.c_str(), 1) != FLUID_FAILED;
+    if (fluid_synth_sfload(synth_.get(), file.c_str(), 0) == FLUID_FAILED) return false;
+    resetChannels();
+    return true;
+}
+
+void Engine::unloadFont() {
+    while (fluid_sfont_t* font = fluid_synth_get_sfont(synth_.get(), 0))
+        if (fluid_synth_sfunload(synth_.get(), fluid_sfont_get_id(font), 0) == FLUID_FAILED) return;
+}
+
+/// Every channel has the first instrument. The library's own reset would read a drum kit into the
+/// memory, of ten megabytes and more, which nothing here plays.
+void Engine::resetChannels() {
+    constexpr int allControllersOff = 121;
+    for (int channel = 0; channel < fluid_synth_count_midi_channels(synth_.get()); ++channel) {
+        fluid_synth_cc(synth_.get(), channel, allControllersOff, 0);
+        fluid_synth_set_channel_type(synth_.get(), channel, CHANNEL_TYPE_MELODIC);
+        fluid_synth_bank_select(synth_.get(), channel, 0);
+        fluid_synth_program_change(synth_.get(), channel, 0);
+    }
+    tuning_.reset();
 }
 
 bool Engine::hasFont() const { return fluid_synth_sfcount(synth_.get()) > 0; }
@@ -79,12 +99,8 @@ void Engine::perform(Command& command) {
 }
 
 void Engine::silence(Command::Kind kind) {
-    if (kind == Command::Kind::Reset) {
-        fluid_synth_system_reset(synth_.get());
-        tuning_.reset();
-        return;
-    }
     fluid_synth_all_sounds_off(synth_.get(), allChannels);
+    if (kind == Command::Kind::Reset) resetChannels();
     if (kind == Command::Kind::Play) return;
     for (int channel = 0; channel < fluid_synth_count_midi_channels(synth_.get()); ++channel)
         fluid_synth_pitch_bend(synth_.get(), channel, bendCentre);

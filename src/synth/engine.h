@@ -31,6 +31,8 @@ class Engine {
     /// Loads a soundfont, 10 to 50 ms for a small one. Not while render() may run.
     /// Returns false when the file is no soundfont.
     bool loadFont(const std::string& file);
+    /// Not while render() may run.
+    void unloadFont();
     bool hasFont() const;
 
     /// Renders the next `frames` frames. One thread at a time.
@@ -48,6 +50,7 @@ class Engine {
     void takeCommands();
     void perform(Command& command);
     void silence(Command::Kind kind);
+    void resetChannels();
     int voices() const;
 
     Mailbox& mailbox_;

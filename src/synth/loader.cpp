@@ -1,5 +1,7 @@
 #include "synth/loader.h"
 
+#include "base/program_folder.h"
+
 #include <dlfcn.h>
 
 #include <filesystem>
@@ -7,8 +9,6 @@
 #include <string>
 
 namespace synth {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -26,15 +26,9 @@ using MeasureFont = void (*)(const std::string&, const std::string&,
                              ". Install libfluidsynth3, or Melvora again.");
 }
 
-fs::path libraryFile() {
-    const fs::path here = fs::read_symlink("/proc/self/exe").parent_path();
-    const fs::path beside = here / libraryName;
-    return fs::exists(beside) ? beside : here / "../lib/melvora" / libraryName;
-}
-
 template <class Entry>
 Entry entry(const char* name) {
-    const fs::path file = libraryFile();
+    const std::filesystem::path file = base::suitePart(libraryName);
     void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     if (library == nullptr) fail("cannot load " + file.string());
     const auto found = reinterpret_cast<Entry>(dlsym(library, name));

@@ -32,7 +32,7 @@ SynthOptions SynthOptions::fromEnvironment() {
     if (const char* driver = std::getenv("MELVORA_AUDIO_DRIVER")) options.driver = driver;
     if (const char* file = std::getenv("MELVORA_AUDIO_FILE")) options.audioFile = file;
     if (const char* font = std::getenv("MELVORA_SOUNDFONT")) options.soundfont = font;
-    options.tables = soundfont::TableFolders::usual();
+    options.tables = soundfont::TablePlaces::usual();
     return options;
 }
 

@@ -18,7 +18,7 @@ struct SynthOptions {
     /// The only soundfont to try, or empty for the usual places.
     std::string soundfont;
     /// Where it is kept what the instruments of a font were measured to be; none measures nothing.
-    std::optional<soundfont::TableFolders> tables;
+    std::optional<soundfont::TablePlaces> tables;
     /// Whether "file" and "none" run at the clock's pace, or as fast as they can.
     bool paced = true;
     /// Opens the audio device in place of the driver, when set.

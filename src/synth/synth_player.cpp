@@ -48,9 +48,12 @@ SynthPlayer::~SynthPlayer() {
 void SynthPlayer::put(Command command) {
     constexpr auto unnoticed = 150ms;
     if (command.kind == Command::Kind::Reset) reopened_ = true;
-    if ((command.event.status & 0xf0) == 0xc0) program_ = command.event.data1 & 0x7f;
-    if (command.kind == Command::Kind::Play)
-        if (const auto known = font()) known->wait(program_, unnoticed);
+    const bool chooses = (command.event.status & 0xf0) == 0xc0;
+    if (chooses) program_ = command.event.data1 & 0x7f;
+    if (const auto measured = font()) {
+        if (chooses) measured->find(program_);
+        if (command.kind == Command::Kind::Play) measured->wait(program_, unnoticed);
+    }
     mailbox_.put(std::move(command));
 }
 
@@ -67,6 +70,8 @@ sound::Fitness SynthPlayer::fitness(int program, int lowest, int highest) const 
             return sound::Fitness::UnclearPitch;
         case soundfont::Fitness::OtherOctave:
             return sound::Fitness::OtherOctave;
+        case soundfont::Fitness::Missing:
+            return sound::Fitness::Missing;
     }
     return sound::Fitness::Unknown;
 }
@@ -86,18 +91,32 @@ void SynthPlayer::run() {
     }
 }
 
+/// A file that was replaced is loaded anew: its samples are read when they are needed, and would
+/// come from other places.
 void SynthPlayer::findFont() {
-    if (engine_.hasFont()) return;
-    const std::string font = findSoundfont(options_.soundfont);
-    if (font.empty() || !engine_.loadFont(font)) return;
-    if (options_.tables) {
-        const std::lock_guard lock(fontMutex_);
-        font_ = std::make_shared<soundfont::MeasuredFont>(font, *options_.tables,
-                                                          reports_.fitnessKnown);
-    }
+    if (engine_.hasFont() && !fontChanged()) return;
+    engine_.unloadFont();
+    measure("");
+    fontFile_ = findSoundfont(options_.soundfont);
+    fontMark_ = fontfile::markOf(fontFile_);
+    if (fontFile_.empty() || !engine_.loadFont(fontFile_)) return;
+    measure(fontFile_);
 #ifdef __GLIBC__
     malloc_trim(0);  // parsing leaves a tenth of the font's size behind as free memory
 #endif
+}
+
+/// @param font empty for none.
+void SynthPlayer::measure(const std::string& font) {
+    if (!options_.tables) return;
+    std::shared_ptr<soundfont::MeasuredFont> measured;
+    if (!font.empty()) {
+        measured = std::make_shared<soundfont::MeasuredFont>(font, *options_.tables,
+                                                             reports_.fitnessKnown);
+        measured->find(program_);
+    }
+    const std::lock_guard lock(fontMutex_);
+    font_.swap(measured);
 }
 
 std::shared_ptr<soundfont::MeasuredFont> SynthPlayer::font() const {
@@ -143,7 +162,7 @@ bool SynthPlayer::watch() {
             return false;
         if (!idle())
             sounded = now;
-        else if (now - sounded > linger)
+        else if (now - sounded > linger || fontChanged())
             return true;
     }
     playOut();

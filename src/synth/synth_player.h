@@ -1,4 +1,5 @@
 #pragma once
+#include "fontfile/font_files.h"
 #include "soundfont/measured_font.h"
 #include "synth/device_guard.h"
 #include "synth/engine.h"
@@ -35,6 +36,8 @@ class SynthPlayer : public Player {
 
     void run();
     void findFont();
+    bool fontChanged() const { return fontfile::markOf(fontFile_) != fontMark_; }
+    void measure(const std::string& font);
     void serve();
     bool watch();
     void playOut();
@@ -50,7 +53,9 @@ class SynthPlayer : public Player {
     Mailbox mailbox_;
     mutable std::mutex fontMutex_;
     std::shared_ptr<soundfont::MeasuredFont> font_;
-    int program_ = 0;  ///< what was chosen last, for the next task
+    std::atomic<int> program_{0};  ///< what was chosen last, for the next task
+    std::string fontFile_;         ///< that is loaded
+    fontfile::Mark fontMark_;
     Engine engine_;
     DeviceGuard guard_;
     std::optional<WavFile> file_;

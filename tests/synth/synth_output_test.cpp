@@ -1,5 +1,6 @@
 #include "synth/synth_output.h"
 
+#include "rehearsal/temp_folder.h"
 #include "synth/mail.h"
 #include "synth/sound_meter.h"
 
@@ -104,6 +105,36 @@ TEST(SynthOutput, EndOfAQueueIsToldExactlyOnceWhateverIsMissing) {
         EXPECT_EQ(drill.output->problem(), row.problem);
         EXPECT_EQ(drill.problems.size(), row.problem == SoundProblem::None ? 0U : 1U);
     }
+}
+
+/// Samples are read when they are needed: from a file that was replaced they would be noise.
+TEST(SynthOutput, ASoundfontThatIsReplacedOrRemovedIsLoadedAnewOrMissed) {
+    const rehearsal::TempFolder folder;
+    const auto copy = folder.path() / "font.sf2", other = folder.path() / "other.sf2";
+    std::filesystem::copy_file(measuredFont, copy);
+    auto options = unpaced("file");
+    options.soundfont = copy;
+    Drill drill(options);
+    drill.output->open(MidiOutput::mapper);
+    int runs = 0;
+    const auto plays = [&] {
+        drill.queueNotes(1, 100);
+        drill.output->start();
+        ++runs;
+        return drill.mail.runUntil([&] { return drill.ends == runs; });
+    };
+    EXPECT_TRUE(plays());
+    // As a damaged one would be: nothing of the old file is of use.
+    std::filesystem::copy_file(measuredFont, other);
+    std::fstream(other, std::ios::in | std::ios::out | std::ios::binary).write("none", 4);
+    std::filesystem::rename(other, copy);
+    EXPECT_TRUE(plays());
+    std::filesystem::remove(copy);
+    EXPECT_TRUE(plays());
+    std::filesystem::copy_file(measuredFont, copy);
+    EXPECT_TRUE(plays());
+    EXPECT_EQ(drill.problems, (std::vector{SoundProblem::NoSoundfont, SoundProblem::None}));
+    std::filesystem::remove(options.audioFile);
 }
 
 TEST(SynthOutput, TheEndOfAnEmptyQueueIsToldAndOfOneThatWasCutIsNot) {
