@@ -90,6 +90,7 @@ double Instrument::lag(int key) const {
 double Instrument::evenness(int key) const {
     constexpr double steepest = 1.5 / 12;  // dB a semitone
     constexpr double most = 9;             // dB; what lacks more is another sound
+    constexpr double louder = 4;  // dB; more than this is not left above the usual velocity
     double count = 0, keys = 0, levels = 0, product = 0, square = 0;
     for (int k = lowestKey; k <= highestKey; ++k) {
         if (!at(k).sounds()) continue;
@@ -105,8 +106,14 @@ double Instrument::evenness(int key) const {
         square += (k - middleKey) * (k - middleKey);
     }
     const double slope = std::clamp(product / square, -steepest, steepest);
-    const double wanted = middleLevel + slope * (key - middleKey);
-    return std::clamp(wanted - at(key).level, -most, most);
+    const auto lacks = [&](int k) {
+        return std::clamp(middleLevel + slope * (k - middleKey) - at(k).level, -most, most);
+    };
+    // The softest note is as loud as it can be, and the others come down to it.
+    double softest = 0;
+    for (int k = lowestKey; k <= highestKey; ++k)
+        if (at(k).sounds()) softest = std::max(softest, lacks(k));
+    return lacks(key) - std::max(0.0, softest - louder);
 }
 
 Fitness Instrument::fitness(int lowest, int highest) const {

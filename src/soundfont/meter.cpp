@@ -5,6 +5,7 @@
 #include "soundfont/fluid_settings.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <stdexcept>
 
@@ -62,18 +63,40 @@ std::optional<Instrument> Meter::measure(int program, const Stop& stop) {
     return instrument;
 }
 
+Tone Meter::playCorrected(int key, double cents) {
+    std::array<double, 128> pitches{};
+    for (std::size_t each = 0; each < pitches.size(); ++each)
+        pitches[each] = 100 * double(each) + (int(each) == key ? cents : 0);
+    fluid_synth_activate_key_tuning(synth_.get(), 0, 0, "", pitches.data(), 0);
+    fluid_synth_activate_tuning(synth_.get(), 0, 0, 0, 0);
+    const Tone tone = play(key, usual);
+    fluid_synth_deactivate_tuning(synth_.get(), 0, 0);
+    return tone;
+}
+
 std::optional<Instrument> Meter::refined(int program, const Instrument& measured,
                                          const Stop& stop) {
+    constexpr double far = 20;   // cents
+    constexpr double right = 3;  // cents
     Instrument instrument = measured;
     choose(program);
     for (int key = lowestKey; key <= highestKey; ++key) {
         Tone& tone = instrument.at(key);
-        if (!tone.sounds() || tone.hasPitch()) continue;
+        if (!tone.sounds()) continue;
         if (stop && stop()) return {};
-        const Tone longer = play(key, longest);
-        if (longer.pitch.uncertainty >= tone.pitch.uncertainty) continue;
-        tone.pitch = longer.pitch;
-        tone.octave = longer.octave;
+        if (!tone.hasPitch()) {
+            const Tone longer = play(key, longest);
+            const double apart = std::abs(longer.pitch.cents - tone.pitch.cents);
+            const double uncertainty = std::max(longer.pitch.uncertainty, apart);
+            if (uncertainty < tone.pitch.uncertainty) {
+                tone.pitch = {longer.pitch.cents, uncertainty};
+                tone.octave = longer.octave;
+            }
+        }
+        const double correction = instrument.correction(key);
+        if (std::abs(correction) < far) continue;
+        const double left = playCorrected(key, correction).pitch.cents;
+        if (std::abs(left) > right) tone.pitch.uncertainty = std::abs(left);
     }
     return instrument;
 }

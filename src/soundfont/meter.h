@@ -20,8 +20,10 @@ class Meter {
 
     /// About 80 ms. @return nothing when it was stopped.
     std::optional<Instrument> measure(int program, const Stop& stop);
-    /// Listens longer to the notes whose pitch is not sure: a vibrato, and voices that beat, have
-    /// one on average. At most 400 ms. @return nothing when it was stopped.
+    /// Listens longer to the notes whose pitch is not sure: a vibrato has one on average, and
+    /// already in its first second. Those far
+    /// off are tried as they will be corrected; some fonts have notes that go another way. At most
+    /// 400 ms. @return nothing when it was stopped.
     std::optional<Instrument> refined(int program, const Instrument& measured, const Stop& stop);
 
     /// Both, one after the other.
@@ -34,6 +36,7 @@ class Meter {
     /// @return whether the font has it; else another one sounds in its place.
     bool choose(int program);
     Tone play(int key, int frames);
+    Tone playCorrected(int key, double cents);
 
     FluidSettings settings_;
     FluidSynth synth_;

@@ -108,6 +108,7 @@ double standardError(std::span<const Weighted> parts) {
 
 /// One partial of the tone.
 struct Partial {
+    int number = 1;
     Pitch pitch;
     double energy = 0;
 };
@@ -116,13 +117,32 @@ Partial partialOf(std::span<const float> sound, double rate, double expected, in
     const double frequency = number * expected;
     const Track track = broughtToRest(sound, rate, frequency, expected);
     const std::size_t count = track.frames.size();
-    if (count < framesOfStretch) return {{0, noPitch}, 0};
+    if (count < framesOfStretch) return {number, {0, noPitch}, 0};
     const std::size_t length = std::max(framesOfStretch, count / stretches);
     std::vector<Weighted> parts;
     for (std::size_t at = 0; at + length <= count; at += length)
         parts.push_back(slope({track.frames.data() + at, length}, track.seconds, frequency));
     const Weighted whole = slope(track.frames, track.seconds, frequency);
-    return {{whole.value, standardError(parts)}, whole.weight};
+    return {number, {whole.value, standardError(parts)}, whole.weight};
+}
+
+/// Cents by which two partials of one tone may differ: those of a stiff string lie the higher the
+/// square of their number.
+double stretched(int number, int other) { return 2.0 * std::abs(number * number - other * other); }
+
+/// The mean of partials of which none is sure. What they disagree by is not known.
+Pitch together(std::span<const Partial> partials) {
+    double weight = 0, mean = 0, scatter = 0;
+    for (const Partial& partial : partials) {
+        const double own = 1 / (partial.pitch.uncertainty * partial.pitch.uncertainty);
+        weight += own;
+        mean += own * partial.pitch.cents;
+    }
+    mean /= weight;
+    for (const Partial& partial : partials)
+        scatter += (partial.pitch.cents - mean) * (partial.pitch.cents - mean) /
+                   (partial.pitch.uncertainty * partial.pitch.uncertainty);
+    return {mean, std::sqrt(std::max(1.0, scatter) / weight)};
 }
 
 }  // namespace
@@ -131,18 +151,24 @@ Pitch pitchOf(std::span<const float> sound, double rate, double expected) {
     constexpr double sure = 1;      // cents
     constexpr double strong = 0.1;  // of the energy of the strongest
     std::vector<Partial> partials;
-    double strongest = 0;
     for (int number = 1; number <= mostPartials && (number == 1 || number * expected < highest);
-         ++number) {
+         ++number)
         partials.push_back(partialOf(sound, rate, expected, number));
-        strongest = std::max(strongest, partials.back().energy);
+    const double strongest = std::ranges::max(partials, {}, &Partial::energy).energy;
+    std::erase_if(partials, [&](const Partial& partial) {
+        return partial.energy < strong * strongest || partial.pitch.uncertainty >= noPitch;
+    });
+    if (partials.empty()) return {0, noPitch};
+    const auto found = std::ranges::find_if(
+        partials, [](const Partial& partial) { return partial.pitch.uncertainty <= sure; });
+    if (found == partials.end()) return together(partials);
+    Pitch pitch = found->pitch;
+    for (const Partial& other : partials) {
+        const double apart = std::abs(other.pitch.cents - pitch.cents);
+        if (apart > stretched(found->number, other.number) + 2 * other.pitch.uncertainty)
+            pitch.uncertainty = std::max(pitch.uncertainty, apart);
     }
-    Pitch found{0, noPitch};
-    for (const Partial& partial : partials) {
-        if (partial.energy < strong * strongest || found.uncertainty <= sure) continue;
-        if (partial.pitch.uncertainty < found.uncertainty) found = partial.pitch;
-    }
-    return found;
+    return pitch;
 }
 
 int octaveOf(std::span<const float> sound, double rate, double expected) {

@@ -10,7 +10,9 @@ struct Pitch {
 };
 
 /// The pitch of a sounding tone near an expected one: that of the lowest of its first three
-/// partials that is strong and sure, divided by its number.
+/// partials that is strong and sure; of several that are not, their mean. Where other strong ones
+/// lie farther off than those of a stiff string would, as with a bell or with voices that beat, the
+/// pitch is as uncertain as they differ.
 ///
 /// A partial is brought down to rest: multiplied with a turn at the frequency that is expected of
 /// it and averaged under a Hann window of four periods of the tone, which lets no neighbour

@@ -24,6 +24,8 @@ constexpr auto lostAfter = 750ms;
 /// How long the device stays open after the last sound: the next task finds it warm, and a drill
 /// that waits for its user costs nothing.
 constexpr auto linger = 1500ms;
+/// How long a sound may be held up by what it is good to know before it.
+constexpr auto unnoticed = 150ms;
 /// What may still lie in the device's buffers.
 constexpr auto deviceBuffer = 60ms;
 
@@ -44,9 +46,8 @@ SynthPlayer::~SynthPlayer() {
     mailbox_.quit();
 }
 
-/// A task whose instrument is not known yet waits for that a little, unnoticed.
+/// A task whose instrument is not known yet waits for that a little.
 void SynthPlayer::put(Command command) {
-    constexpr auto unnoticed = 150ms;
     if (command.kind == Command::Kind::Reset) reopened_ = true;
     const bool chooses = (command.event.status & 0xf0) == 0xc0;
     if (chooses) program_ = command.event.data1 & 0x7f;
@@ -113,7 +114,7 @@ void SynthPlayer::measure(const std::string& font) {
     if (!font.empty()) {
         measured = std::make_shared<soundfont::MeasuredFont>(font, *options_.tables,
                                                              reports_.fitnessKnown);
-        measured->find(program_);
+        measured->wait(program_, unnoticed);
     }
     const std::lock_guard lock(fontMutex_);
     font_.swap(measured);

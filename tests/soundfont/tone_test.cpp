@@ -20,6 +20,7 @@ struct Synthetic {
     double rise = 0;     ///< ms from nothing to its full amplitude
     double noise = 0;    ///< amplitude
     double vibrato = 0;  ///< cents up and down, six times a second
+    double third = 0;    ///< cents by which a strong third partial is off, as a bell's
 };
 
 std::vector<float> sound(double hz, const Synthetic& like) {
@@ -34,7 +35,11 @@ std::vector<float> sound(double hz, const Synthetic& like) {
         phase += hz * std::exp2((like.cents + wave) / 1200) / rate;
         const double swell = like.rise > 0 ? std::min(1.0, 1000 * t / like.rise) : 1;
         double sum = like.noise * noise(chance);
-        for (int k = 1; k <= 6; ++k) sum += std::sin(2 * std::numbers::pi * k * phase) / (4 * k);
+        for (int k = 1; k <= 6; ++k) {
+            const double ratio = k == 3 ? 3 * std::exp2(like.third / 1200) : k;
+            const double strength = like.third != 0 && k == 3 ? 4 : 4 * k;
+            sum += std::sin(2 * std::numbers::pi * ratio * phase) / strength;
+        }
         samples[i] = static_cast<float>(sum * swell * std::exp(-like.decay * t));
     }
     return samples;
@@ -60,6 +65,8 @@ TEST(Tone, WhatCannotBeSureIsNot) {
     EXPECT_NEAR(wavering.pitch.cents, 5, 3 * wavering.pitch.uncertainty) << "on both sides alike";
     EXPECT_GT(wavering.pitch.uncertainty, 0.3);
     EXPECT_FALSE(toneOf(sound(hz, {.decay = 60, .noise = 3}), rate, hz).hasPitch()) << "a noise";
+    EXPECT_FALSE(toneOf(sound(hz, {.third = 50}), rate, hz).hasPitch()) << "a bell";
+    EXPECT_TRUE(toneOf(sound(hz, {.third = 8}), rate, hz).hasPitch()) << "a stiff string";
     const Tone silent = toneOf(std::vector<float>(26460), rate, hz);
     EXPECT_FALSE(silent.sounds() || silent.hasPitch() || silent.isSteep());
     EXPECT_FALSE(toneOf({}, rate, hz).sounds());
