@@ -87,7 +87,7 @@ std::optional<Instrument> Meter::refined(int program, const Instrument& measured
         if (!tone.hasPitch()) {
             const Tone longer = play(key, longest);
             const double apart = std::abs(longer.pitch.cents - tone.pitch.cents);
-            const double uncertainty = std::max(longer.pitch.uncertainty, apart);
+            const double uncertainty = std::max(longer.pitch.uncertainty, apart / 2);
             if (uncertainty < tone.pitch.uncertainty) {
                 tone.pitch = {longer.pitch.cents, uncertainty};
                 tone.octave = longer.octave;
