@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QStylePainter>
@@ -50,6 +51,13 @@ class ChoiceBox final : public QComboBox {
     void setGround(const QColor& ground) {
         ground_ = ground;
         update();
+    }
+
+    /// Open, it is as wide as its longest item.
+    void showPopup() override {
+        const int bar = view()->verticalScrollBar()->sizeHint().width();
+        view()->setMinimumWidth(view()->sizeHintForColumn(0) + bar);
+        QComboBox::showPopup();
     }
 
   protected:

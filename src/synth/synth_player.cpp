@@ -110,14 +110,16 @@ void SynthPlayer::findFont() {
 /// @param font empty for none.
 void SynthPlayer::measure(const std::string& font) {
     if (!options_.tables) return;
-    std::shared_ptr<soundfont::MeasuredFont> measured;
-    if (!font.empty()) {
-        measured = std::make_shared<soundfont::MeasuredFont>(font, *options_.tables,
-                                                             reports_.fitnessKnown);
-        measured->wait(program_, unnoticed);
+    std::shared_ptr<soundfont::MeasuredFont> last;
+    {
+        // It may tell at once what it knows: whoever asks then must find it.
+        const std::lock_guard lock(fontMutex_);
+        last = std::move(font_);
+        if (!font.empty())
+            font_ = std::make_shared<soundfont::MeasuredFont>(font, *options_.tables,
+                                                              reports_.fitnessKnown);
     }
-    const std::lock_guard lock(fontMutex_);
-    font_.swap(measured);
+    if (!font.empty()) this->font()->wait(program_, unnoticed);
 }
 
 std::shared_ptr<soundfont::MeasuredFont> SynthPlayer::font() const {

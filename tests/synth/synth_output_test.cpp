@@ -114,7 +114,11 @@ TEST(SynthOutput, ASoundfontThatIsReplacedOrRemovedIsLoadedAnewOrMissed) {
     std::filesystem::copy_file(measuredFont, copy);
     auto options = unpaced("file");
     options.soundfont = copy;
+    options.tables = soundfont::TablePlaces{MELVORA_FONT_TABLES, folder.path(), {}};
     Drill drill(options);
+    auto piano = sound::Fitness::Unknown;
+    const auto told =
+        drill.output->fitnessKnown.connect([&] { piano = drill.output->fitness(0, 60, 72); });
     drill.output->open(MidiOutput::mapper);
     int runs = 0;
     const auto plays = [&] {
@@ -124,6 +128,8 @@ TEST(SynthOutput, ASoundfontThatIsReplacedOrRemovedIsLoadedAnewOrMissed) {
         return drill.mail.runUntil([&] { return drill.ends == runs; });
     };
     EXPECT_TRUE(plays());
+    EXPECT_TRUE(drill.mail.runUntil([&] { return piano != sound::Fitness::Unknown; }))
+        << "what is told can be asked for";
     // As a damaged one would be: nothing of the old file is of use.
     std::filesystem::copy_file(measuredFont, other);
     std::fstream(other, std::ios::in | std::ios::out | std::ios::binary).write("none", 4);
