@@ -34,8 +34,8 @@ class Instrument {
     /// instrument where its own attack does not let one tell, and 0 where most do not.
     double lag(int key) const;
     /// Decibels by which a note is to be louder to be as loud as the others, of which each lies on
-    /// one line: higher notes may be a little louder or softer, none stands out. At most 4, which the
-    /// usual velocity leaves: where a note lacks more, all others are softer.
+    /// one line: higher notes may be a little louder or softer, none stands out. At most 4, which
+    /// the usual velocity leaves: where a note lacks more, all others are softer.
     double evenness(int key) const;
     /// From a lowest to a highest note.
     Fitness fitness(int lowest, int highest) const;

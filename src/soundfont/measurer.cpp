@@ -2,23 +2,23 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 #include <utility>
-
-extern char** environ;
 
 namespace soundfont {
 
 Measurer::Measurer(const std::filesystem::path& tool, const std::string& font,
                    const std::vector<int>& programs) {
     std::vector<std::string> words{tool.string(), font};
+    words.reserve(words.size() + programs.size());
     for (const int program : programs) words.push_back(std::to_string(program));
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
 

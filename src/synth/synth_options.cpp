@@ -11,8 +11,6 @@
 
 namespace synth {
 
-namespace fs = std::filesystem;
-
 namespace {
 
 std::string libraryDefault() {
