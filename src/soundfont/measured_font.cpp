@@ -52,12 +52,12 @@ fs::path tableFile(const fs::path& folder, const FontTable::Origin& origin) {
 fs::path measureWhole(const std::string& font, const fs::path& folder,
                       const std::function<void(int)>& progress) {
     Meter meter(font);
+    fs::create_directories(folder);
     FontTable table({digestOfFile(font), Meter::version()});
     for (int program = 0; program < programCount; ++program) {
         table.set(program, meter.measureWhole(program));
         progress(program + 1);
     }
-    fs::create_directories(folder);
     fs::path file = tableFile(folder, table.origin());
     table.save(file);
     return file;
