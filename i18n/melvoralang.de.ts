@@ -531,5 +531,12 @@
 <message id="1335s"><translation>wie üblich</translation></message>
 <message id="1336s"><translation>%1 (fehlt)</translation></message>
 <message id="1337s"><translation>fehlt, ein anderes erklingt</translation></message>
+<message id="1338s"><translation>E&amp;xportieren …</translation></message>
+<message id="1339s"><translation>Ergebnisse exportieren</translation></message>
+<message id="1340s"><translation>Tabellen</translation></message>
+<message id="1341s"><translation>Ergebnisse werden geschrieben …</translation></message>
+<message id="1342s"><translation>%1 Übungen und %2 Antworten stehen in %3 und %4.</translation></message>
+<message id="1343s"><translation>Nicht lesbar und daher ohne Antworten: %1.</translation></message>
+<message id="1344s"><translation>Die Ergebnisse sind nicht geschrieben: %1. Wählen Sie einen anderen Ordner, oder schaffen Sie Platz.</translation></message>
 </context>
 </TS>

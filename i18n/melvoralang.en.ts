@@ -531,5 +531,12 @@
 <message id="1335s"><translation>the usual ones</translation></message>
 <message id="1336s"><translation>%1 (missing)</translation></message>
 <message id="1337s"><translation>missing, another one sounds</translation></message>
+<message id="1338s"><translation>E&amp;xport…</translation></message>
+<message id="1339s"><translation>Export results</translation></message>
+<message id="1340s"><translation>Tables</translation></message>
+<message id="1341s"><translation>Writing results…</translation></message>
+<message id="1342s"><translation>%1 exercises and %2 answers are in %3 and %4.</translation></message>
+<message id="1343s"><translation>Not readable and therefore without answers: %1.</translation></message>
+<message id="1344s"><translation>The results were not written: %1. Choose another folder, or make room.</translation></message>
 </context>
 </TS>

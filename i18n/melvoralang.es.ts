@@ -531,5 +531,12 @@
 <message id="1335s"><translation>los habituales</translation></message>
 <message id="1336s"><translation>%1 (falta)</translation></message>
 <message id="1337s"><translation>falta, suena otro</translation></message>
+<message id="1338s"><translation>E&amp;xportar…</translation></message>
+<message id="1339s"><translation>Exportar resultados</translation></message>
+<message id="1340s"><translation>Tablas</translation></message>
+<message id="1341s"><translation>Escribiendo resultados…</translation></message>
+<message id="1342s"><translation>%1 ejercicios y %2 respuestas están en %3 y %4.</translation></message>
+<message id="1343s"><translation>Ilegibles y por ello sin respuestas: %1.</translation></message>
+<message id="1344s"><translation>No se han escrito los resultados: %1. Elija otra carpeta o libere espacio.</translation></message>
 </context>
 </TS>

@@ -531,5 +531,12 @@
 <message id="1335s"><translation>habituels</translation></message>
 <message id="1336s"><translation>%1 (absent)</translation></message>
 <message id="1337s"><translation>absent, un autre le remplace</translation></message>
+<message id="1338s"><translation>E&amp;xporter…</translation></message>
+<message id="1339s"><translation>Exporter les résultats</translation></message>
+<message id="1340s"><translation>Tableaux</translation></message>
+<message id="1341s"><translation>Écriture des résultats…</translation></message>
+<message id="1342s"><translation>%1 exercices et %2 réponses se trouvent dans %3 et %4.</translation></message>
+<message id="1343s"><translation>Illisibles et donc sans réponses : %1.</translation></message>
+<message id="1344s"><translation>Les résultats n’ont pas été écrits : %1. Choisissez un autre dossier ou libérez de l’espace.</translation></message>
 </context>
 </TS>

@@ -2,10 +2,15 @@
 
 #include "core/wort.h"
 #include "melvora/record_html.h"
+#include "melvora/result_csv.h"
 #include "suite/look.h"
 
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
+#include <QProgressDialog>
 #include <QSplitter>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,6 +26,7 @@ ResultsPage::ResultsPage(Host& host, QWidget* parent)
       filter_(new QLineEdit(this)),
       allUsers_(new QCheckBox(this)),
       emptyRuns_(new QCheckBox(this)),
+      export_(new QPushButton(this)),
       table_(new TextTable(this)),
       record_(new QTextBrowser(this)) {
     layOut();
@@ -32,6 +38,7 @@ ResultsPage::ResultsPage(Host& host, QWidget* parent)
     for (const QCheckBox* box : {allUsers_, emptyRuns_})
         connect(box, &QCheckBox::toggled, this, [this] { showRows(); });
     connect(table_, &TextTable::chosen, this, &ResultsPage::showRecord);
+    connect(export_, &QPushButton::clicked, this, &ResultsPage::askAndExport);
     connect(&host_, &Host::resultsChanged, this, [this] { refresh(); });
     connect(&host_, &Host::usersChanged, this, [this] { refresh(); });
     retranslate();
@@ -46,6 +53,7 @@ void ResultsPage::layOut() {
     bar->addWidget(filter_, 1);
     bar->addWidget(allUsers_);
     bar->addWidget(emptyRuns_);
+    bar->addWidget(export_);
     auto* splitter = new QSplitter(Qt::Vertical, this);
     splitter->addWidget(table_);
     splitter->addWidget(record_);
@@ -64,6 +72,7 @@ void ResultsPage::retranslate() {
     filter_->setPlaceholderText(words.wort(wort::searchText));
     allUsers_->setText(words.wort(wort::allUsers));
     emptyRuns_->setText(words.wort(wort::emptyRuns));
+    export_->setText(words.wort(wort::exportButton));
     QStringList headings;
     for (const wort::Id heading : {wort::begun, wort::userHeading, wort::branch, wort::exercise,
                                    wort::exerciseMode, wort::scaleType, wort::rightAtFirst})
@@ -107,6 +116,7 @@ void ResultsPage::showRows() {
     }
     showEmptyText();
     table_->setRows(rows, keys);
+    export_->setEnabled(!rows.isEmpty());
     const auto found = std::ranges::find(listed_, chosen, &Result::id);
     table_->chooseRow(found == listed_.end() ? -1 : static_cast<int>(found - listed_.begin()));
     record_->setVisible(!rows.isEmpty());
@@ -127,6 +137,50 @@ void ResultsPage::showRecord(int row) {
             record_->setHtml(
                 recordHtml(host_.words(), *record, result.started, nameOf(result.user)));
     });
+}
+
+void ResultsPage::askAndExport() {
+    const Words& words = host_.words();
+    QFileDialog dialog(this, words.wort(wort::exportTitle),
+                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                       words.wort(wort::tables) + " (*.csv)");
+    // The system's own speaks the system's language.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("csv");
+    dialog.selectFile("melvora-" + QDate::currentDate().toString(Qt::ISODate) + ".csv");
+    if (dialog.exec() == QDialog::Accepted) exportTo(dialog.selectedFiles().value(0));
+}
+
+void ResultsPage::exportTo(const QString& path) {
+    const Words& words = host_.words();
+    QList<Result> runs;
+    for (const int row : table_->shownRows()) runs.append(listed_[row]);
+    const auto count = static_cast<int>(runs.size());
+    QProgressDialog progress(words.wort(wort::exporting), words.wort(wort::cancel), 0, count, this);
+    progress.setWindowModality(Qt::WindowModal);
+    try {
+        ResultCsv csv(path);
+        for (int i = 0; i < count; ++i) {
+            progress.setValue(i);
+            if (progress.wasCanceled()) return;
+            const QByteArray xml = host_.store().results.text(runs[i].id).toUtf8();
+            csv.add(runs[i], nameOf(runs[i].user), parseResultRecord(xml));
+        }
+        csv.finish();
+        QString told = words.wort(wort::exported)
+                           .arg(count)
+                           .arg(csv.answers())
+                           .arg(csv.answersFile(), QFileInfo(csv.runsFile()).fileName());
+        if (csv.unreadable() > 0)
+            told += " " + words.wort(wort::exportedUnreadable).arg(csv.unreadable());
+        emit host_.noticed(told, Host::Details::Here);
+    } catch (const CsvError& fault) {
+        emit host_.noticed(words.wort(wort::exportFailed).arg(QString::fromUtf8(fault.what())),
+                           Host::Details::Here);
+    } catch (const StoreError& fault) {
+        host_.tell(fault);
+    }
 }
 
 QString ResultsPage::nameOf(const QString& key) const { return names_.value(key, key); }

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTextBrowser>
 
 namespace melvora {
@@ -19,6 +20,9 @@ class ResultsPage final : public Page {
     void retranslate() override;
     QString helpPage() const override { return "melvora_results"; }
     void chooseNewest() { table_->chooseRow(0); }
+    /// Writes the results that are shown, as they are sorted, to a file of answers and one of runs,
+    /// and tells what became of it.
+    void exportTo(const QString& path);
 
   private:
     void layOut();
@@ -26,6 +30,7 @@ class ResultsPage final : public Page {
     void showRows();
     void showEmptyText();
     void showRecord(int row);
+    void askAndExport();
     /// Name of a user, or the key of one who is not there any more.
     QString nameOf(const QString& key) const;
 
@@ -37,6 +42,7 @@ class ResultsPage final : public Page {
     QLineEdit* filter_;
     QCheckBox* allUsers_;
     QCheckBox* emptyRuns_;
+    QPushButton* export_;
     TextTable* table_;
     QTextBrowser* record_;
 };

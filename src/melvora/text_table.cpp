@@ -160,6 +160,13 @@ void TextTable::showRows() {
     stack_->setCurrentWidget(shown_->rowCount() == 0 ? static_cast<QWidget*>(empty_) : view_);
 }
 
+QList<int> TextTable::shownRows() const {
+    QList<int> rows;
+    for (int i = 0; i < shown_->rowCount(); ++i)
+        rows.append(shown_->mapToSource(shown_->index(i, 0)).row());
+    return rows;
+}
+
 int TextTable::row() const {
     const auto rows = view_->selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : shown_->mapToSource(rows.first()).row();

@@ -59,6 +59,8 @@ class TextTable final : public QWidget {
     /// Number of the chosen row, -1 when there is none.
     int row() const;
     void chooseRow(int row);
+    /// Numbers of the rows that are shown, from top to bottom.
+    QList<int> shownRows() const;
     /// Makes it as high as that many rows and the headings, which must be set.
     void setHeightInRows(int rows);
     QTableView* view() const { return view_; }
